@@ -1,0 +1,192 @@
+#include "app/Date.h"
+
+#include <array>
+#include <optional>
+#include <vector>
+
+#include "app/Error.h"
+#include "app/Text.h"
+
+namespace dayvane {
+
+namespace {
+
+using std::chrono::days;
+using std::chrono::local_days;
+using std::chrono::seconds;
+
+constexpr std::int64_t kSecondsPerDay = 86400;
+constexpr local_days kDayZero{std::chrono::year{1899} / 12 / 30};
+
+[[noreturn]] void FailNoDate(std::string_view text) {
+  throw Error(kTypeMismatch, "Type mismatch: \"" + std::string(text) + "\" is no date");
+}
+
+const platform::DateConventions& English() {
+  static const platform::DateConventions conventions;
+  return conventions;
+}
+
+std::optional<int> MonthNumber(std::string_view text, const platform::DateConventions& conventions) {
+  if (text::IsNumeric(text)) return text::ToInt32(text);
+  for (const auto* names : {&conventions.monthNames, &English().monthNames})
+    for (std::size_t i = 0; i < names->size(); ++i)
+      if (text::CompareIgnoringCase(text, (*names)[i]) == 0) return static_cast<int>(i) + 1;
+  return std::nullopt;
+}
+
+std::optional<int> Number(std::string_view text) {
+  return text::IsNumeric(text) ? text::ToInt32(text) : std::nullopt;
+}
+
+int FullYear(int year, std::string_view text) {
+  if (text.size() > 2) return year;
+  return year < 30 ? 2000 + year : 1900 + year;
+}
+
+std::vector<std::string_view> SplitAt(std::string_view text, char separator) {
+  std::vector<std::string_view> parts;
+  for (;;) {
+    const auto end = text.find(separator);
+    parts.push_back(text::Trim(text.substr(0, end)));
+    if (end == std::string_view::npos) return parts;
+    text.remove_prefix(end + 1);
+  }
+}
+
+/// One field of a pattern and how to write it; the longest token that fits is taken first.
+struct Token {
+  std::string_view name;
+  std::string (*write)(const Date&, const platform::DateConventions&, bool twelveHours);
+};
+
+int HourToShow(const Date& date, bool twelveHours) {
+  return twelveHours ? (date.Hour() + 11) % 12 + 1 : date.Hour();
+}
+
+using Conventions = platform::DateConventions;
+
+constexpr std::array kTokens{
+    Token{"AM/PM", [](const Date& d, const Conventions& c, bool) { return d.Hour() < 12 ? c.am : c.pm; }},
+    Token{"yyyy", [](const Date& d, const Conventions&, bool) { return text::Padded(d.Year(), 4); }},
+    Token{"yy", [](const Date& d, const Conventions&, bool) { return text::Padded(d.Year() % 100, 2); }},
+    Token{"mmmm", [](const Date& d, const Conventions& c, bool) { return c.monthNames[d.Month() - 1]; }},
+    Token{"mm", [](const Date& d, const Conventions&, bool) { return text::Padded(d.Month(), 2); }},
+    Token{"m", [](const Date& d, const Conventions&, bool) { return std::to_string(d.Month()); }},
+    Token{"dd", [](const Date& d, const Conventions&, bool) { return text::Padded(d.Day(), 2); }},
+    Token{"d", [](const Date& d, const Conventions&, bool) { return std::to_string(d.Day()); }},
+    Token{"hh", [](const Date& d, const Conventions&, bool twelve) { return text::Padded(HourToShow(d, twelve), 2); }},
+    Token{"h", [](const Date& d, const Conventions&, bool twelve) { return std::to_string(HourToShow(d, twelve)); }},
+    Token{"nn", [](const Date& d, const Conventions&, bool) { return text::Padded(d.Minute(), 2); }},
+    Token{"ss", [](const Date& d, const Conventions&, bool) { return text::Padded(d.Second(), 2); }},
+};
+
+const Token* TokenAt(std::string_view pattern) {
+  for (const Token& token : kTokens)
+    if (pattern.starts_with(token.name)) return &token;
+  return nullptr;
+}
+
+const Token& MinutesToken() {
+  for (const Token& token : kTokens)
+    if (token.name == "nn") return token;
+  return kTokens.front();
+}
+
+}  // namespace
+
+Date::Date(std::chrono::local_seconds local) : m_seconds((local - kDayZero).count()) {}
+
+Date Date::Of(int year, unsigned month, unsigned day, int hour, int minute, int second) {
+  const std::chrono::year_month_day date{std::chrono::year{year}, std::chrono::month{month}, std::chrono::day{day}};
+  const bool timeFits = hour >= 0 && hour < 24 && minute >= 0 && minute < 60 && second >= 0 && second < 60;
+  if (!date.ok() || year < 100 || year > 9999 || !timeFits)
+    FailNoDate(std::to_string(month) + "/" + std::to_string(day) + "/" + std::to_string(year));
+  return Date(local_days{date} + seconds{hour * 3600 + minute * 60 + second});
+}
+
+std::int64_t Date::DayNumber() const {
+  return m_seconds >= 0 ? m_seconds / kSecondsPerDay : -((-m_seconds + kSecondsPerDay - 1) / kSecondsPerDay);
+}
+
+int Date::SecondOfDay() const {
+  return static_cast<int>(m_seconds - DayNumber() * kSecondsPerDay);
+}
+
+std::chrono::year_month_day Date::Calendar() const {
+  return std::chrono::year_month_day{kDayZero + days{DayNumber()}};
+}
+
+int Date::Year() const {
+  return static_cast<int>(Calendar().year());
+}
+unsigned Date::Month() const {
+  return static_cast<unsigned>(Calendar().month());
+}
+unsigned Date::Day() const {
+  return static_cast<unsigned>(Calendar().day());
+}
+Date Date::AddDays(int count) const {
+  return Date(m_seconds + count * kSecondsPerDay);
+}
+Date Date::Midnight() const {
+  return Date(DayNumber() * kSecondsPerDay);
+}
+
+std::string Format(const Date& date, std::string_view pattern, const platform::DateConventions& conventions) {
+  if (pattern == "Short Time") pattern = conventions.shortTime;
+  if (pattern == "Short Date") pattern = conventions.shortDate;
+  const bool twelveHours = pattern.find("AM/PM") != std::string_view::npos;
+  std::string out;
+  bool afterHours = false;
+  while (!pattern.empty()) {
+    const Token* token = TokenAt(pattern);
+    if (token == nullptr) {
+      out += pattern[0];
+      pattern.remove_prefix(1);
+      continue;
+    }
+    pattern.remove_prefix(token->name.size());
+    if (afterHours && token->name == "mm") token = &MinutesToken();
+    afterHours = token->name.starts_with('h');
+    out += token->write(date, conventions, twelveHours);
+  }
+  return out;
+}
+
+Date ParseMonthFirst(std::string_view text, const platform::DateConventions& conventions) {
+  const auto parts = SplitAt(text, '/');
+  if (parts.size() != 2 && parts.size() != 3) FailNoDate(text);
+  const auto month = MonthNumber(parts.front(), conventions);
+  const auto day = parts.size() == 3 ? Number(parts[1]) : 1;
+  const auto year = Number(parts.back());
+  if (!month || !day || !year) FailNoDate(text);
+  return Date::Of(FullYear(*year, parts.back()), static_cast<unsigned>(*month), static_cast<unsigned>(*day));
+}
+
+DateParts SplitShortDate(std::string_view text, const platform::DateConventions& conventions) {
+  DateParts parts;
+  std::string_view pattern = conventions.shortDate;
+  const std::string_view whole = text;
+  for (int found = 0; found < 3; ++found) {
+    const auto field = pattern.find_first_of("dmy");
+    if (field == std::string_view::npos) FailNoDate(whole);
+    const char kind = pattern[field];
+    const auto fieldEnd = std::min(pattern.find_first_not_of(kind, field), pattern.size());
+    const std::string_view prefix = pattern.substr(0, field);
+    if (!text.starts_with(prefix)) FailNoDate(whole);
+    text.remove_prefix(prefix.size());
+    pattern.remove_prefix(fieldEnd);
+    const auto nextField = pattern.find_first_of("dmy");
+    const std::string_view separator = pattern.substr(0, std::min(nextField, pattern.size()));
+    const auto end = separator.empty() ? text.size() : std::min(text.find(separator), text.size());
+    const std::string_view value = text.substr(0, end);
+    const auto number = kind == 'm' ? MonthNumber(value, conventions) : Number(value);
+    if (!number) FailNoDate(whole);
+    (kind == 'm' ? parts.month : kind == 'd' ? parts.day : parts.year) = *number;
+    text.remove_prefix(end);
+  }
+  return parts;
+}
+
+}  // namespace dayvane

@@ -1,0 +1,68 @@
+#pragma once
+
+#include <chrono>
+#include <compare>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "platform/DateConventions.h"
+
+namespace dayvane {
+
+/// The user's local date and time in whole seconds, on a day scale whose day 0 (1899-12-30) means "no date".
+class Date {
+ public:
+  /// The zero date: no date.
+  Date() = default;
+  Date(std::chrono::local_seconds local);  // NOLINT(google-explicit-constructor): the clock's and the disk's own type
+
+  /// Fails with kTypeMismatch when the parts are no date or time of day.
+  static Date Of(int year, unsigned month, unsigned day, int hour = 0, int minute = 0, int second = 0);
+
+  bool IsZero() const { return m_seconds == 0; }
+  bool HasDatePart() const { return DayNumber() != 0; }
+  bool HasTimePart() const { return SecondOfDay() != 0; }
+
+  int Year() const;
+  unsigned Month() const;  ///< 1 … 12
+  unsigned Day() const;    ///< 1 … 31
+  int Hour() const { return SecondOfDay() / 3600; }
+  int Minute() const { return SecondOfDay() / 60 % 60; }
+  int Second() const { return SecondOfDay() % 60; }
+
+  Date AddDays(int days) const;
+  Date Midnight() const;
+
+  friend auto operator<=>(const Date&, const Date&) = default;
+
+ private:
+  explicit Date(std::int64_t seconds) : m_seconds(seconds) {}
+  std::int64_t DayNumber() const;
+  int SecondOfDay() const;
+  std::chrono::year_month_day Calendar() const;
+
+  std::int64_t m_seconds = 0;  ///< since day 0, midnight
+};
+
+/// The date written with a pattern. Known are d, dd, m, mm, mmmm (full month name), yy, yyyy, h, hh, nn (minutes),
+/// ss and AM/PM; "Short Time" and "Short Date" stand for the user's own patterns; everything else is literal. An "mm"
+/// that follows "hh" means minutes.
+std::string Format(const Date& date, std::string_view pattern, const platform::DateConventions& conventions);
+
+/// A month-first date text, "January/05/1998", "1/5/1998", or month and year alone, "1/98". The month is a number or a
+/// full month name, the user's or English; two-digit years are 1930 … 2029. The result is midnight.
+/// Fails with kTypeMismatch when the text is no date.
+Date ParseMonthFirst(std::string_view text, const platform::DateConventions& conventions);
+
+struct DateParts {
+  int month = 0;
+  int day = 0;
+  int year = 0;
+};
+
+/// The numbers of a date's text in the user's short date form, in which the month may also be a full name.
+/// Fails with kTypeMismatch when the text has not three parts.
+DateParts SplitShortDate(std::string_view text, const platform::DateConventions& conventions);
+
+}  // namespace dayvane

@@ -1,0 +1,171 @@
+#include "app/Text.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cwctype>
+#include <locale>
+
+namespace dayvane::text {
+
+namespace {
+
+/// Case tables for all of Unicode. The classic locale knows ASCII alone on some systems, so a UTF-8 one is preferred;
+/// no user setting is consulted, because a path must fold alike on every start.
+const std::ctype<wchar_t>& CaseTables() {
+  static const std::locale locale = [] {
+    for (const char* name : {"C.UTF-8", "C.utf8", "en_US.UTF-8"}) {
+      try {
+        return std::locale(name);
+      } catch (const std::runtime_error&) {
+        // Not on this system: the next name may be.
+      }
+    }
+    return std::locale::classic();
+  }();
+  return std::use_facet<std::ctype<wchar_t>>(locale);
+}
+
+bool IsAscii(std::string_view text) {
+  return std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+}
+
+char AsciiUpper(char c) {
+  return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+}
+char AsciiLower(char c) {
+  return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
+/// Length of the UTF-8 sequence that starts here and its code point, or 0 where the bytes are none.
+std::size_t Decode(std::string_view text, char32_t& codePoint) {
+  const auto lead = static_cast<unsigned char>(text[0]);
+  const std::size_t length = lead < 0x80   ? 1
+                             : lead < 0xC2 ? 0
+                             : lead < 0xE0 ? 2
+                             : lead < 0xF0 ? 3
+                             : lead < 0xF5 ? 4
+                                           : 0;
+  if (length == 0 || length > text.size()) return 0;
+  codePoint = length == 1 ? lead : lead & (0x7FU >> length);
+  for (std::size_t i = 1; i < length; ++i) {
+    const auto byte = static_cast<unsigned char>(text[i]);
+    if ((byte & 0xC0U) != 0x80U) return 0;
+    codePoint = (codePoint << 6) | (byte & 0x3FU);
+  }
+  return length;
+}
+
+void Encode(char32_t codePoint, std::string& out) {
+  if (codePoint < 0x80) {
+    out += static_cast<char>(codePoint);
+    return;
+  }
+  const int continuations = codePoint < 0x800 ? 1 : codePoint < 0x10000 ? 2 : 3;
+  static constexpr unsigned kLeads[] = {0, 0xC0, 0xE0, 0xF0};
+  out += static_cast<char>(kLeads[continuations] | (codePoint >> (6 * continuations)));
+  for (int i = continuations - 1; i >= 0; --i) out += static_cast<char>(0x80U | ((codePoint >> (6 * i)) & 0x3FU));
+}
+
+template <class Ascii, class Wide>
+std::string MapCase(std::string_view text, Ascii ascii, Wide wide) {
+  std::string out;
+  out.reserve(text.size());
+  if (IsAscii(text)) {
+    std::transform(text.begin(), text.end(), std::back_inserter(out), ascii);
+    return out;
+  }
+  while (!text.empty()) {
+    char32_t codePoint = 0;
+    const std::size_t length = Decode(text, codePoint);
+    if (length == 0) {
+      out += text[0];
+      text.remove_prefix(1);
+      continue;
+    }
+    // A platform whose wide characters have 16 bits has no mapping for what lies beyond them.
+    const bool mappable = codePoint <= static_cast<char32_t>(WCHAR_MAX);
+    Encode(mappable ? static_cast<char32_t>(wide(static_cast<wchar_t>(codePoint))) : codePoint, out);
+    text.remove_prefix(length);
+  }
+  return out;
+}
+
+}  // namespace
+
+std::string_view Trim(std::string_view text) {
+  const auto first = text.find_first_not_of(' ');
+  if (first == std::string_view::npos) return {};
+  return text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+std::string ToUpper(std::string_view text) {
+  return MapCase(text, AsciiUpper, [](wchar_t c) { return CaseTables().toupper(c); });
+}
+
+std::string ToLower(std::string_view text) {
+  return MapCase(text, AsciiLower, [](wchar_t c) { return CaseTables().tolower(c); });
+}
+
+int CompareIgnoringCase(std::string_view left, std::string_view right) {
+  if (IsAscii(left) && IsAscii(right)) {
+    const std::size_t common = std::min(left.size(), right.size());
+    for (std::size_t i = 0; i < common; ++i) {
+      const char a = AsciiLower(left[i]);
+      const char b = AsciiLower(right[i]);
+      if (a != b) return a < b ? -1 : 1;
+    }
+    return left.size() < right.size() ? -1 : left.size() > right.size() ? 1 : 0;
+  }
+  const int order = ToLower(left).compare(ToLower(right));
+  return order < 0 ? -1 : order > 0 ? 1 : 0;
+}
+
+bool EndsWithIgnoringCase(std::string_view text, std::string_view ending) {
+  return text.size() >= ending.size() && CompareIgnoringCase(text.substr(text.size() - ending.size()), ending) == 0;
+}
+
+std::optional<std::int32_t> ToInt32(std::string_view text) {
+  text = Trim(text);
+  if (text.starts_with('+')) text.remove_prefix(1);
+  std::int32_t number = 0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+  if (error != std::errc{} || end != text.data() + text.size()) return std::nullopt;
+  return number;
+}
+
+bool IsNumeric(std::string_view text) {
+  return !text.empty() && std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
+}
+
+std::string Padded(std::int64_t number, int digits) {
+  std::string plain = std::to_string(number);
+  const auto width = static_cast<std::size_t>(digits);
+  if (plain.size() < width) plain.insert(number < 0 ? 1 : 0, width - plain.size(), '0');
+  return plain;
+}
+
+bool MatchesPattern(std::string_view name, std::string_view pattern) {
+  if (pattern == "*.*") return true;
+  // Greedy matching that falls back to the last "*" needs no recursion, so no name can make it slow.
+  std::size_t n = 0;
+  std::size_t p = 0;
+  std::size_t star = std::string_view::npos;
+  std::size_t resume = 0;
+  while (n < name.size()) {
+    if (p < pattern.size() && pattern[p] == '*') {
+      star = p++;
+      resume = n;
+    } else if (p < pattern.size() && (pattern[p] == '?' || AsciiLower(pattern[p]) == AsciiLower(name[n]))) {
+      ++p;
+      ++n;
+    } else if (star != std::string_view::npos) {
+      p = star + 1;
+      n = ++resume;
+    } else {
+      return false;
+    }
+  }
+  return pattern.find_first_not_of('*', p) == std::string_view::npos;
+}
+
+}  // namespace dayvane::text

@@ -1,0 +1,134 @@
+#include "linux/files/NativePath.h"
+
+#include <cstdlib>
+#include <dirent.h>
+#include <memory>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "app/Text.h"
+
+namespace dayvane::files {
+
+namespace {
+
+constexpr std::string_view kQuoteStandIn = "\xEF\x80\xA2";      // U+F022
+constexpr std::string_view kBackslashStandIn = "\xEF\x81\x9C";  // U+F05C
+
+void ReplaceAll(std::string& text, std::string_view from, std::string_view to) {
+  for (auto at = text.find(from); at != std::string::npos; at = text.find(from, at + to.size()))
+    text.replace(at, from.size(), to);
+}
+
+std::string NativePart(std::string_view part) {
+  std::string native(part);
+  for (char& c : native)
+    if (c == '\\') c = '/';
+  ReplaceAll(native, kQuoteStandIn, "\"");
+  ReplaceAll(native, kBackslashStandIn, "\\");
+  return native;
+}
+
+/// Folder that a drive of the user's Windows environment stands for, when there is such an environment.
+std::optional<std::string> DriveFolder(char letter) {
+  const char* prefix = std::getenv("WINEPREFIX");
+  const char* home = std::getenv("HOME");
+  std::string devices = prefix != nullptr ? prefix : std::string(home != nullptr ? home : "") + "/.wine";
+  devices += "/dosdevices/";
+  devices += letter;
+  devices += ':';
+  const std::unique_ptr<char, decltype(&std::free)> folder(realpath(devices.c_str(), nullptr), &std::free);
+  if (!folder) return std::nullopt;
+  return std::string(folder.get());
+}
+
+bool Exists(const std::string& path) {
+  return access(path.c_str(), F_OK) == 0;
+}
+
+/// The name in the folder that differs from `name` only in letter case.
+std::optional<std::string> FindIgnoringCase(const std::string& folder, const std::string& name) {
+  const std::unique_ptr<DIR, int (*)(DIR*)> open(opendir(folder.c_str()), &closedir);
+  if (!open) return std::nullopt;
+  while (const dirent* entry = readdir(open.get()))
+    if (text::CompareIgnoringCase(entry->d_name, name) == 0) return std::string(entry->d_name);
+  return std::nullopt;
+}
+
+}  // namespace
+
+std::optional<std::string> ToNative(std::string_view path) {
+  if (path.size() < 2 || path[1] != ':') return std::nullopt;
+  const char letter = static_cast<char>(path[0] | 0x20);
+  if (letter < 'a' || letter > 'z') return std::nullopt;
+  std::string native = NativePart(path.substr(2));
+  if (native.empty()) native = "/";
+  // A null character would cut the path short on its way to the system.
+  if (native[0] != '/' || native.find('\0') != std::string::npos) return std::nullopt;
+  if (letter == 'z') return native;
+  const auto folder = DriveFolder(letter);
+  if (!folder) return std::nullopt;
+  return *folder == "/" ? native : *folder + native;
+}
+
+std::optional<std::string> ResolveNative(std::string_view path) {
+  auto native = ToNative(path);
+  if (!native || Exists(*native)) return native;
+  std::string resolved;
+  std::size_t start = 1;
+  while (start <= native->size()) {
+    const auto end = std::min(native->find('/', start), native->size());
+    const std::string name = native->substr(start, end - start);
+    start = end + 1;
+    if (name.empty()) continue;
+    std::string next = resolved + "/" + name;
+    if (!Exists(next)) {
+      const auto found = FindIgnoringCase(resolved.empty() ? "/" : resolved, name);
+      if (!found) return native;
+      next = resolved + "/" + *found;
+    }
+    resolved = std::move(next);
+  }
+  return resolved;
+}
+
+std::optional<std::string> NameFromNative(std::string_view nativeName) {
+  const bool ambiguous = nativeName.find(kQuoteStandIn) != std::string_view::npos ||
+                         nativeName.find(kBackslashStandIn) != std::string_view::npos;
+  if (ambiguous || !IsValidUtf8(nativeName)) return std::nullopt;
+  std::string name(nativeName);
+  ReplaceAll(name, "\\", kBackslashStandIn);
+  ReplaceAll(name, "\"", kQuoteStandIn);
+  return name;
+}
+
+std::optional<std::string> FromNative(std::string_view nativePath) {
+  if (!nativePath.starts_with('/')) return std::nullopt;
+  auto path = NameFromNative(nativePath);
+  if (!path) return std::nullopt;
+  for (char& c : *path)
+    if (c == '/') c = '\\';
+  return "Z:" + *path;
+}
+
+bool IsValidUtf8(std::string_view bytes) {
+  for (std::size_t i = 0; i < bytes.size();) {
+    const auto byte = [&](std::size_t k) { return static_cast<unsigned char>(bytes[k]); };
+    const unsigned lead = byte(i);
+    const std::size_t length = lead < 0x80   ? 1
+                               : lead < 0xC2 ? 0
+                               : lead < 0xE0 ? 2
+                               : lead < 0xF0 ? 3
+                               : lead < 0xF5 ? 4
+                                             : 0;
+    if (length == 0 || i + length > bytes.size()) return false;
+    for (std::size_t k = 1; k < length; ++k)
+      if ((byte(i + k) & 0xC0U) != 0x80U) return false;
+    if (length == 3 && ((lead == 0xE0 && byte(i + 1) < 0xA0) || (lead == 0xED && byte(i + 1) >= 0xA0))) return false;
+    if (length == 4 && ((lead == 0xF0 && byte(i + 1) < 0x90) || (lead == 0xF4 && byte(i + 1) >= 0x90))) return false;
+    i += length;
+  }
+  return true;
+}
+
+}  // namespace dayvane::files

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <array>
+#include <string>
+
+namespace dayvane::platform {
+
+/// How the user's language and country write dates. Filled by the platform, read by app/Date.
+struct DateConventions {
+  /// Full month names, January first, in the form in which a name stands alone.
+  std::array<std::string, 12> monthNames{"January", "February", "March",     "April",   "May",      "June",
+                                         "July",    "August",   "September", "October", "November", "December"};
+
+  /// The short date: d, dd, m, mm, yy, yyyy and literal separators.
+  std::string shortDate = "m/d/yyyy";
+
+  /// The short time: h, hh, nn (minutes), AM/PM (then the hours count from 1 to 12) and literal separators.
+  std::string shortTime = "hh:nn";
+  std::string am = "AM";
+  std::string pm = "PM";
+
+  int firstDayOfWeek = 7;  ///< 1 Monday … 7 Sunday
+};
+
+}  // namespace dayvane::platform

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "platform/Clock.h"
+#include "platform/DateConventions.h"
+#include "platform/FileSystem.h"
+#include "platform/Registry.h"
+#include "platform/Shell.h"
+#include "platform/Windowing.h"
+
+namespace dayvane::platform {
+
+/// The desktop that the program runs on: one of each, outliving the program.
+struct Desktop {
+  FileSystem& files;
+  Shell& shell;
+  Registry& registry;
+  Windowing& windowing;
+  Clock& clock;
+  const DateConventions& dates;
+};
+
+}  // namespace dayvane::platform

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <string>
+
+namespace dayvane::testing {
+
+/// A folder of its own for one test, gone with everything in it when the test ends.
+class TemporaryFolder {
+ public:
+  TemporaryFolder();
+  TemporaryFolder(const TemporaryFolder&) = delete;
+  TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+  ~TemporaryFolder();
+
+  const std::string& Native() const { return m_native; }  ///< "/tmp/dayvane-test-…"
+  std::string Path() const;                               ///< the same in the program's form
+
+  /// Native path of something in the folder.
+  std::string operator/(const std::string& name) const { return m_native + "/" + name; }
+
+  /// Writes a file below the folder (its folders are made) and returns its native path.
+  std::string Write(const std::string& name, const std::string& bytes) const;
+
+ private:
+  std::string m_native;
+};
+
+std::string ReadFile(const std::string& nativePath);
+
+/// Sets a file's last-written time to a local time "2026-11-20 14:03:27", with a fraction in nanoseconds.
+void SetWritten(const std::string& nativePath, const std::string& localTime, long nanoseconds = 0);
+
+}  // namespace dayvane::testing

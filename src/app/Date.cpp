@@ -4,8 +4,8 @@
 #include <optional>
 #include <vector>
 
-#include "app/Error.h"
-#include "app/Text.h"
+#include "base/Error.h"
+#include "base/Text.h"
 
 namespace dayvane {
 

@@ -40,7 +40,7 @@ struct FileContents {
 };
 
 /// The disk. Paths are the program's own: UTF-8 text, absolute, "\" between the parts ("Z:\home\ana\Report.odt").
-/// Every failure is an Error with one of the numbers of app/Error.h and the path it is about.
+/// Every failure is an Error with one of the numbers of base/Error.h and the path it is about.
 class FileSystem {
  public:
   virtual ~FileSystem() = default;

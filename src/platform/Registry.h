@@ -10,7 +10,7 @@ inline constexpr std::uint32_t kHkeyCurrentUser = 0x80000001U;  ///< predefined 
 inline constexpr int kRegistryString = 1;                       ///< the plain string value type
 inline constexpr int kKeyExists = 35004;                        ///< error number: the sub-key to add is there already
 
-/// One key of the registry. A key or value that is missing is an Error of number kKeyMissing (app/Error.h).
+/// One key of the registry. A key or value that is missing is an Error of number kKeyMissing (base/Error.h).
 class RegistryKey {
  public:
   virtual ~RegistryKey() = default;

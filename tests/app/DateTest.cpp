@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "app/Date.h"
-#include "app/Error.h"
+#include "base/Error.h"
 
 namespace dayvane {
 namespace {

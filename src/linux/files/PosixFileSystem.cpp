@@ -9,7 +9,7 @@
 #include <memory>
 #include <sys/stat.h>
 
-#include "app/Error.h"
+#include "base/Error.h"
 #include "linux/files/FileDescriptor.h"
 #include "linux/files/NativePath.h"
 

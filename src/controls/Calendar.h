@@ -1,0 +1,43 @@
+#pragma once
+
+#include <array>
+#include <chrono>
+
+#include "controls/Control.h"
+
+namespace dayvane::controls {
+
+/// A month calendar: one current date, and days of its month that stand out.
+class Calendar : public Control {
+ public:
+  using Day = std::chrono::local_days;
+
+  Day CurrentDate() const { return m_current; }
+
+  /// Raises WillChangeDate, then DateChange, also when the date stays the same. A listener may cancel.
+  void SetCurrentDate(Day date) {
+    bool cancel = false;
+    const Day old = m_current;
+    WillChangeDate.Raise(old, date, cancel);
+    if (cancel) return;
+    m_current = date;
+    Changed.Raise();
+    DateChange.Raise(old, date);
+  }
+
+  /// Day of the month, 1 … 31.
+  bool Highlight(int day) const { return m_highlights.at(static_cast<std::size_t>(day)); }
+  void SetHighlight(int day, bool highlighted) { m_highlights.at(static_cast<std::size_t>(day)) = highlighted; }
+
+  /// Shows highlights that were set since.
+  void Redraw() { Changed.Raise(); }
+
+  Signal<Day, Day> DateChange;             ///< old, new
+  Signal<Day, Day, bool&> WillChangeDate;  ///< old, new, cancel
+
+ private:
+  Day m_current{std::chrono::days{0}};
+  std::array<bool, 32> m_highlights{};
+};
+
+}  // namespace dayvane::controls

@@ -1,0 +1,32 @@
+#include "controls/ImageList.h"
+
+#include <utility>
+
+#include "base/Error.h"
+
+namespace dayvane::controls {
+
+const Picture& ImageList::At(int index) const {
+  if (index < 1 || index > Count()) throw Error(kSubscriptOutOfRange, "No image of number " + std::to_string(index));
+  return m_pictures[static_cast<std::size_t>(index) - 1];
+}
+
+int ImageList::Add(Picture picture, const std::string& key) {
+  if (!key.empty() && !m_indexes.emplace(key, Count() + 1).second)
+    throw Error(kKeyNotUnique, "Key is not unique in the image list: " + key);
+  m_pictures.push_back(std::move(picture));
+  return Count();
+}
+
+int ImageList::IndexOf(const std::string& key) const {
+  const auto found = m_indexes.find(key);
+  return found == m_indexes.end() ? 0 : found->second;
+}
+
+void ImageList::RemoveLast() {
+  if (m_pictures.empty()) throw Error(kSubscriptOutOfRange, "The image list is empty");
+  std::erase_if(m_indexes, [this](const auto& entry) { return entry.second == Count(); });
+  m_pictures.pop_back();
+}
+
+}  // namespace dayvane::controls

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "controls/Control.h"
+
+namespace dayvane::controls {
+
+class Menu;
+
+/// One entry of a menu. "&" in a caption marks the access key; the caption "-" is a separator.
+class MenuItem : public Control {
+ public:
+  explicit MenuItem(std::string caption, Menu* submenu = nullptr);
+
+  const std::string& Caption() const { return m_caption; }
+  bool IsSeparator() const { return m_caption == "-"; }
+  bool Checked() const { return m_checked; }
+  void SetChecked(bool checked) { Assign(m_checked, checked); }
+  Menu* Submenu() const { return m_submenu; }  ///< not owned; nullptr for an entry that is chosen
+
+ private:
+  std::string m_caption;
+  Menu* m_submenu;
+  bool m_checked = false;
+};
+
+/// A menu as a control array: one event for all its entries, which carry their index.
+class Menu : public Control {
+ public:
+  struct Entry {
+    std::string caption;
+    Menu* submenu = nullptr;
+  };
+
+  Menu(std::string caption, const std::vector<Entry>& entries);
+
+  const std::string& Caption() const { return m_caption; }
+  int Count() const { return static_cast<int>(m_items.size()); }
+  MenuItem& operator[](int index) const { return *m_items.at(static_cast<std::size_t>(index)); }
+
+  /// What the user's choice does: nothing for an entry that is disabled or hidden.
+  void Choose(int index);
+
+  Signal<int> Click;  ///< index, separators counted
+
+ private:
+  std::string m_caption;
+  std::vector<std::unique_ptr<MenuItem>> m_items;
+};
+
+}  // namespace dayvane::controls

@@ -1,0 +1,31 @@
+#include "app/Application.h"
+
+#include <utility>
+
+#include "resources/StringTable.h"
+
+namespace dayvane {
+
+ProgramInfo ThisProgram() {
+  ProgramInfo info;
+  info.title = "Dayvane";
+  info.company = "Korvath";
+  info.copyright = "Copyright \xC2\xA9 2026 The Dayvane authors";
+  info.comments = ResourceString(kLegalWarning);
+  info.major = DAYVANE_VERSION_MAJOR;
+  info.minor = DAYVANE_VERSION_MINOR;
+  info.revision = DAYVANE_VERSION_REVISION;
+  return info;
+}
+
+Application::Application(const platform::Desktop& theDesktop, std::string programFolder)
+    : desktop(theDesktop),
+      info(ThisProgram()),
+      folder(std::move(programFolder)),
+      helpFile(folder + "\\Dayvane.hlp"),
+      errorReporter(desktop.files, desktop.clock, desktop.windowing, folder + "\\" + "ErrorLog.txt"),
+      eventLog(desktop.files, desktop.clock, folder + "\\EventLog.txt"),
+      asserts(eventLog),
+      shellServices(desktop, folder) {}
+
+}  // namespace dayvane

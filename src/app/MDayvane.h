@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string>
+
+#include "app/Application.h"
+#include "app/Date.h"
+
+namespace dayvane {
+
+/// The date, at midnight, of a day folder's path such as …\Daily\1998\January\05, or of a tree key made of it. Fails
+/// with kTypeMismatch when the last three parts of the path form no date.
+Date PathToDate(const Application& application, const std::string& path);
+
+}  // namespace dayvane

@@ -1,0 +1,76 @@
+#include "app/ShellServices.h"
+
+#include <utility>
+
+namespace dayvane {
+
+PathParts SplitPath(std::string_view path) {
+  PathParts parts;
+  const auto separator = path.rfind('\\');
+  const auto nameStart = separator == std::string_view::npos ? 0 : separator + 1;
+  parts.fileName = path.substr(nameStart);
+  if (separator != std::string_view::npos) {
+    const bool driveRoot = separator == 2 && path[1] == ':';
+    parts.folder = path.substr(0, driveRoot ? separator + 1 : separator);
+  }
+  const auto dot = parts.fileName.rfind('.');
+  if (dot != std::string::npos) parts.extension = parts.fileName.substr(dot + 1);
+  return parts;
+}
+
+ShellServices::ShellServices(const platform::Desktop& desktop, std::string programFolder)
+    : m_desktop(desktop), m_programFolder(std::move(programFolder)) {}
+
+std::string ShellServices::SpecialFolderPath(int number) const {
+  return m_desktop.shell.SpecialFolderPath(number);
+}
+
+void ShellServices::RefreshRecentFolder() const {
+  m_desktop.shell.RefreshRecentFolder();
+}
+
+void ShellServices::RecentFolderCaptured() const {
+  m_desktop.shell.RecentFolderCaptured();
+}
+
+platform::ReadLink ShellServices::ReadShortcut(const std::string& path) const {
+  return m_desktop.shell.ReadShellLink(path);
+}
+
+void ShellServices::CreateShortcut(const std::string& path, const std::string& target,
+                                   const std::string& workingFolder) const {
+  platform::ShellLink link;
+  link.target = target;
+  link.workingDirectory = workingFolder;
+  m_desktop.shell.CreateShellLink(path, link);
+}
+
+DateParts ShellServices::SplitDate(std::string_view shortDate) const {
+  return SplitShortDate(shortDate, m_desktop.dates);
+}
+
+std::string ShellServices::WindowsFolder() const {
+  return m_desktop.shell.WindowsFolder();
+}
+
+bool ShellServices::IsNumericKey(int character) {
+  constexpr int kBackspace = 8;
+  constexpr int kSelectAll = 1;
+  constexpr int kCopy = 3;
+  constexpr int kPaste = 22;
+  constexpr int kCut = 24;
+  constexpr int kUndo = 26;
+  if (character >= '0' && character <= '9') return true;
+  return character == kBackspace || character == kSelectAll || character == kCopy || character == kPaste ||
+         character == kCut || character == kUndo;
+}
+
+int ShellServices::Open(const std::string& target, const std::string& workingFolder, std::int32_t showCommand) const {
+  return m_desktop.shell.Open(target, workingFolder, showCommand);
+}
+
+std::string ShellServices::DisplayPath(const std::string& path) const {
+  return m_desktop.shell.DisplayPath(path);
+}
+
+}  // namespace dayvane

@@ -1,0 +1,77 @@
+#include "repository/CRepository.h"
+
+#include "base/Error.h"
+#include "base/Text.h"
+#include "fs/Dir.h"
+
+namespace dayvane {
+
+namespace {
+
+void CreateRootFolder(platform::FileSystem& files, const std::string& path) {
+  try {
+    files.CreateFolder(path);
+  } catch (const Error& error) {
+    if (error.Number() != kFileAlreadyExists) throw;  // On every start but the first the folder is there.
+  }
+}
+
+}  // namespace
+
+CRepository::CRepository(Application& application)
+    : m_application(application),
+      m_dailyPath(application.folder + "\\" + "Daily"),
+      m_oDailyWalker(application.desktop.files),
+      m_oFileWalker(application.desktop.files),
+      m_oFolderWalker(application.desktop.files),
+      m_oMonthlyWalker(application.desktop.files),
+      m_oPurgeWalker(application.desktop.files) {
+  const auto connect = [this](DirectoryWalker& walker, auto handler) {
+    walker.ItemFound.Connect([this, handler](const std::string& path, const std::string& name, bool& cancel) {
+      (this->*handler)(path, name, cancel);
+    });
+  };
+  connect(m_oDailyWalker, &CRepository::m_oDailyWalker_ItemFound);
+  connect(m_oFileWalker, &CRepository::m_oFileWalker_ItemFound);
+  connect(m_oFolderWalker, &CRepository::m_oFolderWalker_ItemFound);
+  connect(m_oMonthlyWalker, &CRepository::m_oMonthlyWalker_ItemFound);
+  connect(m_oPurgeWalker, &CRepository::m_oPurgeWalker_ItemFound);
+  CreateRootFolder(application.desktop.files, m_dailyPath);
+}
+
+void CRepository::Assert(bool condition, const std::string& message) const {
+  m_application.asserts.Assert(condition, ClassName + message);
+}
+
+std::string CRepository::DayFolder(const Date& date) const {
+  const auto& dates = m_application.desktop.dates;
+  return m_dailyPath + "\\" + Format(date, "yyyy", dates) + "\\" + Format(date, "mmmm", dates) + "\\" +
+         Format(date, "dd", dates);
+}
+
+Date CRepository::FindLatestDay() const {
+  Assert(!text::Trim(m_dailyPath).empty(), ".FindLatestDay: Daily path is missing");
+  auto& files = m_application.desktop.files;
+  const auto& dates = m_application.desktop.dates;
+  if (!FolderExists(files, m_dailyPath)) return {};
+
+  int yearNumber = m_application.Now().Year();
+  std::string year = Format(m_application.Now(), "yyyy", dates);
+  while (!FolderExists(files, m_dailyPath + "\\" + year)) {
+    if (--yearNumber < 1) return {};
+    year = std::to_string(yearNumber);
+  }
+  // The name of month n is that of a date in month n, here of the year 98, so that it is the user's own.
+  const auto monthFolder = [&](int n) {
+    return m_dailyPath + "\\" + year + "\\" + Format(ParseMonthFirst(std::to_string(n) + "/98", dates), "mmmm", dates);
+  };
+  int month = 12;
+  while (month > 0 && !FolderExists(files, monthFolder(month))) --month;
+  const std::string days = monthFolder(month > 0 ? month : 1);
+  int day = 31;
+  while (day > 0 && !FolderExists(files, days + "\\" + text::Padded(day, 2))) --day;
+  // With no month or no day found the text is no date, and that is the error.
+  return ParseMonthFirst(std::to_string(month) + "/" + std::to_string(day) + "/" + year, dates);
+}
+
+}  // namespace dayvane

@@ -1,0 +1,53 @@
+#include "settings/COptions.h"
+
+#include "app/IgnoreErrors.h"
+#include "base/Error.h"
+#include "base/Text.h"
+#include "settings/SettingsStore.h"
+
+namespace dayvane {
+
+namespace {
+
+constexpr const char* kSubtree = "Options";
+
+/// In the order of reading and of the dialog.
+const std::vector<settings::NamedText>& Defaults() {
+  static const std::vector<settings::NamedText> defaults{
+      {"Favorites Threshold", "3"}, {"Purge Age", "30"}, {"Timer Interval", "60"}};
+  return defaults;
+}
+
+std::int32_t ToNumber(const std::string& text) {
+  const auto number = text::ToInt32(text);
+  if (!number) throw Error(kTypeMismatch, "Type mismatch: \"" + text + "\" is no whole number");
+  return *number;
+}
+
+}  // namespace
+
+void COptions::CreateOptionRegistryKeys() {
+  settings::CreateSubtree(m_application.desktop.registry, kSubtree, Defaults());
+}
+
+void COptions::ReadValues() {
+  auto& registry = m_application.desktop.registry;
+  std::unique_ptr<platform::RegistryKey> key;
+  if (!IgnoreErrors([&] { key = settings::OpenSubtree(registry, kSubtree); })) {
+    CreateOptionRegistryKeys();
+    key = settings::OpenSubtree(registry, kSubtree);
+    m_defaultOptionsUsed = true;
+  }
+  // One bad value resets those after it too, however good they are: a damaged subtree is set back from there on.
+  bool failed = false;
+  std::int32_t* const fields[] = {&m_favoritesThreshold, &m_purgeAge, &m_timerInterval};
+  for (std::size_t i = 0; i < Defaults().size(); ++i) {
+    const auto& [name, text] = Defaults()[i];
+    failed = !IgnoreErrors([&] { *fields[i] = ToNumber(key->Value(name)); }) || failed;
+    if (!failed) continue;
+    IgnoreErrors([&] { key->AddValue(name, text, platform::kRegistryString); });
+    *fields[i] = ToNumber(text);
+  }
+}
+
+}  // namespace dayvane

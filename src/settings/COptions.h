@@ -1,0 +1,38 @@
+#pragma once
+
+#include <cstdint>
+
+#include "app/Application.h"
+
+namespace dayvane {
+
+/// Reads and changes the user's three options. It keeps nothing between uses: the registry is the only lasting copy.
+/// Values are taken from it as they stand; only the options dialog checks their ranges.
+class COptions {
+ public:
+  static constexpr const char* ClassName = "COptions";
+
+  explicit COptions(Application& application) : m_application(application) {}
+
+  /// Reads the three values. A subtree that does not exist is created with the defaults; from the first value on that
+  /// is missing or no number, this one and those after it are set back to their defaults.
+  void ReadValues();
+
+  /// Whether ReadValues found no options and stored the defaults.
+  bool DefaultOptionsUsed() const { return m_defaultOptionsUsed; }
+
+  std::int32_t FavoritesThreshold() const { return m_favoritesThreshold; }  ///< days; 0 before a read
+  std::int32_t PurgeAge() const { return m_purgeAge; }                      ///< days; 0 before a read
+  std::int32_t TimerInterval() const { return m_timerInterval; }            ///< seconds; 0 before a read
+
+ private:
+  void CreateOptionRegistryKeys();
+
+  Application& m_application;
+  bool m_defaultOptionsUsed = false;
+  std::int32_t m_favoritesThreshold = 0;
+  std::int32_t m_purgeAge = 0;
+  std::int32_t m_timerInterval = 0;
+};
+
+}  // namespace dayvane

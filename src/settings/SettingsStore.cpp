@@ -1,0 +1,85 @@
+#include "settings/SettingsStore.h"
+
+#include <charconv>
+#include <cmath>
+#include <limits>
+
+#include "app/IgnoreErrors.h"
+#include "base/Error.h"
+#include "base/Text.h"
+
+namespace dayvane::settings {
+
+namespace {
+
+constexpr const char* kMaker = "Korvath";
+constexpr const char* kProduct = "Dayvane";
+
+/// Opens a sub-key, added first where it is missing; nothing when it can be neither.
+std::unique_ptr<platform::RegistryKey> OpenLevel(platform::RegistryKey& parent, const std::string& name) {
+  try {
+    parent.AddSubKey(name);
+  } catch (const Error& error) {
+    if (error.Number() != platform::kKeyExists) return nullptr;
+  }
+  std::unique_ptr<platform::RegistryKey> level;
+  IgnoreErrors([&] { level = parent.OpenSubKey(name); });
+  return level;
+}
+
+}  // namespace
+
+std::string SubtreePath(const std::string& subtree) {
+  return std::string("\\HKEY_CURRENT_USER") + "\\Software\\Korvath\\Dayvane\\" + subtree;
+}
+
+std::unique_ptr<platform::RegistryKey> OpenSubtree(platform::Registry& registry, const std::string& subtree) {
+  return registry.KeyFromPath(SubtreePath(subtree));
+}
+
+void CreateSubtree(platform::Registry& registry, const std::string& subtree, const std::vector<NamedText>& values) {
+  std::unique_ptr<platform::RegistryKey> key;
+  IgnoreErrors([&] { key = registry.KeyFromRoot(platform::kHkeyCurrentUser)->OpenSubKey("Software"); });
+  for (const std::string& level : {std::string(kMaker), std::string(kProduct), subtree}) {
+    if (!key) return;
+    key = OpenLevel(*key, level);
+  }
+  if (!key) return;
+  for (const NamedText& value : values) key->AddValue(value.name, value.text, platform::kRegistryString);
+}
+
+std::string NumberText(double number) {
+  char buffer[32];
+  const auto end = std::to_chars(buffer, buffer + sizeof buffer, number).ptr;
+  return {buffer, end};
+}
+
+std::string FlagText(bool flag) {
+  return flag ? "True" : "False";
+}
+
+std::optional<std::int16_t> ToInt16(std::string_view text) {
+  text = text::Trim(text);
+  double number = 0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+  if (error != std::errc{} || end != text.data() + text.size()) return std::nullopt;
+  const double rounded = std::nearbyint(number);
+  if (!(rounded >= std::numeric_limits<std::int16_t>::min() && rounded <= std::numeric_limits<std::int16_t>::max()))
+    return std::nullopt;
+  return static_cast<std::int16_t>(rounded);
+}
+
+std::optional<bool> ToFlag(std::string_view text) {
+  if (text::CompareIgnoringCase(text, "True") == 0) return true;
+  if (text::CompareIgnoringCase(text, "False") == 0) return false;
+  if (const auto number = text::ToInt32(text)) return *number != 0;
+  return std::nullopt;
+}
+
+std::optional<std::string> ValueText(platform::RegistryKey& key, const std::string& name) {
+  std::optional<std::string> text;
+  IgnoreErrors([&] { text = key.Value(name); });
+  return text;
+}
+
+}  // namespace dayvane::settings

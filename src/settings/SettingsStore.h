@@ -1,0 +1,41 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/Registry.h"
+
+/// The program's settings: subtrees of named string values under the product key in the user's registry.
+namespace dayvane::settings {
+
+struct NamedText {
+  std::string name;
+  std::string text;
+};
+
+/// "\HKEY_CURRENT_USER\Software\Korvath\Dayvane\" + the subtree's name.
+std::string SubtreePath(const std::string& subtree);
+
+/// Opens a subtree by its path. Fails when it does not exist.
+std::unique_ptr<platform::RegistryKey> OpenSubtree(platform::Registry& registry, const std::string& subtree);
+
+/// Creates the product key's levels and the subtree where they are missing and adds the values. A level that cannot be
+/// created ends it silently, because the caller opens the subtree next and that failure is the one to report.
+void CreateSubtree(platform::Registry& registry, const std::string& subtree, const std::vector<NamedText>& values);
+
+/// Stored texts. Numbers are plain decimals in their shortest form, flags "True" and "False".
+std::string NumberText(double number);
+std::string FlagText(bool flag);
+
+/// The value of a stored text, or nothing when it does not convert; fractions round to the even neighbour.
+std::optional<std::int16_t> ToInt16(std::string_view text);
+std::optional<bool> ToFlag(std::string_view text);
+
+/// The value's text, or nothing when it is missing.
+std::optional<std::string> ValueText(platform::RegistryKey& key, const std::string& name);
+
+}  // namespace dayvane::settings

@@ -34,6 +34,8 @@ class Date {
   Date AddDays(int days) const;
   Date Midnight() const;
 
+  std::int64_t SecondsSinceDayZero() const { return m_seconds; }
+
   friend auto operator<=>(const Date&, const Date&) = default;
 
  private:

@@ -3,6 +3,7 @@
 #include "platform/Clock.h"
 #include "platform/DateConventions.h"
 #include "platform/FileSystem.h"
+#include "platform/Help.h"
 #include "platform/Registry.h"
 #include "platform/Shell.h"
 #include "platform/Windowing.h"
@@ -15,6 +16,7 @@ struct Desktop {
   Shell& shell;
   Registry& registry;
   Windowing& windowing;
+  Help& help;
   Clock& clock;
   const DateConventions& dates;
 };

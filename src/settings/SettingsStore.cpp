@@ -76,10 +76,28 @@ std::optional<bool> ToFlag(std::string_view text) {
   return std::nullopt;
 }
 
-std::optional<std::string> ValueText(platform::RegistryKey& key, const std::string& name) {
-  std::optional<std::string> text;
-  IgnoreErrors([&] { text = key.Value(name); });
-  return text;
+Subtree::Subtree(platform::Registry& registry, const std::string& subtree, std::vector<NamedText> values)
+    : m_values(std::move(values)) {
+  if (IgnoreErrors([&] { m_key = OpenSubtree(registry, subtree); })) return;
+  CreateSubtree(registry, subtree, m_values);
+  m_key = OpenSubtree(registry, subtree);
+}
+
+template <class Result>
+Result Subtree::Converted(std::size_t value, std::optional<Result> (*convert)(std::string_view)) const {
+  const auto& [name, defaultText] = m_values.at(value);
+  std::optional<Result> result;
+  IgnoreErrors([&] { result = convert(m_key->Value(name)); });
+  if (result) return *result;
+  m_key->AddValue(name, defaultText, platform::kRegistryString);
+  return convert(defaultText).value_or(Result{});
+}
+
+std::int16_t Subtree::Number(std::size_t value) const {
+  return Converted(value, ToInt16);
+}
+bool Subtree::Flag(std::size_t value) const {
+  return Converted(value, ToFlag);
 }
 
 }  // namespace dayvane::settings

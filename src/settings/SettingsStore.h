@@ -35,7 +35,22 @@ std::string FlagText(bool flag);
 std::optional<std::int16_t> ToInt16(std::string_view text);
 std::optional<bool> ToFlag(std::string_view text);
 
-/// The value's text, or nothing when it is missing.
-std::optional<std::string> ValueText(platform::RegistryKey& key, const std::string& name);
+/// A subtree opened for reading, created with its default values first when it does not exist. A value that is missing
+/// or does not convert is set back to its default, so that a later save finds it.
+class Subtree {
+ public:
+  Subtree(platform::Registry& registry, const std::string& subtree, std::vector<NamedText> values);
+
+  /// The converted text of the value with this place among the defaults. The defaults must convert.
+  std::int16_t Number(std::size_t value) const;
+  bool Flag(std::size_t value) const;
+
+ private:
+  template <class Result>
+  Result Converted(std::size_t value, std::optional<Result> (*convert)(std::string_view)) const;
+
+  std::vector<NamedText> m_values;
+  std::unique_ptr<platform::RegistryKey> m_key;
+};
 
 }  // namespace dayvane::settings

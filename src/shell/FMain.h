@@ -2,9 +2,10 @@
 
 #include <array>
 #include <cstdint>
+#include <functional>
 #include <memory>
-#include <optional>
 #include <string>
+#include <vector>
 
 #include "app/Application.h"
 #include "app/CWaitCursor.h"
@@ -15,29 +16,32 @@
 #include "controls/Menu.h"
 #include "controls/SimpleControls.h"
 #include "controls/TreeView.h"
+#include "repository/CRepository.h"
+#include "shell/MResourceConstants.h"
+#include "views/CCalendar.h"
+#include "views/CDaily.h"
+#include "views/CFavorites.h"
 
 namespace dayvane {
 
-class CCalendar;
-class CDaily;
-class CFavorites;
-class CRepository;
-class CShortcut;
-
 /// The program's only main window: its controls and its procedures. The procedures of capture and of the views lie in
-/// the rooms of their concern (capture/FMainCapture.cpp, views/FMain*.cpp); they are short, and what can be said
-/// without a window is a class or function of its room. A desktop presents the controls and calls their events.
+/// the rooms of their concern (capture/FMainCapture.cpp, views/FMain*.cpp); what can be said without a window is a
+/// class or function of its room. A desktop presents the controls and calls their events.
 class FMain {
  public:
+  static constexpr const char* kName = "FMain";
+
+  enum View : std::int16_t { kDailyView = 0, kFavoritesView = 1 };
+
+  /// Both must outlive the window.
   FMain(Application& application, CRepository& repository);
   FMain(const FMain&) = delete;
   FMain& operator=(const FMain&) = delete;
   ~FMain();
 
-  static constexpr const char* kName = "FMain";
-
-  /// The load handler: builds the whole working state and starts the capture timer.
-  void Form_Load();
+  /// The load handler: builds the whole working state and starts the capture timer. `splashDone` is called when the
+  /// splash window may go.
+  void Form_Load(const std::function<void()>& splashDone = [] {});
 
   // Capture.
   void tmrMain_Timer();
@@ -46,6 +50,7 @@ class FMain {
   void ProcessShortcut(CShortcut* shortcut);
 
   // The Daily view.
+  void FindLatestDay();
   void RefreshDaily();
   void LoadDailyTreeViewFolder(const std::string& folder, int level);
   void SelectDate(const Date& date);
@@ -54,9 +59,15 @@ class FMain {
 
   // The Favorites view.
   void RefreshFavorites();
+  int FavoritesImageListIndex(const std::string& shortcutFileName, const std::string& targetFileName);
+
+  // The window.
+  void SetVisible(bool visible);
+  void SetActiveView(int view);
+  void SetExploreOpen(bool enabled);
 
   /// Ends the wait cursor, if one is given, and shows the item count of the active view.
-  void RefreshStatusBar(std::unique_ptr<CWaitCursor> waitCursor);
+  void RefreshStatusBar(std::unique_ptr<CWaitCursor> waitCursor = nullptr);
 
   CFavorites* Favorites() const { return m_oFavorites.get(); }
 
@@ -65,27 +76,61 @@ class FMain {
   controls::Timer tmrMain;
   controls::SystemTray tryMain;
   controls::StatusBar sbrMain;
-  controls::PictureBox picDaily;      ///< pane of tree, calendar and list
+  controls::PictureBox picDaily;      ///< pane of calendar, tree and list
   controls::PictureBox picFavorites;  ///< pane of the favorites
   controls::TreeView tvwMain;
   controls::Calendar calMain;
   controls::ListView lvwDaily;
   controls::ListView lvwFavorites;
   controls::ImageList imlMain;   ///< one picture per level of the tree
-  controls::ImageList imlLarge;  ///< large icons of both lists; image 1 is the default document
+  controls::ImageList imlLarge;  ///< large icons of the Daily list; image 1 is the default document
   controls::ImageList imlSmall;
+  controls::ImageList imlFavorites;  ///< icons of the Favorites list
 
  private:
-  class Impl;
+  // Building the window.
+  void BuildLists();
+  void ConnectControls();
+
+  // The start-up sequence.
+  void LoadResources();
+  void CreateViews();
+  void ReadOptions();
+  void CaptureAtStart();
+  void LoadFavorites();
+  void RestoreWindow();
+  void StartCapture();
+
+  // Handlers.
+  void Form_Activate();
+  void Form_Resize();
+  void Form_QueryUnload(bool& cancel, controls::UnloadMode mode);
+  void Form_Unload();
+  void m_oCalendar_DateChange(const Date& newDate);
+  void m_oDaily_TreeViewNodeClick(const controls::TreeNode& node);
+
+  void SaveWindow();
+  void AddDocument(const std::string& nodeKey, const std::string& folder, const std::string& fileName);
+  void File(CShortcut& shortcut, const std::string& destination);
 
   std::unique_ptr<CWaitCursor> ShowWait();
-  bool IsNewFavorite() const;
+  void Assert(bool condition, const std::string& message) const;
 
   Application& m_application;
   CRepository& m_repository;
   std::unique_ptr<CCalendar> m_oCalendar;
   std::unique_ptr<CDaily> m_oDaily;
   std::unique_ptr<CFavorites> m_oFavorites;
+  bool m_exiting = false;
+  std::int16_t m_activeView = kDailyView;
+  std::int32_t m_favoritesThreshold = 0;
+  std::int32_t m_purgeAge = 0;       ///< days
+  std::int32_t m_timerInterval = 0;  ///< seconds
+  bool m_activatedOnce = false;
+  std::string m_recentFolder;  ///< without a trailing "\"
+  bool m_documentsChanged = false;
+  bool m_inTreeClick = false;              ///< the calendar is being moved because a day was clicked in the tree
+  std::vector<std::string> m_justCounted;  ///< filed shortcuts counted since the table was last saved
 };
 
 }  // namespace dayvane

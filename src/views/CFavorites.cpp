@@ -33,10 +33,6 @@ Value OneMore(const Value& count) {
 
 }  // namespace
 
-void CFavorites::Assert(bool condition, const std::string& message) const {
-  m_application.asserts.Assert(condition, ClassName + message);
-}
-
 void CFavorites::ProcessShortcut(const CShortcut* shortcut) {
   Assert(shortcut != nullptr, ".ProcessShortcut: Shortcut is Nothing");
   if (shortcut == nullptr) throw Error(kObjectNotSet, "Object variable not set");
@@ -141,15 +137,6 @@ void CFavorites::m_oDirectoryWalker_ItemFound(CShortcut& shortcut, const std::st
                                               const std::string& fileName) {
   shortcut.SetFile(path + fileName);
   ProcessShortcut(&shortcut);
-}
-
-bool CFavorites::RemoveDocument(const std::string& key) {
-  Assert(!text::Trim(key).empty(), ".RemoveDocument: Key is missing");
-  Assert(ListView != nullptr, ".RemoveDocument: ListView is Nothing");
-  // A key that is not in the list is the usual case, not a failure to tell of.
-  if (ListView == nullptr || ListView->Find(key) == nullptr) return false;
-  ListView->Remove(key);
-  return true;
 }
 
 }  // namespace dayvane

@@ -7,8 +7,7 @@
 
 #include "app/Application.h"
 #include "capture/CShortcut.h"
-#include "controls/ListView.h"
-#include "controls/SimpleControls.h"
+#include "views/DocumentListView.h"
 #include "views/FavoritesTable.h"
 
 namespace dayvane {
@@ -16,17 +15,15 @@ namespace dayvane {
 /// Keeps one record for every document ever filed: how often, and when last. The records live in memory and in the
 /// data file "Favorites.dat" (views/FavoritesFile.h has its form). Documents filed often enough are the Favorites list,
 /// whose behaviour is also this class's.
-class CFavorites {
+class CFavorites : public DocumentListView {
  public:
   static constexpr const char* ClassName = "CFavorites";
 
-  explicit CFavorites(Application& application) : m_application(application) {}
+  explicit CFavorites(Application& application) : DocumentListView(application, ClassName) {}
 
   // Set by the owner before use.
   std::string AppPath;      ///< folder of the data file, without a trailing "\"
   std::string DailyFolder;  ///< name of the repository folder in it
-  controls::ListView* ListView = nullptr;
-  controls::PictureBox* Container = nullptr;
 
   std::int32_t Count() const { return static_cast<std::int32_t>(m_table.size()); }
   favorites::Table GetFavorites() const { return m_table; }
@@ -47,8 +44,20 @@ class CFavorites {
   /// Builds the table anew from the repository: every day folder that holds a document's shortcut counts one.
   void RebuildFavorites();
 
+  // The list.
+
   /// Removes an item from the list alone. Returns whether it was there.
   bool RemoveDocument(const std::string& key);
+
+  /// Sizes the pane, in twips; the list fills it.
+  void SetSize(int width, int height);
+
+  /// Puts the list in the order of the last column click, or of the settings.
+  void SortAgain();
+
+  void CreateRegistryKeys();
+  void RestoreSettings();
+  void SaveSettings() const;
 
  private:
   std::string DataFile() const;
@@ -57,10 +66,9 @@ class CFavorites {
   void ClearTable();
   std::optional<std::size_t> Find(const std::string& targetFile);
   void Append(const CShortcut& shortcut);
-  void Assert(bool condition, const std::string& message) const;
+  void Container_Resize() override;
   void m_oDirectoryWalker_ItemFound(CShortcut& shortcut, const std::string& path, const std::string& fileName);
 
-  Application& m_application;
   favorites::Table m_table;
 
   /// Record by upper-cased identity, of the first m_indexed records: finds the first match without a scan.

@@ -1,0 +1,82 @@
+// Capture: on every tick the Recent folder's new and rewritten shortcuts are filed under their days.
+
+#include "app/IgnoreErrors.h"
+#include "app/ReportErrors.h"
+#include "base/Error.h"
+#include "base/Text.h"
+#include "capture/CShortcut.h"
+#include "capture/Filing.h"
+#include "fs/Dir.h"
+#include "shell/FMain.h"
+#include "shell/MResourceConstants.h"
+
+namespace dayvane {
+
+void FMain::tmrMain_Timer() {
+  IgnoreErrors([this] { PollRecentFolder(); });
+  IgnoreErrors([this] { RefreshStatusBar(std::make_unique<CWaitCursor>(m_application)); });
+}
+
+void FMain::PollRecentFolder() {
+  // A poll that fails ends where it failed: the timer stays off and the tray busy until capture is resumed.
+  ReportErrors(m_application, kCheckingForDocuments, kName, "PollRecentFolder", [this] {
+    const auto waitCursor = ShowWait();
+    tmrMain.SetEnabled(false);
+    tryMain.SetPicture(kBusyIcon);
+    m_justCounted.clear();
+    GetShortcuts();
+    // Saved now and not only at the end, so that a kill loses no more than one poll's counts.
+    if (!m_justCounted.empty()) m_oFavorites->Save();
+    if (m_documentsChanged) {
+      RefreshDaily();
+      RefreshFavorites();
+      m_documentsChanged = false;
+    }
+    tryMain.SetPicture(kNormalIcon);
+    tmrMain.SetEnabled(true);
+  });
+}
+
+void FMain::GetShortcuts() {
+  Assert(!text::Trim(m_recentFolder).empty(), ".GetShortcuts: Recent folder is missing");
+  m_application.shellServices.RefreshRecentFolder();
+  const std::string prefix = m_recentFolder + "\\";
+  for (const auto& entry : Dir(m_application.desktop.files, prefix + "*.lnk", DirKinds::Files)) {
+    CShortcut shortcut(m_application);
+    shortcut.SetFile(prefix + entry.name);
+    ProcessShortcut(&shortcut);
+  }
+  m_application.shellServices.RecentFolderCaptured();
+}
+
+void FMain::ProcessShortcut(CShortcut* shortcut) {
+  Assert(shortcut != nullptr, ".ProcessShortcut: Shortcut is nothing");
+  Assert(m_oFavorites != nullptr, ".ProcessShortcut: Favorites object is nothing");
+  if (shortcut == nullptr || m_oFavorites == nullptr) throw Error(kObjectNotSet, "Object variable not set");
+  const Date cutOff = m_application.Now().AddDays(-m_purgeAge);
+  const std::string destination = m_repository.DayFolder(shortcut->Modified()) + "\\" + shortcut->FileName();
+  switch (filing::Decide(m_application.desktop.files, *shortcut, destination, cutOff)) {
+    case filing::Decision::TooOld:
+    case filing::Decision::Unchanged:
+      return;
+    case filing::Decision::FirstOfTheDay:
+      File(*shortcut, destination);
+      m_oFavorites->ProcessShortcut(shortcut);
+      m_justCounted.push_back(destination);
+      break;
+    case filing::Decision::Replace:
+      File(*shortcut, destination);
+      break;
+  }
+  m_documentsChanged = true;
+}
+
+void FMain::File(CShortcut& shortcut, const std::string& destination) {
+  auto& files = m_application.desktop.files;
+  filing::CreateDayFolder(files, m_repository.DailyPath(), shortcut);
+  files.Copy(shortcut.File(), destination);
+  shortcut.SetFile(destination);
+  shortcut.CreateExecutableShortcut();
+}
+
+}  // namespace dayvane

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <string>
+
+#include "app/Application.h"
+#include "app/Date.h"
+#include "controls/Calendar.h"
+
+namespace dayvane {
+
+/// Wraps the month calendar: keeps the highlighted days in step with the repository and passes date changes on.
+class CCalendar {
+ public:
+  static constexpr const char* ClassName = "CCalendar";
+
+  explicit CCalendar(Application& application) : m_application(application) {}
+
+  /// The calendar control; its events are handled from then on. It must outlive this object or be taken away.
+  void SetCalendar(controls::Calendar* calendar);
+
+  std::string DailyPath;  ///< root of the repository
+
+  Date Value() const;
+  void SetValue(const Date& date);  ///< raises DateChange
+
+  /// Highlights the days of the date's month that have a day folder, empty or not.
+  void HighlightDays(const Date& date);
+  void Refresh();
+
+  controls::Signal<const Date&> DateChange;  ///< the new date
+
+ private:
+  void Calendar_DateChange(const Date& newDate);
+  void Assert(bool condition, const std::string& message) const;
+
+  Application& m_application;
+  controls::Calendar* m_calendar = nullptr;
+  controls::Connection m_dateChange;
+  std::string m_month;  ///< of the date shown last
+  std::string m_year;
+};
+
+}  // namespace dayvane

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <string>
+
+#include "controls/TreeView.h"
+#include "views/DocumentListView.h"
+
+namespace dayvane {
+
+/// The Daily view's tree and list on their pane: the sizes of both, the list's settings and the events that the main
+/// window handles.
+class CDaily : public DocumentListView {
+ public:
+  static constexpr const char* ClassName = "CDaily";
+
+  explicit CDaily(Application& application) : DocumentListView(application, ClassName) {}
+
+  /// The controls, not owned. Their events are handled from then on.
+  void SetControls(controls::TreeView* treeView, controls::ListView* listView, controls::PictureBox* container);
+
+  controls::TreeNode* SelectedDay() const;  ///< the tree's selected node, or nullptr
+
+  /// Sizes the pane, in twips; tree and list follow, each reaching 30 twips past its inner edge.
+  void SetSize(int width, int height);
+
+  /// Show the folder of the selected document, with and without the folder tree. With none selected: a beep.
+  void Explore() const;
+  void OpenFolder() const;
+
+  /// Removes a row. Fails with kElementNotFound when the list has none of that key.
+  void RemoveDocument(const std::string& key);
+
+  void CreateRegistryKeys();
+  void RestoreSettings();
+  void SaveSettings() const;
+
+  controls::Signal<controls::TreeNode&> TreeViewNodeClick;
+
+ private:
+  void Container_Resize() override;
+  void ShowFolder(const std::string& explorerArguments) const;
+  controls::TreeView& Tree(const std::string& procedure) const;
+
+  controls::TreeView* m_treeView = nullptr;
+  controls::Connection m_nodeClick;
+};
+
+}  // namespace dayvane

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "platform/DateConventions.h"
+#include "platform/FileSystem.h"
+
+/// How the repository becomes a tree: levels 1 (root), 2 (years), 3 (months) and 4 (days).
+namespace dayvane::dailytree {
+
+inline constexpr int kYearLevel = 2;
+inline constexpr int kMonthLevel = 3;
+inline constexpr int kDayLevel = 4;
+
+/// The names of a folder that become nodes: all but those that end in ".lnk", in exactly these letters.
+std::vector<std::string> NodeNames(platform::FileSystem& files, const std::string& folder);
+
+/// Puts names in the order of their level: months by the calendar, English or the user's own, others after them by
+/// text; days by text; years as they come.
+void Arrange(std::vector<std::string>& names, int level, const platform::DateConventions& dates);
+
+}  // namespace dayvane::dailytree

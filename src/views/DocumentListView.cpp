@@ -1,0 +1,127 @@
+#include "views/DocumentListView.h"
+
+#include <utility>
+
+#include "base/Error.h"
+
+namespace dayvane {
+
+using controls::ListArrange;
+using controls::ListStyle;
+using controls::SortOrder;
+
+namespace {
+
+// Key codes and modifier bits of the classic key events.
+constexpr int kEnterKey = 13;
+constexpr int kF10Key = 121;
+constexpr int kAltModifier = 4;
+constexpr int kRightButton = 2;
+
+template <class Object>
+Object& Set(Object* object) {
+  if (object == nullptr) throw Error(kObjectNotSet, "Object variable not set");
+  return *object;
+}
+
+}  // namespace
+
+DocumentListView::DocumentListView(Application& application, std::string className)
+    : m_application(application), m_className(std::move(className)) {}
+
+void DocumentListView::Assert(bool condition, const std::string& message) const {
+  m_application.asserts.Assert(condition, m_className + message);
+}
+
+controls::ListView& DocumentListView::List(const std::string& procedure) const {
+  Assert(m_listView != nullptr, "." + procedure + ": ListView is Nothing");
+  return Set(m_listView);
+}
+
+controls::PictureBox& DocumentListView::Container(const std::string& procedure) const {
+  Assert(m_container != nullptr, "." + procedure + ": Container is Nothing");
+  return Set(m_container);
+}
+
+void DocumentListView::SetListControls(controls::ListView* listView, controls::PictureBox* container) {
+  m_connections.clear();
+  m_listView = listView;
+  m_container = container;
+  const auto keep = [this](controls::Connection connection) { m_connections.push_back(std::move(connection)); };
+  if (container != nullptr) keep(container->Resize.ConnectScoped([this] { Container_Resize(); }));
+  if (listView == nullptr) return;
+  keep(listView->ColumnClick.ConnectScoped([this](std::size_t column) { ListView_ColumnClick(column); }));
+  keep(listView->DblClick.ConnectScoped([this] { ListView_DblClick(); }));
+  keep(listView->ItemClick.ConnectScoped([this](controls::ListItem&) { ItemClick.Raise(); }));
+  keep(listView->KeyUp.ConnectScoped([this](int key, int modifiers) { ListView_KeyUp(key, modifiers); }));
+  keep(listView->MouseUp.ConnectScoped([this](int button, double x, double y) { ListView_MouseUp(button, x, y); }));
+}
+
+controls::ListItem* DocumentListView::SelectedDocument() const {
+  return List("SelectedDocument").SelectedItem();
+}
+ListStyle DocumentListView::View() const {
+  return List("View").View();
+}
+void DocumentListView::SetView(ListStyle style) {
+  List("View").SetView(style);
+}
+bool DocumentListView::Visible() const {
+  return Container("Visible").Visible();
+}
+void DocumentListView::SetVisible(bool visible) {
+  Container("Visible").SetVisible(visible);
+}
+
+void DocumentListView::ArrangeIcons(int order) {
+  controls::ListView& list = List("ArrangeIcons");
+  switch (order) {
+    case 0:
+      return SortByColumn(list, kTypeColumn + 1, SortOrder::Ascending);
+    case 1:
+      return SortByColumn(list, kPathColumn + 1, SortOrder::Ascending);
+    case 2:
+      return list.SetArrange(ListArrange::Top);
+    case 3:
+      return list.SetArrange(ListArrange::None);
+    default:
+      return;
+  }
+}
+
+void DocumentListView::ListView_ColumnClick(std::size_t column) {
+  // Another column is sorted in the order last used, deliberately not set back to ascending.
+  if (column == m_sortColumn)
+    m_sortOrder = m_sortOrder == SortOrder::Ascending ? SortOrder::Descending : SortOrder::Ascending;
+  m_sortColumn = column;
+  SortByColumn(List("ListView_ColumnClick"), m_sortColumn, m_sortOrder);
+}
+
+void DocumentListView::ListView_DblClick() {
+  if (controls::ListItem* document = SelectedDocument()) DblClick.Raise(*document);
+}
+
+void DocumentListView::ListView_KeyUp(int keyCode, int modifiers) {
+  const controls::PictureBox& container = Container("ListView_KeyUp");
+  controls::ListItem* document = SelectedDocument();
+  if (document == nullptr) return;
+  if (keyCode == kEnterKey) return DblClick.Raise(*document);
+  // The Alt bit, not Shift, is what has always been tested.
+  if (keyCode == kF10Key && (modifiers & kAltModifier) != 0)
+    PopupMenu.Raise(container.Left() + m_listView->SelectedLeft(), container.Top() + m_listView->SelectedTop());
+}
+
+void DocumentListView::ListView_MouseUp(int button, double x, double y) {
+  const controls::PictureBox& container = Container("ListView_MouseUp");
+  if (button == kRightButton && SelectedDocument() != nullptr)
+    PopupMenu.Raise(container.Left() + x, container.Top() + y);
+}
+
+void SortByColumn(controls::ListView& list, std::size_t column, SortOrder order) {
+  const controls::UpdateScope update(list);
+  list.SetSortKey(column - 1);
+  list.SetSortOrder(order);
+  list.SetSorted(true);
+}
+
+}  // namespace dayvane

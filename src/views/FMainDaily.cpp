@@ -1,0 +1,145 @@
+// The Daily view: the repository as a tree, the selected day's documents as a list.
+
+#include "app/IgnoreErrors.h"
+#include "app/MDayvane.h"
+#include "app/ReportErrors.h"
+#include "base/Error.h"
+#include "base/Text.h"
+#include "capture/CShortcut.h"
+#include "fs/Dir.h"
+#include "shell/FMain.h"
+#include "views/DailyTree.h"
+
+namespace dayvane {
+
+namespace {
+
+/// Nodes and rows are found by "K" and the full path of what they stand for.
+constexpr const char* kKeyPrefix = "K";
+
+std::string KeyOf(const std::string& path) {
+  return kKeyPrefix + path;
+}
+std::string PathOf(const std::string& key) {
+  return key.substr(1);
+}
+
+std::string KeyOfItem(const controls::ListItem* item) {
+  return item == nullptr ? std::string() : item->key;
+}
+std::string KeyOfNode(const controls::TreeNode* node) {
+  return node == nullptr ? std::string() : node->key;
+}
+
+}  // namespace
+
+void FMain::FindLatestDay() {
+  ReportErrors(m_application, kFindingLatestDay, kName, "FindLatestDay", [this] {
+    Assert(m_oCalendar != nullptr, ".FindLatestDay: Calendar object is nothing");
+    const Date latest = m_repository.FindLatestDay();
+    if (!latest.IsZero()) m_oCalendar->SetValue(latest);
+  });
+}
+
+void FMain::RefreshDaily() {
+  const controls::UpdateScope updateTree(tvwMain);
+  const controls::UpdateScope updateList(lvwDaily);
+  const std::string nodeKey = KeyOfNode(tvwMain.SelectedItem());
+  tvwMain.Clear();
+  const std::string rowKey = KeyOfItem(lvwDaily.SelectedItem());
+  lvwDaily.Clear();
+  const std::string& root = m_repository.DailyPath();
+  tvwMain.AddRoot(KeyOf(root), ResourceString(kDaily), kRepositoryPicture);
+  LoadDailyTreeViewFolder(root, dailytree::kYearLevel);
+  if (nodeKey.empty()) return;
+  controls::TreeNode* node = tvwMain.Find(nodeKey);
+  tvwMain.SetSelectedItem(node);
+  lvwDaily.SetSorted(true);
+  if (node == nullptr) return;
+  LoadDailyListView(node);
+  if (!rowKey.empty()) lvwDaily.SetSelectedItem(&lvwDaily.Item(rowKey));
+}
+
+void FMain::LoadDailyTreeViewFolder(const std::string& folder, int level) {
+  Assert(!text::Trim(folder).empty(), ".LoadDailyTreeViewFolder: Folder is missing");
+  Assert(level >= 1, ".LoadDailyTreeViewFolder: Level is 0");
+  std::vector<std::string> names;
+  // A folder that cannot be read is shown as a leaf, so that one of them does not hide all other days.
+  try {
+    names = dailytree::NodeNames(m_application.desktop.files, folder);
+  } catch (const Error& error) {
+    m_application.eventLog.Append(error.what(), EventKind::Warning);
+  }
+  dailytree::Arrange(names, level, m_application.desktop.dates);
+  for (const std::string& name : names) {
+    const std::string path = folder + "\\" + name;
+    tvwMain.AddChild(KeyOf(folder), KeyOf(path), name, level);
+    if (level != dailytree::kDayLevel) LoadDailyTreeViewFolder(path, level + 1);
+  }
+}
+
+void FMain::SelectDate(const Date& date) {
+  ReportErrors(m_application, kSelectingDate, kName, "SelectDate", [&] {
+    Assert(!date.IsZero(), ".SelectDate: Selected date is missing");
+    controls::TreeNode& node = tvwMain.Node(KeyOf(m_repository.DayFolder(date)));
+    tvwMain.SetSelectedItem(&node);
+    LoadDailyListView(&node);
+  });
+}
+
+void FMain::LoadDailyListView(const controls::TreeNode* node) {
+  const controls::UpdateScope update(lvwDaily);
+  lvwDaily.Clear();
+  lvwDaily.SetImages(nullptr, nullptr);
+  // The icons live only as long as one day's list.
+  for (controls::ImageList* images : {&imlLarge, &imlSmall})
+    while (images->Count() > 1) images->RemoveLast();
+  lvwDaily.SetImages(&imlLarge, &imlSmall);
+  if (node == nullptr) return;
+  if (!m_inTreeClick) SetExploreOpen(false);
+  const std::string folder = PathOf(node->key);
+  for (const auto& entry : Dir(m_application.desktop.files, folder + "\\*.lnk", DirKinds::Files))
+    AddDocument(node->key, folder, entry.name);
+  lvwDaily.SetSorted(lvwDaily.Sorted());
+}
+
+void FMain::AddDocument(const std::string& nodeKey, const std::string& folder, const std::string& fileName) {
+  CShortcut shortcut(m_application);
+  shortcut.SetFile(folder + "\\" + fileName);
+  const int icon = DailyImageListIndex(shortcut.File(), shortcut.TargetFileName());
+  auto& item = lvwDaily.Add(nodeKey + "\\" + fileName, fileName.substr(0, fileName.size() - 4), icon);
+  item.subItems = {shortcut.TargetClass(), shortcut.WorkingDirectory(),
+                   Format(shortcut.Modified(), "Short Time", m_application.desktop.dates)};
+}
+
+int FMain::DailyImageListIndex(const std::string& shortcutFileName, const std::string& targetFileName) {
+  Assert(!text::Trim(shortcutFileName).empty(), ".DailyImageListIndex: Shortcut file name is missing");
+  Assert(!text::Trim(targetFileName).empty(), ".DailyImageListIndex: Target file name is missing");
+  const int known = imlLarge.IndexOf(KeyOf(targetFileName));
+  return known != 0 ? known : 1;
+}
+
+void FMain::m_oCalendar_DateChange(const Date& newDate) {
+  if (!m_inTreeClick) SelectDate(newDate);
+  RefreshStatusBar();
+}
+
+void FMain::m_oDaily_TreeViewNodeClick(const controls::TreeNode& node) {
+  ReportErrors(m_application, kProcessingSelection, kName, "m_oDaily_TreeViewNodeClick", [&] {
+    Assert(m_oCalendar != nullptr, ".m_oDaily_TreeViewNodeClick: Calendar object is nothing");
+    if (!node.children.empty()) {
+      LoadDailyListView(&node);
+      RefreshStatusBar();
+      return;
+    }
+    auto waitCursor = ShowWait();
+    LoadDailyListView(&node);
+    m_inTreeClick = true;
+    const bool moved = IgnoreErrors([&] { m_oCalendar->SetValue(PathToDate(m_application, node.key)); });
+    m_inTreeClick = false;
+    RefreshStatusBar(std::move(waitCursor));
+    (void)moved;
+  });
+}
+
+}  // namespace dayvane

@@ -1,0 +1,55 @@
+// The Favorites view: the documents that were filed on enough days.
+
+#include "app/ReportErrors.h"
+#include "base/Text.h"
+#include "shell/FMain.h"
+#include "views/FavoritesTable.h"
+
+namespace dayvane {
+
+namespace {
+
+/// Right-aligned in five characters, so that the order of the texts is the order of the counts.
+std::string DaysText(const favorites::Value& days) {
+  constexpr std::size_t kWidth = 5;
+  const std::string text = "    " + favorites::TextOf(days);
+  return text.size() <= kWidth ? text : text.substr(text.size() - kWidth);
+}
+
+std::string LastAccessedText(const favorites::Value& value, const platform::DateConventions& dates) {
+  const auto* date = std::get_if<Date>(&value);
+  return date != nullptr ? Format(*date, "yyyy/mm/dd hh:mm", dates) : favorites::TextOf(value);
+}
+
+}  // namespace
+
+void FMain::RefreshFavorites() {
+  Assert(m_oFavorites != nullptr, ".RefreshFavorites: Favorites object is nothing");
+  const controls::UpdateScope update(lvwFavorites);
+  const auto* selected = lvwFavorites.SelectedItem();
+  const std::string selectedKey = selected == nullptr ? std::string() : selected->key;
+  lvwFavorites.Clear();
+  for (const favorites::Record& record : m_oFavorites->GetFavorites()) {
+    if (favorites::NumberOf(record[favorites::kDaysAccessed]) < m_favoritesThreshold) continue;
+    const std::string shortcutFile = favorites::TextOf(record[favorites::kShortcutFile]);
+    const std::string name = favorites::TextOf(record[favorites::kTargetFileName]);
+    // A damaged data file may hold one shortcut twice; the first record is the one that counts go to.
+    if (lvwFavorites.Find("K" + shortcutFile) != nullptr) continue;
+    auto& item = lvwFavorites.Add("K" + shortcutFile, name, FavoritesImageListIndex(shortcutFile, name));
+    item.subItems = {favorites::TextOf(record[favorites::kType]),
+                     text::ToLower(favorites::TextOf(record[favorites::kFolder])),
+                     DaysText(record[favorites::kDaysAccessed]),
+                     LastAccessedText(record[favorites::kLastAccessed], m_application.desktop.dates)};
+  }
+  m_oFavorites->SortAgain();
+  lvwFavorites.SetSelectedItem(lvwFavorites.Find(selectedKey));
+}
+
+int FMain::FavoritesImageListIndex(const std::string& shortcutFileName, const std::string& targetFileName) {
+  Assert(!text::Trim(shortcutFileName).empty(), ".FavoritesImageListIndex: Shortcut file name is missing");
+  Assert(!text::Trim(targetFileName).empty(), ".FavoritesImageListIndex: Target file name is missing");
+  const int known = imlFavorites.IndexOf("K" + targetFileName);
+  return known != 0 ? known : 1;
+}
+
+}  // namespace dayvane

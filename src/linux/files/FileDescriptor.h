@@ -23,6 +23,9 @@ class FileDescriptor {
   bool IsOpen() const { return m_number >= 0; }
   int Number() const { return m_number; }
 
+  /// Closes before the end of the object's life, to learn whether that went well. It is closed either way.
+  bool Close() { return close(std::exchange(m_number, -1)) == 0; }
+
  private:
   int m_number;
 };

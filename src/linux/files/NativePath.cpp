@@ -1,9 +1,10 @@
 #include "linux/files/NativePath.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <dirent.h>
+#include <filesystem>
 #include <memory>
-#include <sys/stat.h>
 #include <unistd.h>
 
 #include "base/Text.h"
@@ -29,17 +30,25 @@ std::string NativePart(std::string_view part) {
   return native;
 }
 
-/// Folder that a drive of the user's Windows environment stands for, when there is such an environment.
+/// The value of an environment variable that holds an absolute path, or empty.
+std::string PathVariable(const char* name) {
+  const char* value = std::getenv(name);
+  return value != nullptr && value[0] == '/' ? value : "";
+}
+
+/// Folder that a drive of the user's Windows environment stands for, when there is such an environment. Only the
+/// environment's own link is read: what it points at may be asleep, or on another computer.
 std::optional<std::string> DriveFolder(char letter) {
-  const char* prefix = std::getenv("WINEPREFIX");
-  const char* home = std::getenv("HOME");
-  std::string devices = prefix != nullptr ? prefix : std::string(home != nullptr ? home : "") + "/.wine";
-  devices += "/dosdevices/";
-  devices += letter;
-  devices += ':';
-  const std::unique_ptr<char, decltype(&std::free)> folder(realpath(devices.c_str(), nullptr), &std::free);
-  if (!folder) return std::nullopt;
-  return std::string(folder.get());
+  namespace fs = std::filesystem;
+  fs::path environment = PathVariable("WINEPREFIX");
+  if (environment.empty()) environment = fs::path(PathVariable("HOME")) / ".wine";
+  const fs::path devices = environment / "dosdevices";
+  std::error_code error;
+  const fs::path target = fs::read_symlink(devices / (std::string(1, letter) + ":"), error);
+  if (error) return std::nullopt;
+  std::string folder = (devices / target).lexically_normal();
+  if (folder.size() > 1 && folder.ends_with('/')) folder.pop_back();
+  return folder;
 }
 
 bool Exists(const std::string& path) {

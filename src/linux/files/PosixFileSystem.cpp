@@ -2,16 +2,18 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <cstring>
 #include <ctime>
 #include <dirent.h>
 #include <fcntl.h>
+#include <limits>
 #include <memory>
 #include <sys/stat.h>
 
 #include "base/Error.h"
 #include "linux/files/FileDescriptor.h"
 #include "linux/files/NativePath.h"
+#include "linux/files/SystemError.h"
+#include "linux/files/UnfinishedFile.h"
 
 namespace dayvane::files {
 
@@ -24,39 +26,6 @@ using platform::FileMoment;
 using platform::FileStatus;
 
 constexpr std::int64_t kNanosecondsPerSecond = 1'000'000'000;
-
-int NumberOf(int systemError) {
-  switch (systemError) {
-    case ENOENT:
-      return kFileNotFound;
-    case ENOTDIR:
-      return kPathNotFound;
-    case EEXIST:
-      return kFileAlreadyExists;
-    case EACCES:
-    case EPERM:
-    case EROFS:
-      return kPermissionDenied;
-    case ENOSPC:
-    case EDQUOT:
-    case EFBIG:
-      return kDiskFull;
-    case ENAMETOOLONG:
-    case EINVAL:
-      return kBadFileName;
-    case EISDIR:
-    case ELOOP:
-    case ENOTEMPTY:
-      return kPathFileAccess;
-    default:
-      return kDeviceIoError;
-  }
-}
-
-[[noreturn]] void Fail(const std::string& path) {
-  const int systemError = errno;
-  throw Error(NumberOf(systemError), std::strerror(systemError), path);
-}
 
 std::string Native(const std::string& path) {
   auto native = ToNative(path);
@@ -88,7 +57,11 @@ EntryKind KindOf(const std::string& folder, const dirent& entry) {
   return lstat((folder + "/" + entry.d_name).c_str(), &status) == 0 ? KindOf(status.st_mode) : EntryKind::Other;
 }
 
+/// Disks know years that 64 bits of nanoseconds do not reach (1677 to 2262): the nearer end stands for them.
 std::int64_t Nanoseconds(const struct timespec& time) {
+  constexpr std::int64_t kReach = std::numeric_limits<std::int64_t>::max() / kNanosecondsPerSecond;
+  if (time.tv_sec >= kReach) return std::numeric_limits<std::int64_t>::max();
+  if (time.tv_sec <= -kReach) return std::numeric_limits<std::int64_t>::min();
   return static_cast<std::int64_t>(time.tv_sec) * kNanosecondsPerSecond + time.tv_nsec;
 }
 
@@ -101,56 +74,6 @@ struct timespec ToTimespec(std::int64_t nanoseconds) {
   }
   return {static_cast<time_t>(seconds), static_cast<long>(rest)};
 }
-
-void WriteAll(int file, std::string_view bytes, const std::string& path) {
-  while (!bytes.empty()) {
-    const ssize_t written = write(file, bytes.data(), bytes.size());
-    if (written < 0 && errno == EINTR) continue;
-    if (written < 0) Fail(path);
-    bytes.remove_prefix(static_cast<std::size_t>(written));
-  }
-}
-
-/// A new file beside its destination, which it takes the place of when it is whole; gone again when it never is.
-class UnfinishedFile {
- public:
-  explicit UnfinishedFile(const std::string& destination)
-      : m_destination(destination),
-        m_path(destination.substr(0, destination.rfind('/') + 1) + PosixFileSystem::kUnfinishedName),
-        m_file(Create()) {}
-  UnfinishedFile(const UnfinishedFile&) = delete;
-  UnfinishedFile& operator=(const UnfinishedFile&) = delete;
-  ~UnfinishedFile() {
-    if (!m_done) unlink(m_path.c_str());
-  }
-
-  int Number() const { return m_file.Number(); }
-
-  void SetWritten(const struct timespec& written) const {
-    const struct timespec times[2] = {{0, UTIME_OMIT}, written};
-    if (futimens(Number(), times) != 0) Fail(m_destination);
-  }
-
-  void Finish() {
-    if (rename(m_path.c_str(), m_destination.c_str()) != 0) Fail(m_destination);
-    m_done = true;
-  }
-
- private:
-  FileDescriptor Create() const {
-    constexpr int kFlags = O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC | O_NOFOLLOW;
-    FileDescriptor file(open(m_path.c_str(), kFlags, 0666));
-    if (!file.IsOpen() && errno == EEXIST && unlink(m_path.c_str()) == 0)
-      file = FileDescriptor(open(m_path.c_str(), kFlags, 0666));
-    if (!file.IsOpen()) Fail(m_destination);
-    return file;
-  }
-
-  std::string m_destination;
-  std::string m_path;
-  FileDescriptor m_file;
-  bool m_done = false;
-};
 
 /// Copies what the source holds from `position` to `end`.
 void CopyRange(int source, int target, off_t position, off_t end, const std::string& path) {
@@ -184,16 +107,26 @@ void CopyContents(int source, int target, off_t size, const std::string& path) {
   if (ftruncate(target, size) != 0) Fail(path);
 }
 
-FileDescriptor OpenToRead(const std::string& path, struct stat& status) {
-  // Not blocking: a named pipe in place of a file must not stop the program.
-  FileDescriptor file(open(Native(path).c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOFOLLOW));
+/// Opens a file and nothing else. Not blocking: a named pipe in place of a file must not stop the program.
+FileDescriptor OpenFile(const std::string& path, int flags, struct stat& status) {
+  FileDescriptor file(open(Native(path).c_str(), flags | O_CLOEXEC | O_NONBLOCK | O_NOFOLLOW, 0666));
   if (!file.IsOpen() || fstat(file.Number(), &status) != 0) Fail(path);
   if (!S_ISREG(status.st_mode)) throw Error(kPathFileAccess, "Not a file", path);
   return file;
 }
 
-void FlushToDisk(int file, const std::string& path) {
-  if (fdatasync(file) != 0) Fail(path);
+using OpenFolder = std::unique_ptr<DIR, int (*)(DIR*)>;
+
+/// The folder itself, not one that a symbolic link of this name points at: whoever lists a folder may go on to delete
+/// what it holds. Null where there is none.
+OpenFolder OpenToList(const std::string& native, const std::string& path) {
+  const int number = open(native.c_str(), O_RDONLY | O_CLOEXEC | O_DIRECTORY | O_NOFOLLOW);
+  if (number < 0 && (errno == ENOENT || errno == ENOTDIR || errno == ELOOP)) return {nullptr, &closedir};
+  if (number < 0) Fail(path);
+  OpenFolder folder(fdopendir(number), &closedir);
+  if (!folder) close(number);
+  if (!folder) throw Error(kDeviceIoError, "Out of memory", path);
+  return folder;
 }
 
 }  // namespace
@@ -213,9 +146,15 @@ FileMoment MomentOf(const struct stat& status) {
 }
 
 void ReplaceWithTime(const std::string& nativePath, std::string_view bytes, std::int64_t writtenNanoseconds) {
-  UnfinishedFile file(nativePath);
-  WriteAll(file.Number(), bytes, nativePath);
+  UnfinishedFile file(nativePath, nativePath);
+  file.Write(bytes);
   file.SetWritten(ToTimespec(writtenNanoseconds));
+  file.Finish();
+}
+
+void ReplaceUnflushed(const std::string& path, std::string_view bytes) {
+  UnfinishedFile file(Native(path), path);
+  file.Write(bytes);
   file.Finish();
 }
 
@@ -230,9 +169,8 @@ std::vector<DirectoryEntry> PosixFileSystem::List(const std::string& folder) {
   std::vector<DirectoryEntry> entries;
   const auto native = ToNative(folder);
   if (!native) return entries;
-  const std::unique_ptr<DIR, int (*)(DIR*)> open(opendir(native->c_str()), &closedir);
-  if (!open && (errno == ENOENT || errno == ENOTDIR)) return entries;
-  if (!open) Fail(folder);
+  const OpenFolder open = OpenToList(*native, folder);
+  if (!open) return entries;
   for (;;) {
     errno = 0;
     const dirent* entry = readdir(open.get());
@@ -248,7 +186,7 @@ std::vector<DirectoryEntry> PosixFileSystem::List(const std::string& folder) {
 
 FileContents PosixFileSystem::Read(const std::string& path, std::size_t limit) {
   struct stat status {};
-  const FileDescriptor file = OpenToRead(path, status);
+  const FileDescriptor file = OpenFile(path, O_RDONLY, status);
   FileContents contents{{}, MomentOf(status)};
   // One byte of room beyond the expected end tells the end of the file without a second read.
   std::size_t capacity = std::min(limit, static_cast<std::size_t>(status.st_size) + 1);
@@ -268,24 +206,24 @@ FileContents PosixFileSystem::Read(const std::string& path, std::size_t limit) {
 }
 
 void PosixFileSystem::Replace(const std::string& path, std::string_view bytes) {
-  UnfinishedFile file(Native(path));
-  WriteAll(file.Number(), bytes, path);
-  FlushToDisk(file.Number(), path);
+  UnfinishedFile file(Native(path), path);
+  file.Write(bytes);
+  file.FlushToDisk();
   file.Finish();
 }
 
 void PosixFileSystem::Copy(const std::string& source, const std::string& destination) {
   struct stat status {};
-  const FileDescriptor from = OpenToRead(source, status);
-  UnfinishedFile to(Native(destination));
+  const FileDescriptor from = OpenFile(source, O_RDONLY, status);
+  UnfinishedFile to(Native(destination), destination);
   CopyContents(from.Number(), to.Number(), status.st_size, destination);
   to.SetWritten(status.st_mtim);
   to.Finish();
 }
 
 void PosixFileSystem::Append(const std::string& path, std::string_view text) {
-  const FileDescriptor file(open(Native(path).c_str(), O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC | O_NONBLOCK, 0666));
-  if (!file.IsOpen()) Fail(path);
+  struct stat status {};
+  const FileDescriptor file = OpenFile(path, O_WRONLY | O_CREAT | O_APPEND, status);
   WriteAll(file.Number(), text, path);
 }
 
@@ -300,8 +238,10 @@ void PosixFileSystem::Delete(const std::string& path) {
 void PosixFileSystem::RemoveFolder(const std::string& path) {
   const std::string native = Native(path);
   if (rmdir(native.c_str()) == 0) return;
-  const bool onlyLeftOver = errno == ENOTEMPTY && unlink((native + "/" + kUnfinishedName).c_str()) == 0;
-  if (!onlyLeftOver || rmdir(native.c_str()) != 0) Fail(path);
+  if (errno != ENOTEMPTY && errno != EEXIST) Fail(path);
+  // What a kill may have left is the program's own. Whether it was there does not matter: the second attempt tells.
+  unlink((native + "/" + kUnfinishedName).c_str());
+  if (rmdir(native.c_str()) != 0) Fail(path);
 }
 
 }  // namespace dayvane::files

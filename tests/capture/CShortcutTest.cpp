@@ -1,0 +1,164 @@
+#include <filesystem>
+#include <gtest/gtest.h>
+
+#include "base/Error.h"
+#include "capture/CShortcut.h"
+#include "tests/support/TestDesktop.h"
+
+namespace dayvane {
+namespace {
+
+class CShortcutTest : public ::testing::Test {
+ protected:
+  /// Reads a shortcut of this name with these contents, written on 5 January 2026.
+  void Read(const platform::ShellLink& link, const std::string& name = "Report.odt.lnk") {
+    testing::WriteShortcut(desktop.NativeFolder() + "/" + name, link, "2026-01-05 14:03:27");
+    shortcut.SetFile(desktop.Folder() + "\\" + name);
+  }
+  void ReadTarget(const std::string& target) {
+    platform::ShellLink link;
+    link.target = target;
+    Read(link);
+  }
+
+  testing::TestDesktop desktop;
+  Application application{desktop.desktop, desktop.Folder()};
+  CShortcut shortcut{application};
+};
+
+TEST_F(CShortcutTest, TheFileNameKeepsItsExtension) {
+  ReadTarget("Z:\\home\\ana\\Report.odt");
+  EXPECT_EQ(shortcut.File(), desktop.Folder() + "\\Report.odt.lnk");
+  EXPECT_EQ(shortcut.FileName(), "Report.odt.lnk");
+}
+
+TEST_F(CShortcutTest, TheDateOfItsLastWritingGivesYearMonthAndDay) {
+  ReadTarget("Z:\\home\\ana\\Report.odt");
+  EXPECT_EQ(shortcut.Modified(), Date::Of(2026, 1, 5, 14, 3, 27));
+  EXPECT_EQ(shortcut.Year(), "2026");
+  EXPECT_EQ(shortcut.Month(), "January");
+  EXPECT_EQ(shortcut.Day(), "05");
+}
+
+TEST_F(CShortcutTest, FieldsAreTrimmedAndTheWorkingFolderIsLowerCased) {
+  platform::ShellLink link{"Z:\\home\\Ana\\Report.odt ", " Z:\\home\\ANA\\Work ", "", " icons.dll ", 7, 3};
+  Read(link);
+  EXPECT_EQ(shortcut.TargetFile(), "Z:\\home\\Ana\\Report.odt");
+  EXPECT_EQ(shortcut.TargetFileName(), "Report.odt");
+  EXPECT_EQ(shortcut.WorkingDirectory(), "z:\\home\\ana\\work");
+  EXPECT_EQ(shortcut.IconFile(), "icons.dll");
+  EXPECT_EQ(shortcut.IconIndex(), 7);
+  EXPECT_EQ(shortcut.ShowCommand(), 3);
+}
+
+TEST_F(CShortcutTest, WithoutAWorkingFolderItIsTheTargetsFolder) {
+  ReadTarget("Z:\\home\\ana\\Report.odt");
+  EXPECT_EQ(shortcut.WorkingDirectory(), "Z:\\home\\ana");
+}
+
+TEST_F(CShortcutTest, AProgramIsAnApplicationWithoutALookUp) {
+  desktop.registry.AddClass(".EXE", "never asked");
+  ReadTarget("D:\\X\\Setup.EXE");
+  EXPECT_EQ(shortcut.TargetClass(), "Application");
+}
+
+TEST_F(CShortcutTest, ATargetWithoutAnExtensionHasNoClass) {
+  desktop.registry.AddClass(".", "never asked");
+  ReadTarget("Z:\\home\\ana\\Makefile");
+  EXPECT_EQ(shortcut.TargetClass(), "");
+  ReadTarget("Z:\\home\\ana\\Report.");
+  EXPECT_EQ(shortcut.TargetClass(), "");
+}
+
+TEST_F(CShortcutTest, TheClassDescribesTheDocumentAndGivesItsIcon) {
+  desktop.registry.AddClass(".ODT", "OpenDocument Text", "writer.dll,12");
+  ReadTarget("Z:\\home\\ana\\report.odt");
+  EXPECT_EQ(shortcut.TargetClass(), "OpenDocument Text");
+  EXPECT_EQ(shortcut.IconFile(), "writer.dll");
+  EXPECT_EQ(shortcut.IconIndex(), 12);
+}
+
+TEST_F(CShortcutTest, AnIconWithoutANumberKeepsTheShortcutsOwn) {
+  desktop.registry.AddClass(".ODT", "OpenDocument Text", "writer.dll");
+  Read({"Z:\\a.odt", "", "", "own.dll", 4, 1});
+  EXPECT_EQ(shortcut.IconFile(), "own.dll");
+  EXPECT_EQ(shortcut.IconIndex(), 4);
+}
+
+TEST_F(CShortcutTest, AnUnknownExtensionKeepsWhatTheShortcutGave) {
+  Read({"Z:\\a.zzq", "", "", "own.dll", 4, 1});
+  EXPECT_EQ(shortcut.TargetClass(), "");
+  EXPECT_EQ(shortcut.IconFile(), "own.dll");
+}
+
+TEST_F(CShortcutTest, AnotherFileForgetsTheClassOfTheOneBefore) {
+  desktop.registry.AddClass(".ODT", "OpenDocument Text");
+  ReadTarget("Z:\\a.odt");
+  ReadTarget("Z:\\Makefile");
+  EXPECT_EQ(shortcut.TargetClass(), "");
+}
+
+TEST_F(CShortcutTest, ASecondShortcutPointsAtTheProgramThatOpensTheDocument) {
+  desktop.folder.Write("bin/WRITER", "");
+  const std::string program = desktop.folder.Path() + "\\bin\\WRITER";
+  desktop.registry.AddClass(".ODT", "OpenDocument Text", "", "\"" + program + "\" \"%1\"");
+  ReadTarget("Z:\\a.odt");
+  shortcut.CreateExecutableShortcut();
+  const auto created = application.shellServices.ReadShortcut(desktop.Folder() + "\\Writer.lnk").link;
+  EXPECT_EQ(created.target, program);
+  EXPECT_EQ(created.workingDirectory, program);
+  EXPECT_EQ(created.arguments, "");
+  EXPECT_EQ(created.showCommand, 1);
+}
+
+TEST_F(CShortcutTest, AProgramWithoutQuotesIsFoundToo) {
+  desktop.folder.Write("bin/writer", "");
+  desktop.registry.AddClass(".ODT", "Text", "", desktop.folder.Path() + "\\bin\\writer %1");
+  ReadTarget("Z:\\a.odt");
+  shortcut.CreateExecutableShortcut();
+  EXPECT_TRUE(std::filesystem::exists(desktop.NativeFolder() + "/Writer.lnk"));
+}
+
+TEST_F(CShortcutTest, AnEarlierShortcutToTheProgramIsReplaced) {
+  desktop.folder.Write("bin/writer", "");
+  desktop.folder.Write("program/Writer.lnk", "old");
+  desktop.registry.AddClass(".ODT", "Text", "", "\"" + desktop.folder.Path() + "\\bin\\writer\" \"%1\"");
+  ReadTarget("Z:\\a.odt");
+  shortcut.CreateExecutableShortcut();
+  EXPECT_NE(testing::ReadFile(desktop.NativeFolder() + "/Writer.lnk"), "old");
+}
+
+TEST_F(CShortcutTest, AProgramThatDoesNotExistGetsNoShortcut) {
+  desktop.registry.AddClass(".ODT", "Text", "", "\"D:\\App\\app.exe\" \"%1\"");
+  ReadTarget("Z:\\a.odt");
+  shortcut.CreateExecutableShortcut();
+  EXPECT_FALSE(std::filesystem::exists(desktop.NativeFolder() + "/App.exe.lnk"));
+}
+
+TEST_F(CShortcutTest, OpeningPassesTargetWorkingFolderAndShowCommandToTheShell) {
+  Read({"Z:\\home\\ana\\a.odt", "", "", "", 0, 3});
+  desktop.shell.openResult = 31;
+  EXPECT_EQ(shortcut.OpenDocument(), 31);
+  EXPECT_EQ(desktop.shell.opened, std::vector<std::string>{"Z:\\home\\ana\\a.odt|Z:\\home\\ana|3"});
+}
+
+TEST_F(CShortcutTest, AFileThatIsNoShortcutReadsAsEmptyFieldsAndIsReportedOnce) {
+  testing::SetWritten(desktop.folder.Write("program/broken.lnk", "not a link"), "2026-01-05 14:03:27");
+  for (int poll = 0; poll < 3; ++poll) EXPECT_NO_THROW(shortcut.SetFile(desktop.Folder() + "\\broken.lnk"));
+  EXPECT_EQ(shortcut.TargetFile(), "");
+  EXPECT_EQ(shortcut.TargetClass(), "");
+  EXPECT_EQ(shortcut.Modified(), Date::Of(2026, 1, 5, 14, 3, 27));
+  EXPECT_EQ(desktop.shell.reported.size(), 1U);
+}
+
+TEST_F(CShortcutTest, AFileThatCannotBeOpenedIsAnError) {
+  EXPECT_THROW(shortcut.SetFile(desktop.Folder() + "\\none.lnk"), Error);
+}
+
+TEST_F(CShortcutTest, AnEmptyPathIsLoggedAndThenFails) {
+  EXPECT_THROW(shortcut.SetFile("  "), Error);
+  EXPECT_EQ(desktop.LogLines("EventLog.txt"), std::vector<std::string>{"2\tCShortcut.File: Path is missing"});
+}
+
+}  // namespace
+}  // namespace dayvane

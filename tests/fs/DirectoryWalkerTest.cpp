@@ -1,0 +1,124 @@
+#include <filesystem>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include "base/Error.h"
+#include "fs/DirectoryWalker.h"
+#include "linux/files/PosixFileSystem.h"
+#include "tests/support/TemporaryFolder.h"
+#include "tests/support/Unprivileged.h"
+
+namespace dayvane {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+using ::testing::UnorderedElementsAre;
+
+class DirectoryWalkerTest : public ::testing::Test {
+ protected:
+  DirectoryWalkerTest() {
+    walker.ItemFound.Connect([this](const std::string& path, const std::string& name, bool& cancel) {
+      found.push_back(path.substr(folder.Path().size()) + name);
+      cancel = found.size() == cancelAfter;
+    });
+  }
+
+  std::string Root() const { return folder.Path() + "\\"; }
+
+  testing::TemporaryFolder folder;
+  files::PosixFileSystem files;
+  DirectoryWalker walker{files};
+  std::vector<std::string> found;
+  std::size_t cancelAfter = 0;
+};
+
+TEST_F(DirectoryWalkerTest, FilesOfTheWholeTreeAreReportedWithTheirFolder) {
+  folder.Write("a.lnk", "");
+  folder.Write("2026/May/05/b.lnk", "");
+  folder.Write("2026/May/05/c.txt", "");
+  walker.WalkDirectoryTree(Root(), "*.lnk");
+  EXPECT_THAT(found, ElementsAre("\\a.lnk", "\\2026\\May\\05\\b.lnk"));
+}
+
+TEST_F(DirectoryWalkerTest, AFoldersOwnItemsComeBeforeThoseOfItsSubFolders) {
+  folder.Write("a/b/c.lnk", "");
+  walker.WalkDirectoryTree(Root(), "*.*", kWalkReportFolders);
+  EXPECT_THAT(found, ElementsAre("\\a", "\\a\\b"));
+}
+
+TEST_F(DirectoryWalkerTest, FoldersAreReportedWithoutFilesAndWithoutDotNames) {
+  folder.Write("05/x.lnk", "");
+  folder.Write(".hidden/06/x.lnk", "");
+  walker.WalkDirectoryTree(Root(), "*.*", kWalkReportFolders);
+  EXPECT_THAT(found, ElementsAre("\\05"));
+}
+
+TEST_F(DirectoryWalkerTest, WithoutSubFoldersOnlyTheImmediateOnesThatMatchAreReported) {
+  folder.Write("May/05/x.lnk", "");
+  folder.Write("March/x.lnk", "");
+  folder.Write("June/x.lnk", "");
+  walker.WalkDirectoryTree(Root(), "Ma*", kWalkReportFolders | kWalkNoSubFolders);
+  EXPECT_THAT(found, UnorderedElementsAre("\\May", "\\March"));
+}
+
+TEST_F(DirectoryWalkerTest, ACancelOnTheFirstItemOfADeepTreeEndsTheWholeWalk) {
+  folder.Write("a/b/c/1.lnk", "");
+  folder.Write("a/b/2.lnk", "");
+  folder.Write("a/3.lnk", "");
+  cancelAfter = 1;
+  walker.WalkDirectoryTree(Root(), "*.lnk");
+  EXPECT_EQ(found.size(), 1U);
+}
+
+TEST_F(DirectoryWalkerTest, ACancelledWalkerCanWalkAgain) {
+  folder.Write("1.lnk", "");
+  folder.Write("2.lnk", "");
+  cancelAfter = 1;
+  walker.WalkDirectoryTree(Root(), "*.lnk");
+  cancelAfter = 0;
+  walker.WalkDirectoryTree(Root(), "*.lnk");
+  EXPECT_EQ(found.size(), 3U);
+}
+
+TEST_F(DirectoryWalkerTest, WithoutATrailingSeparatorThePatternIsGluedToTheFoldersName) {
+  folder.Write("Daily/inside.lnk", "");
+  folder.Write("Daily of May.lnk", "");
+  walker.WalkDirectoryTree(Root() + "Daily", "*.lnk", kWalkNoSubFolders);
+  ASSERT_EQ(found.size(), 1U);
+  EXPECT_TRUE(found[0].ends_with("Daily of May.lnk")) << found[0];
+}
+
+TEST_F(DirectoryWalkerTest, SymbolicLinksAreNeitherReportedNorEntered) {
+  const testing::TemporaryFolder outside;
+  outside.Write("secret.lnk", "");
+  std::filesystem::create_directory_symlink(outside.Native(), folder / "way out");
+  walker.WalkDirectoryTree(Root(), "*.lnk");
+  walker.WalkDirectoryTree(Root(), "*.*", kWalkReportFolders);
+  EXPECT_THAT(found, IsEmpty());
+}
+
+TEST_F(DirectoryWalkerTest, AFolderThatDoesNotExistHasNoItems) {
+  walker.WalkDirectoryTree(Root() + "none\\", "*.lnk");
+  EXPECT_THAT(found, IsEmpty());
+}
+
+TEST_F(DirectoryWalkerTest, AListenersErrorEndsTheWalk) {
+  folder.Write("1.lnk", "");
+  folder.Write("2.lnk", "");
+  walker.ItemFound.Connect([](const std::string&, const std::string&, bool&) { throw Error(kDiskFull, "Disk full"); });
+  EXPECT_THROW(walker.WalkDirectoryTree(Root(), "*.lnk"), Error);
+  EXPECT_EQ(found.size(), 1U);
+}
+
+TEST_F(DirectoryWalkerTest, AFolderThatCannotBeReadIsAnErrorForTheCaller) {
+  folder.Write("closed/1.lnk", "");
+  std::filesystem::permissions(folder.Native(), std::filesystem::perms(0755));
+  std::filesystem::permissions(folder / "closed", std::filesystem::perms::none);
+  const testing::Unprivileged user;
+  EXPECT_THROW(walker.WalkDirectoryTree(Root(), "*.lnk"), Error);
+}
+
+}  // namespace
+}  // namespace dayvane

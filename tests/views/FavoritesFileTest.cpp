@@ -1,0 +1,90 @@
+#include <gtest/gtest.h>
+
+#include "base/Error.h"
+#include "views/FavoritesFile.h"
+
+namespace dayvane::favorites {
+namespace {
+
+std::vector<Value> All(std::string_view text) {
+  std::vector<Value> values;
+  for (ValueReader reader(text); !reader.AtEnd();) values.push_back(reader.Next());
+  return values;
+}
+
+TEST(FavoritesFile, ARecordIsOneLineOfEightValues) {
+  const Record record{std::int64_t{3},
+                      Date::Of(1998, 5, 12, 14, 3, 27),
+                      std::string("Z:\\Daily\\1998\\May\\12\\a.lnk"),
+                      std::string("a, b.odt"),
+                      std::string("z:\\home"),
+                      std::string(),
+                      Value{},
+                      std::int64_t{-5}};
+  EXPECT_EQ(FormatRecord(record),
+            "3,#1998-05-12 14:03:27#,\"Z:\\Daily\\1998\\May\\12\\a.lnk\",\"a, b.odt\",\"z:\\home\",\"\",,-5\r\n");
+}
+
+TEST(FavoritesFile, ADateWithoutATimeAndATimeWithoutADateStandAlone) {
+  EXPECT_EQ(FormatValue(Date::Of(1998, 5, 12)), "#1998-05-12#");
+  EXPECT_EQ(FormatValue(Date::Of(1899, 12, 30, 14, 3, 27)), "#14:03:27#");
+}
+
+TEST(FavoritesFile, WhatIsWrittenIsReadBackWithItsTypes) {
+  const std::vector<Value> values{std::int64_t{3},
+                                  Date::Of(1998, 5, 12, 14, 3, 27),
+                                  Date::Of(1998, 5, 12),
+                                  Date::Of(1899, 12, 30, 14, 3, 27),
+                                  std::string("a, \r\n b"),
+                                  std::string(),
+                                  Value{},
+                                  std::int64_t{-5},
+                                  2.5};
+  std::string text;
+  for (const Value& value : values) text += FormatValue(value) + ",";
+  EXPECT_EQ(All(text), values);
+}
+
+TEST(FavoritesFile, ALineBreakSeparatesValuesAsACommaDoes) {
+  EXPECT_EQ(All("1,\"a\"\r\n2\n3"),
+            (std::vector<Value>{std::int64_t{1}, std::string("a"), std::int64_t{2}, std::int64_t{3}}));
+}
+
+TEST(FavoritesFile, BlanksAroundAnUnquotedValueAreDropped) {
+  EXPECT_EQ(All("  7  ,  word \r\n"), (std::vector<Value>{std::int64_t{7}, std::string("word")}));
+}
+
+TEST(FavoritesFile, AnEmptyValueStaysEmpty) {
+  EXPECT_EQ(All(",5"), (std::vector<Value>{Value{}, std::int64_t{5}}));
+}
+
+TEST(FavoritesFile, ANumberSignTextThatIsNoDateStaysAText) {
+  for (const char* text : {"#1998-13-01#", "#hello#", "#", "##", "#1998-05-12 14:03#"})
+    EXPECT_EQ(All(text), std::vector<Value>{std::string(text)}) << text;
+}
+
+TEST(FavoritesFile, ATextWithoutItsClosingMarkEndsWithTheFile) {
+  EXPECT_EQ(All("\"abc"), std::vector<Value>{std::string("abc")});
+}
+
+TEST(FavoritesFile, ReadingPastTheEndFails) {
+  ValueReader reader("");
+  EXPECT_THROW(reader.Next(), Error);
+}
+
+TEST(FavoritesTable, TextsThatAreNumbersCountAsNumbers) {
+  EXPECT_EQ(NumberOf(std::string(" 12 ")), 12);
+  EXPECT_EQ(NumberOf(Value{}), 0);
+  EXPECT_THROW(NumberOf(std::string("many")), Error);
+}
+
+TEST(FavoritesTable, ADateIsLaterThanNothingAndThanAnEarlierDateButNotThanAText) {
+  const Date date = Date::Of(2026, 11, 21);
+  EXPECT_TRUE(IsLater(date, Value{}));
+  EXPECT_TRUE(IsLater(date, Date::Of(2026, 11, 20)));
+  EXPECT_FALSE(IsLater(date, date));
+  EXPECT_FALSE(IsLater(date, std::string("garbage")));
+}
+
+}  // namespace
+}  // namespace dayvane::favorites

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <cstring>
 #include <ctime>
 #include <dirent.h>
 #include <fcntl.h>
@@ -12,6 +11,7 @@
 #include "base/Error.h"
 #include "linux/files/FileDescriptor.h"
 #include "linux/files/NativePath.h"
+#include "linux/files/SystemError.h"
 
 namespace dayvane::files {
 
@@ -24,39 +24,6 @@ using platform::FileMoment;
 using platform::FileStatus;
 
 constexpr std::int64_t kNanosecondsPerSecond = 1'000'000'000;
-
-int NumberOf(int systemError) {
-  switch (systemError) {
-    case ENOENT:
-      return kFileNotFound;
-    case ENOTDIR:
-      return kPathNotFound;
-    case EEXIST:
-      return kFileAlreadyExists;
-    case EACCES:
-    case EPERM:
-    case EROFS:
-      return kPermissionDenied;
-    case ENOSPC:
-    case EDQUOT:
-    case EFBIG:
-      return kDiskFull;
-    case ENAMETOOLONG:
-    case EINVAL:
-      return kBadFileName;
-    case EISDIR:
-    case ELOOP:
-    case ENOTEMPTY:
-      return kPathFileAccess;
-    default:
-      return kDeviceIoError;
-  }
-}
-
-[[noreturn]] void Fail(const std::string& path) {
-  const int systemError = errno;
-  throw Error(NumberOf(systemError), std::strerror(systemError), path);
-}
 
 std::string Native(const std::string& path) {
   auto native = ToNative(path);

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <gio/gio.h>
+#include <string>
+
+#include "linux/launch/StartApplication.h"
+
+namespace dayvane::launch {
+
+/// The desktop's file manager.
+class FileManager {
+ public:
+  /// `pending` stands for the life of what the reporter belongs to: cancelled, nothing is reported any more.
+  FileManager(GCancellable* pending, Reporter report) : m_pending(pending), m_report(std::move(report)) {}
+
+  /// Shows a folder in a window without waiting for it. The folder is asked of the file manager that answers to
+  /// "org.freedesktop.FileManager1" on the message bus, else of an application for folders. Returns false when there
+  /// is neither; a failure that comes to light later is reported.
+  bool Show(const std::string& nativeFolder) const;
+
+ private:
+  GCancellable* m_pending;
+  Reporter m_report;
+};
+
+}  // namespace dayvane::launch

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <string>
+
+#include "linux/registry/DocumentClasses.h"
+#include "linux/registry/SettingsFile.h"
+#include "platform/Registry.h"
+
+namespace dayvane {
+
+/// A registry of two trees: HKEY_CURRENT_USER is the user's settings file, HKEY_CLASSES_ROOT the desktop's content
+/// types and default applications, which nobody changes here. Keys must not outlive their registry.
+///
+/// Names of settings are the same whatever their letter case; the spelling of the first one to be written stays.
+class LinuxRegistry : public platform::Registry {
+ public:
+  /// `report` is told what the event log should say about a damaged settings file.
+  LinuxRegistry(std::string settingsFile, registry::SettingsFile::Reporter report,
+                registry::DocumentClasses::Clock clock = std::chrono::steady_clock::now);
+
+  std::unique_ptr<platform::RegistryKey> KeyFromRoot(std::uint32_t root) override;
+  std::unique_ptr<platform::RegistryKey> KeyFromPath(const std::string& path) override;
+
+ private:
+  registry::SettingsFile m_settings;
+  registry::DocumentClasses m_classes;
+};
+
+/// Native path of the settings file in the user's configuration folder.
+std::string DefaultSettingsFile();
+
+}  // namespace dayvane

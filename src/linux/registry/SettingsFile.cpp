@@ -1,0 +1,130 @@
+#include "linux/registry/SettingsFile.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <filesystem>
+#include <unistd.h>
+#include <utility>
+
+#include "base/Error.h"
+#include "linux/XdgFolders.h"
+#include "linux/files/NativePath.h"
+#include "linux/files/PosixFileSystem.h"
+#include "linux/files/SystemError.h"
+
+namespace dayvane::registry {
+
+namespace {
+
+constexpr std::size_t kLargestFile = 1 << 20;  // what no set of settings ever reaches
+
+std::string ParentOf(const std::string& nativePath) {
+  return nativePath.substr(0, nativePath.rfind('/'));
+}
+
+/// The name that follows the file's own, ".damaged", or the next one that is free.
+std::string FreeNameBeside(const std::string& nativePath) {
+  files::PosixFileSystem disk;
+  std::string name = nativePath + ".damaged";
+  for (int number = 2; disk.Status(files::FromNative(name).value_or("")); ++number)
+    name = nativePath + ".damaged-" + std::to_string(number);
+  return name;
+}
+
+}  // namespace
+
+SettingsFile::SettingsFile(std::string nativePath, Reporter report)
+    : m_nativePath(std::move(nativePath)), m_report(std::move(report)) {}
+
+bool SettingsFile::HasKey(std::string_view path) {
+  Refresh();
+  const std::string below = std::string(path) + "\\";
+  const auto covers = [&](const std::string& key) {
+    return text::CompareIgnoringCase(key, path) == 0 ||
+           (key.size() > below.size() &&
+            text::CompareIgnoringCase(std::string_view(key).substr(0, below.size()), below) == 0);
+  };
+  for (const auto& [key, values] : m_keys)
+    if (!values.empty() && covers(key)) return true;
+  return std::any_of(m_addedKeys.begin(), m_addedKeys.end(), covers);
+}
+
+void SettingsFile::AddKey(std::string_view path) {
+  m_addedKeys.emplace(path);
+}
+
+std::optional<std::string> SettingsFile::Value(std::string_view path, std::string_view name) {
+  Refresh();
+  const auto key = m_keys.find(path);
+  if (key == m_keys.end()) return std::nullopt;
+  const auto value = key->second.find(name);
+  if (value == key->second.end()) return std::nullopt;
+  return value->second;
+}
+
+void SettingsFile::SetValue(std::string_view path, std::string_view name, const std::string& text) {
+  if (Value(path, name) == text) return;
+  SettingsKeys changed = m_keys;
+  changed[std::string(path)][std::string(name)] = text;
+
+  xdg::MakeFolder(ParentOf(m_nativePath));
+  const std::string file = FilePath();
+  if (m_damaged) KeepDamagedFile(file);
+  files::PosixFileSystem().Replace(file, WriteSettings(changed));
+  m_keys = std::move(changed);
+  Remember(file);
+}
+
+/// The file's path in the program's form. A symbolic link, which people use to keep their settings elsewhere, is
+/// replaced at its end and not by a file in its own place.
+std::string SettingsFile::FilePath() const {
+  std::error_code ignored;
+  const std::string real = std::filesystem::canonical(m_nativePath, ignored).string();
+  auto path = files::FromNative(real.empty() ? m_nativePath : real);
+  if (!path) throw Error(kBadFileName, "The settings file has a name that cannot be spelled", m_nativePath);
+  return *path;
+}
+
+void SettingsFile::Refresh() {
+  const std::string path = FilePath();
+  const auto status = files::PosixFileSystem().Status(path);
+  const auto found = status ? std::optional<Version>({status->size, status->written}) : std::nullopt;
+  if (found == m_version) return;
+  m_version = found;
+  m_keys.clear();
+  m_damaged = false;
+  if (!found) return;
+  Read(path);
+  if (m_damaged) m_report("The settings file is damaged; what cannot be read counts as missing: " + m_nativePath);
+}
+
+void SettingsFile::Read(const std::string& path) {
+  std::string bytes;
+  try {
+    bytes = files::PosixFileSystem().Read(path, kLargestFile + 1).bytes;
+  } catch (const Error&) {
+    // A folder in its place, or a file that may not be read: no setting is known, and nothing may be lost by that.
+    m_damaged = true;
+    return;
+  }
+  ParsedSettings parsed;
+  if (bytes.size() <= kLargestFile) parsed = ParseSettings(bytes);
+  m_keys = std::move(parsed.keys);
+  m_damaged = parsed.damaged || bytes.size() > kLargestFile;
+}
+
+void SettingsFile::KeepDamagedFile(const std::string& path) {
+  const std::string native = files::ToNative(path).value();
+  const std::string kept = FreeNameBeside(native);
+  // A second name leaves the file in its place until the new one is whole. A folder, and a file on a disk that knows no
+  // second names, is moved.
+  if (link(native.c_str(), kept.c_str()) != 0 && rename(native.c_str(), kept.c_str()) != 0) files::Fail(native);
+  m_damaged = false;
+}
+
+void SettingsFile::Remember(const std::string& path) {
+  const auto status = files::PosixFileSystem().Status(path);
+  m_version = status ? std::optional<Version>({status->size, status->written}) : std::nullopt;
+}
+
+}  // namespace dayvane::registry

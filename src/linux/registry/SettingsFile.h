@@ -1,0 +1,59 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <set>
+#include <string>
+#include <string_view>
+
+#include "linux/registry/SettingsText.h"
+#include "platform/FileSystem.h"
+
+namespace dayvane::registry {
+
+/// The user's settings in one text file (form: SettingsText.h), which is replaced whole each time a value changes.
+///
+/// The file is the only truth: it is read again whenever it has changed on the disk, so that a value that its user
+/// edits or removes by hand while the program runs is seen, and kept when another one is written.
+///
+/// The toolkit's own settings class is not used: left behind by a kill, its lock file stops every later start for ever.
+class SettingsFile {
+ public:
+  using Reporter = std::function<void(const std::string& event)>;
+
+  /// The file and its folders need not exist: the first value written makes them. A file that cannot be read whole is
+  /// reported, read as far as it can be, and kept under another name (".damaged" added) before it is first replaced.
+  SettingsFile(std::string nativePath, Reporter report);
+
+  /// A key exists when it or one below it has a value, or when it was added in this run: a key reaches the disk with
+  /// its first value, so that a kill in between leaves no half-made key behind.
+  bool HasKey(std::string_view path);
+  void AddKey(std::string_view path);
+
+  std::optional<std::string> Value(std::string_view path, std::string_view name);
+
+  /// On the disk when it returns. Fails when the file cannot be replaced, which leaves the old one as it was.
+  void SetValue(std::string_view path, std::string_view name, const std::string& text);
+
+ private:
+  struct Version {
+    std::uint64_t size = 0;
+    platform::FileMoment written;
+    friend bool operator==(const Version&, const Version&) = default;
+  };
+
+  std::string FilePath() const;
+  void Refresh();
+  void Read(const std::string& path);
+  void KeepDamagedFile(const std::string& path);
+  void Remember(const std::string& path);
+
+  std::string m_nativePath;
+  Reporter m_report;
+  SettingsKeys m_keys;
+  std::set<std::string, IgnoringCase> m_addedKeys;
+  std::optional<Version> m_version;  ///< of the file that `m_keys` came from; none when there was no file
+  bool m_damaged = false;
+};
+
+}  // namespace dayvane::registry

@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <memory>
+#include <string>
 
 #include "platform/Help.h"
 
@@ -9,20 +10,22 @@ namespace dayvane::help {
 
 class HelpViewer;
 
-/// Native path of the help file that the program names: where the program says, or else beside the executable (a build
-/// that was not installed), or else where it was installed. When there is none, the first of these places.
-QString LocateHelpFile(const std::string& helpFile);
+/// Native path of the help file that the program names. The program looks for it in its own folder, but an installed
+/// program has the user's data there and what came with it in `resourceFolder`, a native path. Where neither has the
+/// file, it is the second that should.
+QString LocateHelpFile(const std::string& helpFile, const std::string& resourceFolder);
 
 /// The program's help, in a window of its own that is made when it is first asked for.
 class DesktopHelp : public platform::Help {
  public:
-  DesktopHelp();
+  explicit DesktopHelp(std::string resourceFolder);
   ~DesktopHelp() override;
 
   /// A command other than those of platform/Help.h shows the contents.
   void ShowHelp(const std::string& helpFile, int command, int contextId) override;
 
  private:
+  std::string m_resourceFolder;
   std::unique_ptr<HelpViewer> m_viewer;
 };
 

@@ -23,32 +23,38 @@ std::string ShippedHelpFile() {
 }
 
 TEST(DesktopHelp, TheContextCommandShowsTheTopic) {
-  DesktopHelp help;
+  DesktopHelp help("");
   help.ShowHelp(ShippedHelpFile(), platform::kHelpContext, kHelpOptions);
   EXPECT_EQ(OpenWindowTitle(), "Options - Dayvane Help");
 }
 
 TEST(DesktopHelp, TheFinderCommandShowsTheContents) {
-  DesktopHelp help;
+  DesktopHelp help("");
   help.ShowHelp(ShippedHelpFile(), platform::kHelpFinder, 0);
   EXPECT_EQ(OpenWindowTitle(), "Dayvane Help");
 }
 
 TEST(DesktopHelp, ThePopupCommandOpensNoHelpWindow) {
-  DesktopHelp help;
+  DesktopHelp help("");
   help.ShowHelp(ShippedHelpFile(), platform::kHelpContextPopup, kHelpCalendar);
   EXPECT_EQ(OpenWindowTitle(), "");
 }
 
 TEST(DesktopHelp, TheFileThatTheProgramNamesComesFirst) {
   const testing::TemporaryFolder folder;
-  const std::string native = folder.Write("Dayvane.hlp", "x");
-  EXPECT_EQ(LocateHelpFile(folder.Path() + "\\Dayvane.hlp").toStdString(), native);
+  const std::string native = folder.Write("data/Dayvane.hlp", "x");
+  folder.Write("share/Dayvane.hlp", "x");
+  EXPECT_EQ(LocateHelpFile(folder.Path() + "\\data\\Dayvane.hlp", folder / "share").toStdString(), native);
 }
 
-TEST(DesktopHelp, AFileThatIsNowhereIsMissedWhereTheProgramNamedIt) {
+TEST(DesktopHelp, AnInstalledProgramHasItsHelpAmongItsResources) {
   const testing::TemporaryFolder folder;
-  EXPECT_EQ(LocateHelpFile(folder.Path() + "\\Dayvane.hlp").toStdString(), folder / "Dayvane.hlp");
+  const std::string native = folder.Write("share/Dayvane.hlp", "x");
+  EXPECT_EQ(LocateHelpFile(folder.Path() + "\\data\\Dayvane.hlp", folder / "share").toStdString(), native);
+}
+
+TEST(DesktopHelp, AFileThatIsNowhereIsMissedAmongTheResources) {
+  EXPECT_EQ(LocateHelpFile("Z:\\nowhere\\Dayvane.hlp", "/opt/dayvane").toStdString(), "/opt/dayvane/Dayvane.hlp");
 }
 
 }  // namespace

@@ -1,0 +1,29 @@
+# Fails unless an installation holds what the program and the desktop look for.
+set(expected ${BIN}/dayvane ${DATA}/dayvane/Dayvane.hlp ${DOC}/LICENSE ${DATA}/icons/hicolor/scalable/apps/dayvane.svg)
+foreach(size 16 22 24 32 48 64 128 256)
+  list(APPEND expected ${DATA}/icons/hicolor/${size}x${size}/apps/dayvane.png)
+endforeach()
+
+foreach(file ${expected})
+  if(NOT EXISTS ${STAGE}/${file})
+    message(SEND_ERROR "not installed: ${file}")
+  endif()
+endforeach()
+
+# The header of a PNG gives its width and height as four bytes each, from byte 16 on.
+foreach(size 16 22 24 32 48 64 128 256)
+  file(READ ${STAGE}/${DATA}/icons/hicolor/${size}x${size}/apps/dayvane.png sides OFFSET 16 LIMIT 8 HEX)
+  math(EXPR side "${size}" OUTPUT_FORMAT HEXADECIMAL)
+  string(REGEX REPLACE "^0x" "00000000" side ${side})
+  string(REGEX REPLACE "^.*(........)$" "\\1" side ${side})
+  if(NOT sides STREQUAL "${side}${side}")
+    message(SEND_ERROR "the icon of ${size} pixels has another size: ${sides}")
+  endif()
+endforeach()
+
+# The menu entry, the description and the icon must go by one name.
+file(STRINGS ${STAGE}/${DATA}/applications/dayvane.desktop entry REGEX "^Icon=dayvane$")
+file(STRINGS ${STAGE}/${DATA}/metainfo/example.dayvane.Dayvane.metainfo.xml launchable REGEX ">dayvane.desktop<")
+if(NOT entry OR NOT launchable)
+  message(SEND_ERROR "the menu entry, the description and the icon do not find each other")
+endif()

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QHash>
+#include <QWidget>
+
+#include "linux/help/HelpFile.h"
+
+class QLineEdit;
+class QListWidget;
+class QStackedWidget;
+class QTreeWidget;
+class QTreeWidgetItem;
+
+namespace dayvane::help {
+
+/// The left side of the help window: the table of contents, and above it a box that turns it into a list of the topics
+/// that hold the words typed.
+class HelpNavigation : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit HelpNavigation(QWidget* parent = nullptr);
+
+  /// Shows the contents of a file, which must outlive the next call or this object.
+  void SetHelpFile(const HelpFile& file);
+
+  /// Marks the topic shown beside the tree; raises nothing.
+  void MarkTopic(const QString& name);
+
+  void FocusSearch();
+
+ Q_SIGNALS:
+  void TopicChosen(const QString& name);
+
+ private:
+  void BuildTree();
+  void SearchFor(const QString& words);
+  void ShowFound(const QString& words);
+  void ChooseFirstFound();
+
+  const HelpFile* m_file = nullptr;
+  QHash<QString, QTreeWidgetItem*> m_items;
+  QLineEdit* m_search;
+  QStackedWidget* m_pages;
+  QTreeWidget* m_tree;
+  QListWidget* m_found;
+};
+
+}  // namespace dayvane::help

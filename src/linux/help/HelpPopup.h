@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QFrame>
+
+#include "linux/help/HelpFile.h"
+
+namespace dayvane::help {
+
+/// A small window that explains one control, where the user asked. It goes at the next click or key and deletes itself.
+class HelpPopup : public QFrame {
+  Q_OBJECT
+
+ public:
+  /// The file must live as long as the window.
+  HelpPopup(const HelpFile& file, const Topic& topic, QWidget* parent = nullptr);
+
+  /// Opens at a point of the screen, moved so that all of it can be read.
+  void OpenAt(const QPoint& point);
+
+ Q_SIGNALS:
+  void TopicChosen(const QString& name);  ///< a link in the text
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+};
+
+}  // namespace dayvane::help

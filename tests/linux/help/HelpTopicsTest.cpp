@@ -1,0 +1,114 @@
+#include <QDir>
+#include <QFile>
+#include <QRegularExpression>
+#include <QUrl>
+#include <QXmlStreamReader>
+#include <gtest/gtest.h>
+
+#include "linux/help/HelpFile.h"
+#include "linux/help/HelpPage.h"
+#include "shell/MHelpConstants.h"
+
+/// The help that is shipped, as it was built.
+namespace dayvane::help {
+namespace {
+
+const HelpFile& Shipped() {
+  static const HelpFile file = HelpFile::Read(QStringLiteral(DAYVANE_HELP_FILE));
+  return file;
+}
+
+/// Values of an attribute of one element, wherever it stands in a body.
+QStringList Attributes(const QString& body, const QString& element, const QString& attribute) {
+  QStringList values;
+  QXmlStreamReader xml("<topic>" + body + "</topic>");
+  while (!xml.atEnd()) {
+    xml.readNext();
+    if (xml.isStartElement() && xml.name() == element) values << xml.attributes().value(attribute).toString();
+  }
+  return values;
+}
+
+constexpr int kEveryContext[] = {kHelpFavoritesThreshold,
+                                 kHelpTimerInterval,
+                                 kHelpOptions,
+                                 kHelpPurgeAge,
+                                 kHelpMainWindowHelpButton,
+                                 kHelpListViewButton,
+                                 kHelpDetailViewButton,
+                                 kHelpLargeIconViewButton,
+                                 kHelpSmallIconViewButton,
+                                 kHelpFavoritesViewButton,
+                                 kHelpExploreFolderButton,
+                                 kHelpOpenFolderButton,
+                                 kHelpDailyViewButton,
+                                 kHelpFavoritesList,
+                                 kHelpDailyList,
+                                 kHelpDayTree,
+                                 kHelpCalendar,
+                                 kHelpFirstRun,
+                                 kHelpMainWindow};
+
+TEST(HelpTopics, EveryContextOfTheProgramIsExplained) {
+  for (int context : kEveryContext) {
+    const Topic* topic = Shipped().FindContext(context);
+    ASSERT_NE(topic, nullptr) << context;
+    EXPECT_GT(topic->title.size(), 3) << context;
+    EXPECT_TRUE(topic->text.contains(". ") || topic->text.endsWith('.')) << context;
+  }
+}
+
+TEST(HelpTopics, WhatAControlIsForIsSaidInAFewSentences) {
+  static const QRegularExpression sentenceEnd(QStringLiteral("[.?!](\\s|$)"));
+  for (int context : kEveryContext) {
+    if (context == kHelpOptions || context == kHelpFirstRun || context == kHelpMainWindow) continue;
+    const QString text = Shipped().FindContext(context)->text;
+    EXPECT_GE(text.count(sentenceEnd), 2) << text.toStdString();
+    EXPECT_LE(text.count(sentenceEnd), 5) << text.toStdString();
+  }
+}
+
+TEST(HelpTopics, EveryLinkLeadsToATopic) {
+  for (const Topic& topic : Shipped().Topics()) {
+    for (const QString& link : Attributes(topic.body, "a", "href"))
+      EXPECT_NE(Shipped().Find(link), nullptr) << topic.name.toStdString() << " -> " << link.toStdString();
+  }
+}
+
+TEST(HelpTopics, EveryPictureCanBeDrawn) {
+  for (const Topic& topic : Shipped().Topics()) {
+    for (const QString& picture : Attributes(topic.body, "img", "src"))
+      EXPECT_FALSE(PagePicture(Shipped(), QUrl(picture), 1).isNull()) << picture.toStdString();
+  }
+}
+
+TEST(HelpTopics, EveryTopicIsWellFormedMarkup) {
+  for (const Topic& topic : Shipped().Topics()) {
+    QXmlStreamReader xml("<topic>" + topic.body + "</topic>");
+    while (!xml.atEnd()) xml.readNext();
+    EXPECT_FALSE(xml.hasError()) << topic.name.toStdString() << ": " << xml.errorString().toStdString();
+  }
+}
+
+TEST(HelpTopics, EveryTopicStandsInTheContents) {
+  EXPECT_EQ(Shipped().Contents().size(), Shipped().Topics().size());
+}
+
+TEST(HelpTopics, EverySourceArrivesWithItsTitleAndWords) {
+  const QDir sources(QStringLiteral(DAYVANE_SOURCE_FOLDER "/src/resources/help"));
+  for (const QString& name : sources.entryList({"*.html"})) {
+    QFile source(sources.filePath(name));
+    ASSERT_TRUE(source.open(QIODevice::ReadOnly));
+    QXmlStreamReader xml(&source);
+    ASSERT_TRUE(xml.readNextStartElement());
+    const QString title = xml.attributes().value("title").toString();
+    const QString words = xml.readElementText(QXmlStreamReader::IncludeChildElements).remove(QRegularExpression("\\s"));
+    const Topic* topic = Shipped().Find(name.chopped(5));
+    ASSERT_NE(topic, nullptr) << name.toStdString();
+    EXPECT_EQ(topic->title, title);
+    EXPECT_EQ(QString(topic->text).remove(QRegularExpression("\\s")), words);
+  }
+}
+
+}  // namespace
+}  // namespace dayvane::help

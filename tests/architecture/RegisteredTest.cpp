@@ -1,0 +1,42 @@
+#include <filesystem>
+#include <gmock/gmock.h>
+
+#include "tests/architecture/SourceTree.h"
+#include "tests/support/TemporaryFolder.h"
+
+namespace dayvane::testing {
+namespace {
+
+using ::testing::IsEmpty;
+
+/// A build without a desktop leaves the desktop's tests out on purpose.
+bool IsMeantToRun(const std::string& file) {
+  return DAYVANE_HAS_DESKTOP != 0 || (!file.starts_with("linux/") && !file.starts_with("session/"));
+}
+
+/// The test files with the ending that are meant to run and that the text does not name.
+std::vector<std::string> NotNamedIn(const std::string& text, const std::string& ending) {
+  std::vector<std::string> forgotten;
+  for (const std::string& file : FilesBelow("tests", {ending}))
+    if (IsMeantToRun(file) && text.find("/tests/" + file + "\"") == std::string::npos) forgotten.push_back(file);
+  return forgotten;
+}
+
+/// Everything that the build tells ctest about its tests.
+std::string CTestFiles() {
+  std::string texts;
+  for (const auto& entry : std::filesystem::recursive_directory_iterator(DAYVANE_BUILD_FOLDER "/tests"))
+    if (entry.path().filename() == "CTestTestfile.cmake") texts += ReadFile(entry.path());
+  return texts;
+}
+
+TEST(Registered, EveryTestFileIsCompiled) {
+  EXPECT_THAT(NotNamedIn(ReadFile(DAYVANE_BUILD_FOLDER "/compile_commands.json"), "Test.cpp"), IsEmpty());
+}
+
+TEST(Registered, EveryScriptedTestIsRun) {
+  EXPECT_THAT(NotNamedIn(CTestFiles(), "Test.py"), IsEmpty());
+}
+
+}  // namespace
+}  // namespace dayvane::testing

@@ -18,9 +18,9 @@ ListPresenter::ListPresenter(controls::ListView& control, const Icons& icons, QW
       m_selection(&m_model),
       m_link(control, *this, [this] { Show(); }) {
   // Before the views forget where the old rows were, and after they have taken the new ones.
-  connect(&m_model, &QAbstractItemModel::modelAboutToBeReset, this, [this] { RememberPicture(); });
+  connect(&m_model, &QAbstractItemModel::modelAboutToBeReset, this, [this] { RememberScroll(); });
   SetUpViews();
-  connect(&m_model, &QAbstractItemModel::modelReset, this, [this] { RestorePicture(); });
+  connect(&m_model, &QAbstractItemModel::modelReset, this, [this] { RestoreScroll(); });
   ListenToUser();
   m_selectionChanged = control.SelectionChanged.ConnectScoped([this] { ShowSelection(); });
   m_link.Show();
@@ -110,7 +110,8 @@ void ListPresenter::ShowHeader() {
     header.resizeSection(column, ToPixels(m_control.Columns()[static_cast<std::size_t>(column)].width, *this));
   const bool ascending = m_control.Order() == controls::SortOrder::Ascending;
   header.setSortIndicatorShown(m_control.Sorted());
-  header.setSortIndicator(static_cast<int>(m_control.SortKey()), ascending ? Qt::AscendingOrder : Qt::DescendingOrder);
+  const int sortColumn = m_control.SortKey() < m_control.Columns().size() ? static_cast<int>(m_control.SortKey()) : -1;
+  header.setSortIndicator(sortColumn, ascending ? Qt::AscendingOrder : Qt::DescendingOrder);
 }
 
 void ListPresenter::ShowSelection() {
@@ -122,8 +123,7 @@ void ListPresenter::ShowSelection() {
   m_selection.setCurrentIndex(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
   CurrentView().setAutoScroll(true);
   // A list that is filled again gets its selection back; whoever had scrolled away from it stays there.
-  const bool scrolledAway = item != nullptr && item->key == m_picture.selectedKey && !m_picture.selectionInView;
-  if (!scrolledAway) ScrollToSelection();
+  if (item != nullptr && !m_scroll.ScrolledAwayFrom(item->key)) ScrollToSelection();
 }
 
 void ListPresenter::ScrollToSelection() {
@@ -139,24 +139,18 @@ void ListPresenter::LayOut() {
     m_icons.LayOut();
 }
 
-void ListPresenter::RememberPicture() {
+void ListPresenter::RememberScroll() {
   if (m_control.Count() == 0) return;
-  const QAbstractItemView& view = CurrentView();
   const controls::ListItem* selected = m_control.SelectedItem();
-  m_picture = {m_control.Row(0).key,
-               {view.horizontalScrollBar()->value(), view.verticalScrollBar()->value()},
-               selected == nullptr ? std::string() : selected->key,
-               SelectionIsInView()};
+  m_scroll.Remember(CurrentView(), m_control.Row(0).key, selected == nullptr ? std::string() : selected->key,
+                    m_model.IndexOf(selected));
 }
 
-void ListPresenter::RestorePicture() {
+void ListPresenter::RestoreScroll() {
   ShowHeader();
   if (m_control.Count() == 0) return;
-  const bool sameList = m_control.Find(m_picture.key) != nullptr;
-  const QPoint scroll = sameList ? m_picture.scroll : QPoint();
-  if (!scroll.isNull()) LayOut();
-  CurrentView().horizontalScrollBar()->setValue(scroll.x());
-  CurrentView().verticalScrollBar()->setValue(scroll.y());
+  LayOut();
+  m_scroll.Restore(CurrentView(), m_control.Find(m_scroll.KnownKey()) != nullptr);
   ShowSelection();
 }
 
@@ -174,7 +168,7 @@ QModelIndex ListPresenter::SelectedIndex() const {
 }
 
 void ListPresenter::Click(const QModelIndex& index) {
-  m_picture.selectedKey.clear();
+  m_scroll.ForgetSelection();
   if (controls::ListItem* item = m_model.ItemAt(index)) m_control.Click(*item);
 }
 
@@ -183,11 +177,6 @@ void ListPresenter::TellSelectedPosition() {
   if (!index.isValid()) return;
   const QPoint place = InContainer(CurrentView(), CurrentView().visualRect(index).topLeft());
   m_control.SetSelectedPosition(ToTwips(place.x(), *this), ToTwips(place.y(), *this));
-}
-
-bool ListPresenter::SelectionIsInView() {
-  const QModelIndex index = m_model.IndexOf(m_control.SelectedItem());
-  return index.isValid() && CurrentView().viewport()->rect().intersects(CurrentView().visualRect(index));
 }
 
 QPoint ListPresenter::InContainer(const QAbstractItemView& view, QPoint at) const {

@@ -5,13 +5,12 @@
 #include <QStackedWidget>
 #include <QTreeView>
 #include <optional>
-#include <string>
-#include <vector>
 
 #include "controls/ListView.h"
 #include "linux/widgets/ClassicView.h"
 #include "linux/widgets/ControlLink.h"
 #include "linux/widgets/ListModel.h"
+#include "linux/widgets/ScrollMemory.h"
 
 namespace dayvane::widgets {
 
@@ -29,14 +28,6 @@ class ListPresenter : public QStackedWidget {
   void showEvent(QShowEvent* event) override;
 
  private:
-  /// What is remembered of the picture while the rows change.
-  struct Picture {
-    std::string key;  ///< of a row by which the same list is known again
-    QPoint scroll;
-    std::string selectedKey;
-    bool selectionInView = false;
-  };
-
   void SetUpViews();
   void ListenToUser();
   ViewEvents EventsOf(QAbstractItemView& view);
@@ -46,15 +37,14 @@ class ListPresenter : public QStackedWidget {
   void ShowHeader();
   void ShowSelection();
   void ScrollToSelection();
-  void LayOut();  ///< rows that were not yet laid out cannot be scrolled
-  void RememberPicture();
-  void RestorePicture();
+  void LayOut();  ///< rows that are not laid out cannot be scrolled
+  void RememberScroll();
+  void RestoreScroll();
 
   void SelectionMoved();
   void Click(const QModelIndex& index);
   QModelIndex SelectedIndex() const;  ///< in the widgets
   void TellSelectedPosition();
-  bool SelectionIsInView();
   QPoint InContainer(const QAbstractItemView& view, QPoint at) const;
 
   controls::ListView& m_control;
@@ -62,7 +52,7 @@ class ListPresenter : public QStackedWidget {
   QItemSelectionModel m_selection;
   ClassicView<QListView> m_icons;
   ClassicView<QTreeView> m_details;
-  Picture m_picture;
+  ScrollMemory m_scroll;
   std::optional<controls::ListStyle> m_shownStyle;
   std::optional<controls::ListArrange> m_shownArrange;
   bool m_showing = false;  ///< what changes in the widgets is not the user's doing

@@ -15,6 +15,7 @@ ControlLink::ControlLink(controls::Control& control, QWidget& widget, std::funct
 
 void ControlLink::Show() {
   m_widget.setObjectName(QString::fromStdString(m_control.Name()));
+  m_widget.setProperty(kHelpIdProperty, m_control.WhatsThisHelpID());
   m_widget.setEnabled(m_control.Enabled());
   // A widget without a parent would open as a window of its own.
   if (m_widget.parentWidget() != nullptr) m_widget.setVisible(m_control.Visible());

@@ -13,8 +13,11 @@ class Control;
 
 namespace dayvane::widgets {
 
-/// Ties a widget to its control for as long as it lives: shows what every control has (name, visible, enabled), and
-/// calls the presenter's own `show` when some state is new. The control's place is its container's business.
+/// Property of a widget that holds its control's help context, 0 for none.
+inline constexpr const char* kHelpIdProperty = "helpContextId";
+
+/// Ties a widget to its control for as long as it lives: shows what every control has (name, visible, enabled, help),
+/// and calls the presenter's own `show` when some state is new. The control's place is its container's business.
 class ControlLink {
  public:
   ControlLink(controls::Control& control, QWidget& widget, std::function<void()> show);

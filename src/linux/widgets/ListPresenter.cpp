@@ -81,9 +81,12 @@ void ListPresenter::showEvent(QShowEvent* event) {
   ScrollToSelection();
 }
 
-void ListPresenter::Show() {
+void ListPresenter::SetSpokenName(const QString& name) {
   for (QWidget* view : {static_cast<QWidget*>(&m_icons), static_cast<QWidget*>(&m_details)})
-    view->setAccessibleName(QString::fromStdString(m_control.Name()));
+    view->setAccessibleName(name);
+}
+
+void ListPresenter::Show() {
   ShowStyle();
   ShowHeader();
   CurrentView().viewport()->update();

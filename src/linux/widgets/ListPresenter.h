@@ -20,6 +20,8 @@ class ListPresenter : public QStackedWidget {
  public:
   ListPresenter(controls::ListView& control, const Icons& icons, QWidget* parent = nullptr);
 
+  void SetSpokenName(const QString& name);  ///< for screen readers
+
   QListView& IconView() { return m_icons; }
   QTreeView& DetailsView() { return m_details; }
   QAbstractItemView& CurrentView();  ///< the view of the style shown

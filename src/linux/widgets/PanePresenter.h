@@ -1,36 +1,27 @@
 #pragma once
 
 #include <QWidget>
-#include <vector>
 
 #include "controls/SimpleControls.h"
 #include "linux/widgets/ControlLink.h"
+#include "linux/widgets/Placement.h"
 
 namespace dayvane::widgets {
 
-/// Shows a pane: its children lie where their controls say, but never past its edge, where their frames and scroll
-/// bars would be cut off.
+/// Shows a pane with the widgets of the controls in it.
 class PanePresenter : public QWidget {
  public:
   explicit PanePresenter(controls::PictureBox& control, QWidget* parent = nullptr);
 
-  /// The widget becomes a child of the pane; the control must outlive it. The one added first has the keyboard first.
-  void Add(controls::Control& control, QWidget& widget);
+  /// The widget becomes a child of the pane; the control must outlive it.
+  void Add(controls::Control& control, QWidget& widget) { m_placement.Add(control, widget); }
 
  protected:
   void resizeEvent(QResizeEvent* event) override;
 
  private:
-  struct Child {
-    const controls::Control& control;
-    QWidget& widget;
-    controls::Connection changed;
-  };
-
-  void Place(const controls::Control& control, QWidget& widget) const;
-
+  Placement m_placement{*this};
   ControlLink m_link;
-  std::vector<Child> m_children;
 };
 
 }  // namespace dayvane::widgets

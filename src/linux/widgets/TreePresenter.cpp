@@ -8,7 +8,10 @@
 namespace dayvane::widgets {
 
 TreePresenter::TreePresenter(controls::TreeView& control, const Icons& icons, QWidget* parent)
-    : m_control(control), m_model(control, icons), m_selection(&m_model), m_link(control, *this, [this] { Show(); }) {
+    : m_control(control),
+      m_model(control, icons),
+      m_selection(&m_model),
+      m_link(control, *this, [this] { viewport()->update(); }) {
   setParent(parent);
   // Before the view forgets where the old nodes were, and after it has taken the new ones.
   connect(&m_model, &QAbstractItemModel::modelAboutToBeReset, this, [this] { RememberScroll(); });
@@ -53,11 +56,6 @@ void TreePresenter::ListenToUser() {
 void TreePresenter::showEvent(QShowEvent* event) {
   QTreeView::showEvent(event);
   ScrollToSelection();
-}
-
-void TreePresenter::Show() {
-  setAccessibleName(QString::fromStdString(m_control.Name()));
-  viewport()->update();
 }
 
 void TreePresenter::ShowSelection() {

@@ -27,7 +27,6 @@ class TreePresenter : public ClassicView<QTreeView> {
   void SetUpView();
   void ListenToUser();
 
-  void Show();
   void ShowSelection();
   void ScrollToSelection();
   void RememberScroll();

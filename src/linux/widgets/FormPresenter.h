@@ -26,6 +26,7 @@ class FormPresenter : public QObject {
 
   controls::Form& Form() { return m_form; }
   QWidget& Window() { return m_window; }
+  QWidget& Inside() { return m_inside; }
 
   /// Asks the form to go, after it was told where its window is.
   bool RequestUnload(controls::UnloadMode mode);

@@ -1,0 +1,98 @@
+#include "linux/widgets/CalendarPresenter.h"
+
+#include <QEvent>
+#include <QPainter>
+#include <QScopedValueRollback>
+#include <QTextCharFormat>
+
+namespace dayvane::widgets {
+
+namespace {
+
+using Day = controls::Calendar::Day;
+
+const QDate kFirstDay(1970, 1, 1);
+constexpr int kBarHeight = 3;
+
+// The style's own red can hardly be read on a dark background.
+constexpr QColor kWeekendOnLight(0xb0, 0x10, 0x20);
+constexpr QColor kWeekendOnDark(0xff, 0x9a, 0x8f);
+
+QDate ToQDate(Day day) {
+  return kFirstDay.addDays(day.time_since_epoch().count());
+}
+
+Day ToDay(QDate date) {
+  return Day{std::chrono::days{kFirstDay.daysTo(date)}};
+}
+
+bool IsDark(const QPalette& palette) {
+  return palette.color(QPalette::Base).lightness() < palette.color(QPalette::Text).lightness();
+}
+
+}  // namespace
+
+CalendarPresenter::CalendarPresenter(controls::Calendar& control, Qt::DayOfWeek firstDayOfWeek, QWidget* parent)
+    : QCalendarWidget(parent), m_control(control), m_link(control, *this, [this] { Show(); }) {
+  setFirstDayOfWeek(firstDayOfWeek);
+  setVerticalHeaderFormat(NoVerticalHeader);
+  connect(this, &QCalendarWidget::selectionChanged, this, [this] { Choose(selectedDate()); });
+  connect(this, &QCalendarWidget::clicked, this, [this](QDate date) { Choose(date); });
+  connect(this, &QCalendarWidget::currentPageChanged, this, [this](int year, int month) { ShowMonth(year, month); });
+  ShowWeekend();
+  m_link.Show();
+}
+
+bool CalendarPresenter::IsHighlighted(QDate date) const {
+  const QDate current = ToQDate(m_control.CurrentDate());
+  return date.year() == current.year() && date.month() == current.month() && m_control.Highlight(date.day());
+}
+
+void CalendarPresenter::paintCell(QPainter* painter, const QRect& cell, QDate date) const {
+  QCalendarWidget::paintCell(painter, cell, date);
+  if (!IsHighlighted(date)) return;
+  const QColor colour = palette().color(date == selectedDate() ? QPalette::HighlightedText : QPalette::Highlight);
+  const int width = cell.width() / 2;
+  painter->fillRect(cell.center().x() - width / 2, cell.bottom() - kBarHeight, width, kBarHeight, colour);
+}
+
+void CalendarPresenter::changeEvent(QEvent* event) {
+  QCalendarWidget::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange) ShowWeekend();
+}
+
+void CalendarPresenter::Show() {
+  const QScopedValueRollback showing(m_showing, true);
+  const Day day = m_control.CurrentDate();
+  setSelectedDate(day == Day{} ? QDate::currentDate() : ToQDate(day));
+  ShowHighlights();
+}
+
+void CalendarPresenter::ShowHighlights() {
+  QTextCharFormat bold;
+  bold.setFontWeight(QFont::Bold);
+  setDateTextFormat({}, {});
+  const QDate current = ToQDate(m_control.CurrentDate());
+  for (int day = 1; day <= current.daysInMonth(); ++day)
+    if (m_control.Highlight(day)) setDateTextFormat({current.year(), current.month(), day}, bold);
+  updateCells();
+}
+
+void CalendarPresenter::ShowWeekend() {
+  QTextCharFormat weekend;
+  weekend.setForeground(IsDark(palette()) ? kWeekendOnDark : kWeekendOnLight);
+  for (const Qt::DayOfWeek day : {Qt::Saturday, Qt::Sunday}) setWeekdayTextFormat(day, weekend);
+}
+
+void CalendarPresenter::ShowMonth(int year, int month) {
+  const QDate first(year, month, 1);
+  Choose({year, month, std::min(selectedDate().day(), first.daysInMonth())});
+}
+
+void CalendarPresenter::Choose(QDate date) {
+  if (m_showing || ToDay(date) == m_control.CurrentDate()) return;
+  m_control.SetCurrentDate(ToDay(date));
+  Show();  // the program may have refused
+}
+
+}  // namespace dayvane::widgets

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QCalendarWidget>
+
+#include "controls/Calendar.h"
+#include "linux/widgets/ControlLink.h"
+
+namespace dayvane::widgets {
+
+/// Shows a calendar. Going to another month or year moves the current date there, so that the highlighted days are
+/// always those of the month shown. A highlighted day is bold and underlined by a bar: colour alone would not do.
+class CalendarPresenter : public QCalendarWidget {
+ public:
+  /// A calendar that has no date yet shows today's month.
+  CalendarPresenter(controls::Calendar& control, Qt::DayOfWeek firstDayOfWeek, QWidget* parent = nullptr);
+
+  bool IsHighlighted(QDate date) const;
+
+ protected:
+  void paintCell(QPainter* painter, const QRect& cell, QDate date) const override;
+  void changeEvent(QEvent* event) override;
+
+ private:
+  void Show();
+  void ShowHighlights();
+  void ShowWeekend();
+  void ShowMonth(int year, int month);
+  void Choose(QDate date);
+
+  controls::Calendar& m_control;
+  bool m_showing = false;  ///< what changes in the widget is not the user's doing
+  ControlLink m_link;
+};
+
+}  // namespace dayvane::widgets

@@ -1,0 +1,116 @@
+#include "linux/widgets/LinuxWindowing.h"
+
+#include <QApplication>
+#include <QCursor>
+#include <QMessageBox>
+#include <QWindow>
+
+#include "linux/widgets/FormPresenter.h"
+#include "linux/widgets/Lengths.h"
+
+namespace dayvane::widgets {
+
+using platform::Message;
+using platform::MessageAnswer;
+
+namespace {
+
+/// The arrow for as long as the user has something to answer, also in the middle of work under the hourglass.
+class ArrowPointer {
+ public:
+  ArrowPointer() { QGuiApplication::setOverrideCursor(Qt::ArrowCursor); }
+  ArrowPointer(const ArrowPointer&) = delete;
+  ArrowPointer& operator=(const ArrowPointer&) = delete;
+  ~ArrowPointer() { QGuiApplication::restoreOverrideCursor(); }
+};
+
+QMessageBox::Icon IconOf(const Message& message) {
+  switch (message.icon) {
+    case platform::MessageIcon::Information:
+      return QMessageBox::Information;
+    case platform::MessageIcon::Question:
+      return QMessageBox::Question;
+    case platform::MessageIcon::None:
+      break;
+  }
+  return QMessageBox::NoIcon;
+}
+
+QString TextOf(const Message& message) {
+  return QString::fromStdString(message.text).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+}
+
+}  // namespace
+
+void LinuxWindowing::Register(FormPresenter& presenter) {
+  m_presenters[&presenter.Form()] = &presenter;
+}
+
+void LinuxWindowing::Forget(FormPresenter& presenter) {
+  m_presenters.erase(&presenter.Form());
+}
+
+MessageAnswer LinuxWindowing::ShowMessage(const Message& message) {
+  const bool question = message.buttons == platform::MessageButtons::YesNo;
+  const QMessageBox::StandardButtons buttons = question ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok;
+  QMessageBox box(IconOf(message), QString::fromStdString(message.title), TextOf(message), buttons,
+                  QApplication::activeWindow());
+  box.setTextFormat(Qt::PlainText);  // a document's name may look like markup
+  if (question) box.setDefaultButton(QMessageBox::Yes);
+  if (question) box.setEscapeButton(QMessageBox::No);
+  const ArrowPointer arrow;
+  const int answer = box.exec();
+  if (!question) return MessageAnswer::Ok;
+  return answer == QMessageBox::Yes ? MessageAnswer::Yes : MessageAnswer::No;
+}
+
+void LinuxWindowing::Beep() {
+  QApplication::beep();
+}
+
+void LinuxWindowing::ProcessPendingMessages() {
+  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
+void LinuxWindowing::ShowModal(controls::Form& form) {
+  if (FormPresenter* presenter = Find(form)) presenter->ShowModal();
+}
+
+void LinuxWindowing::PostMessage(controls::Form& form, int message) {
+  FormPresenter* presenter = Find(form);
+  if (presenter == nullptr || message != platform::kWmClose) return;
+  const auto close = [presenter] { presenter->RequestUnload(controls::UnloadMode::Code); };
+  QMetaObject::invokeMethod(presenter, close, Qt::QueuedConnection);
+}
+
+void LinuxWindowing::SetForegroundWindow(controls::Form& form) {
+  if (FormPresenter* presenter = Find(form)) presenter->BringToFront();
+}
+
+void LinuxWindowing::PopupMenu(controls::Form& form, controls::Menu& menu, double x, double y) {
+  FormPresenter* presenter = Find(form);
+  if (presenter == nullptr) return;
+  const QWidget& inside = presenter->Inside();
+  Popup(presenter, menu, -1, inside.mapToGlobal(QPoint(ToPixels(x, inside), ToPixels(y, inside))));
+}
+
+void LinuxWindowing::PopupMenuAtMouse(controls::Form& form, controls::Menu& menu, int defaultItem) {
+  Popup(Find(form), menu, defaultItem, QCursor::pos());
+}
+
+FormPresenter* LinuxWindowing::Find(const controls::Form& form) const {
+  const auto found = m_presenters.find(&form);
+  return found == m_presenters.end() ? nullptr : found->second;
+}
+
+void LinuxWindowing::Popup(FormPresenter* presenter, controls::Menu& menu, int defaultItem, QPoint at) {
+  m_popup = std::make_unique<MenuPresenter>(menu);
+  // Some desktops give a menu a place only as part of a window.
+  m_popup->winId();
+  if (presenter != nullptr && presenter->Window().isVisible())
+    m_popup->windowHandle()->setTransientParent(presenter->Window().windowHandle());
+  m_popup->SetDefaultItem(defaultItem);
+  m_popup->popup(at);
+}
+
+}  // namespace dayvane::widgets

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <map>
+#include <memory>
+
+#include "linux/widgets/MenuPresenter.h"
+#include "platform/Windowing.h"
+
+namespace dayvane::widgets {
+
+class FormPresenter;
+
+/// Message boxes, menus at a point and windows. Whoever makes a form's window registers it; a form without a window
+/// is not shown.
+class LinuxWindowing : public platform::Windowing {
+ public:
+  /// The form's window, until it is forgotten. The presenter must live until then.
+  void Register(FormPresenter& presenter);
+  void Forget(FormPresenter& presenter);
+
+  platform::MessageAnswer ShowMessage(const platform::Message& message) override;
+  void Beep() override;
+
+  /// Paints and timers run; what the user does meanwhile waits, or it would meet a program in the middle of its work.
+  void ProcessPendingMessages() override;
+
+  void ShowModal(controls::Form& form) override;
+  void PostMessage(controls::Form& form, int message) override;
+  void SetForegroundWindow(controls::Form& form) override;
+
+  /// Both return at once; the choice is told when it is made.
+  void PopupMenu(controls::Form& form, controls::Menu& menu, double x, double y) override;
+  void PopupMenuAtMouse(controls::Form& form, controls::Menu& menu, int defaultItem) override;
+
+ private:
+  FormPresenter* Find(const controls::Form& form) const;
+  void Popup(FormPresenter* presenter, controls::Menu& menu, int defaultItem, QPoint at);
+
+  std::map<const controls::Form*, FormPresenter*> m_presenters;
+  std::unique_ptr<MenuPresenter> m_popup;  ///< the menu popped up last
+};
+
+}  // namespace dayvane::widgets

@@ -1,0 +1,65 @@
+#pragma once
+
+#include <QItemSelectionModel>
+#include <QListView>
+#include <QStackedWidget>
+#include <QTreeView>
+#include <optional>
+
+#include "controls/ListView.h"
+#include "linux/widgets/ClassicView.h"
+#include "linux/widgets/ControlLink.h"
+#include "linux/widgets/ListModel.h"
+#include "linux/widgets/ScrollMemory.h"
+
+namespace dayvane::widgets {
+
+/// Shows a list in its four styles: three in one icon view, the details in a table; both share model and selection.
+/// Positions that it tells the control are those in the list's container, where a menu is popped up.
+class ListPresenter : public QStackedWidget {
+ public:
+  ListPresenter(controls::ListView& control, const Icons& icons, QWidget* parent = nullptr);
+
+  void SetSpokenName(const QString& name);  ///< for screen readers
+
+  QListView& IconView() { return m_icons; }
+  QTreeView& DetailsView() { return m_details; }
+  QAbstractItemView& CurrentView();  ///< the view of the style shown
+
+ protected:
+  void showEvent(QShowEvent* event) override;
+
+ private:
+  void SetUpViews();
+  void ListenToUser();
+  ViewEvents EventsOf(QAbstractItemView& view);
+
+  void Show();
+  void ShowStyle();
+  void ShowHeader();
+  void ShowSelection();
+  void ScrollToSelection();
+  void LayOut();  ///< rows that are not laid out cannot be scrolled
+  void RememberScroll();
+  void RestoreScroll();
+
+  void SelectionMoved();
+  void Click(const QModelIndex& index);
+  QModelIndex SelectedIndex() const;  ///< in the widgets
+  void TellSelectedPosition();
+  QPoint InContainer(const QAbstractItemView& view, QPoint at) const;
+
+  controls::ListView& m_control;
+  ListModel m_model;
+  QItemSelectionModel m_selection;
+  ClassicView<QListView> m_icons;
+  ClassicView<QTreeView> m_details;
+  ScrollMemory m_scroll;
+  std::optional<controls::ListStyle> m_shownStyle;
+  std::optional<controls::ListArrange> m_shownArrange;
+  bool m_showing = false;  ///< what changes in the widgets is not the user's doing
+  ControlLink m_link;
+  controls::Connection m_selectionChanged;
+};
+
+}  // namespace dayvane::widgets

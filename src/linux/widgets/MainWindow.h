@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QMainWindow>
+#include <vector>
+
+#include "linux/widgets/CalendarPresenter.h"
+#include "linux/widgets/FormPresenter.h"
+#include "linux/widgets/Icons.h"
+#include "linux/widgets/ListPresenter.h"
+#include "linux/widgets/PanePresenter.h"
+#include "linux/widgets/StatusBarPresenter.h"
+#include "linux/widgets/TimerPresenter.h"
+#include "linux/widgets/TreePresenter.h"
+#include "platform/DateConventions.h"
+
+namespace dayvane {
+class FMain;
+}
+
+namespace dayvane::widgets {
+
+/// The main window: the pictures of all controls of FMain, and the places that those have by design. FMain must
+/// outlive it.
+class MainWindow : public QMainWindow {
+ public:
+  MainWindow(FMain& main, const Icons& icons, const platform::DateConventions& dates);
+
+  FormPresenter& Presenter() { return m_form; }
+
+ private:
+  void BuildClient();
+  void BuildDailyPane();
+  void BuildFavoritesPane();
+  void NameForScreenReaders();
+  void Design();
+  void DesignDailyPane();
+  void DesignFavoritesPane();
+  void DesignForm();
+  void StretchBars();
+
+  FMain& m_main;
+  QWidget m_client;
+  PanePresenter m_daily;
+  PanePresenter m_favorites;
+  CalendarPresenter m_calendar;
+  TreePresenter m_tree;
+  ListPresenter m_dailyList;
+  ListPresenter m_favoritesList;
+  StatusBarPresenter m_statusBar;
+  Placement m_placement{m_client};
+  TimerPresenter m_timer;
+  FormPresenter m_form;
+  std::vector<controls::Connection> m_connections;
+};
+
+}  // namespace dayvane::widgets

@@ -1,0 +1,18 @@
+#include "linux/widgets/StatusBarPresenter.h"
+
+namespace dayvane::widgets {
+
+StatusBarPresenter::StatusBarPresenter(controls::StatusBar& control, QWidget* parent)
+    : QStatusBar(parent), m_control(control), m_link(control, *this, [this] { Show(); }) {
+  m_text.setTextFormat(Qt::PlainText);
+  addWidget(&m_text, 1);
+  m_link.Show();
+}
+
+void StatusBarPresenter::Show() {
+  const QString text = QString::fromStdString(m_control.Text());
+  m_text.setText(text);
+  setAccessibleName(text);
+}
+
+}  // namespace dayvane::widgets

@@ -1,0 +1,78 @@
+#include "linux/widgets/ToolbarPresenter.h"
+
+#include <QStyle>
+#include <array>
+
+#include "linux/widgets/Lengths.h"
+#include "linux/widgets/PictureFiles.h"
+#include "shell/MResourceConstants.h"
+
+namespace dayvane::widgets {
+
+namespace {
+
+// Logical pixels.
+constexpr int kMargin = 3;
+constexpr int kGroupGap = 10;
+constexpr int kRuleHeight = 2;
+
+/// Buttons before which a new group begins: the list styles, help.
+constexpr std::array<int, 2> kGroups{6, 10};
+
+bool BeginsGroup(int index) {
+  return std::find(kGroups.begin(), kGroups.end(), index) != kGroups.end();
+}
+
+}  // namespace
+
+ToolbarPresenter::ToolbarPresenter(controls::PictureBox& strip, std::span<controls::Button> buttons,
+                                   std::span<controls::Line> rules, QWidget* parent)
+    : QWidget(parent), m_rules(rules), m_layout(this), m_link(strip, *this, [] {}) {
+  m_layout.setContentsMargins(kMargin, kRuleHeight + kMargin, kMargin, kRuleHeight + kMargin);
+  m_layout.setSpacing(1);
+  for (std::size_t index = 0; index < buttons.size(); ++index) AddButton(buttons[index], static_cast<int>(index));
+  m_layout.addStretch();
+  for (controls::Line& rule : rules) {
+    m_lines.push_back(std::make_unique<QFrame>(this));
+    m_lines.back()->setFrameStyle(QFrame::HLine | QFrame::Sunken);
+    m_connections.push_back(rule.Changed.ConnectScoped([this] { ShowRules(); }));
+  }
+  ShowRules();
+  m_link.Show();
+}
+
+void ToolbarPresenter::AddButton(controls::Button& button, int index) {
+  m_buttons.push_back({std::make_unique<QToolButton>(this), nullptr});
+  QToolButton& widget = *m_buttons.back().widget;
+  const bool gap = button.ToolTipText().empty();
+  if (gap || BeginsGroup(index)) m_layout.addSpacing(kGroupGap);
+  if (gap) return widget.hide();
+  const int size = style()->pixelMetric(QStyle::PM_ToolBarIconSize, nullptr, this);
+  widget.setIconSize({size, size});
+  widget.setIcon(PictureIcon(ToolbarPicture(index)));
+  widget.setAutoRaise(true);
+  widget.setFocusPolicy(Qt::TabFocus);
+  m_layout.addWidget(&widget);
+  connect(
+      &widget, &QToolButton::clicked, this, [&button] { button.Press(); }, Qt::QueuedConnection);
+  m_buttons.back().link = std::make_unique<ControlLink>(button, widget, [&button, &widget] {
+    widget.setToolTip(QString::fromStdString(button.ToolTipText()));
+    widget.setAccessibleName(widget.toolTip());
+    if (widget.icon().isNull()) widget.setText(widget.toolTip());
+  });
+  m_buttons.back().link->Show();
+}
+
+void ToolbarPresenter::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  ShowRules();
+}
+
+void ToolbarPresenter::ShowRules() {
+  for (std::size_t index = 0; index < m_lines.size(); ++index) {
+    const int top = index == 0 ? 0 : height() - kRuleHeight;
+    m_lines[index]->setGeometry(0, top, ToPixels(m_rules[index].X2(), *this), kRuleHeight);
+  }
+}
+
+}  // namespace dayvane::widgets

@@ -1,0 +1,64 @@
+#include "linux/widgets/TrayPresenter.h"
+
+#include "linux/widgets/PictureFiles.h"
+
+namespace dayvane::widgets {
+
+namespace {
+
+int ButtonOf(QSystemTrayIcon::ActivationReason reason) {
+  // A double click arrives after the click that it begins with, or as two; the right button is the panel's.
+  if (reason == QSystemTrayIcon::Trigger) return 1;
+  return reason == QSystemTrayIcon::MiddleClick ? 4 : 0;
+}
+
+}  // namespace
+
+TrayPresenter::TrayPresenter(controls::SystemTray& control, controls::Menu& menu, controls::Form& form,
+                             TrayWatch& watch, std::chrono::milliseconds patience)
+    : m_control(control), m_form(form), m_watch(watch), m_menu(menu), m_standIn(m_menu) {
+  m_patience.setSingleShot(true);
+  m_patience.setInterval(patience);
+  QObject::connect(&m_patience, &QTimer::timeout, &m_patience, [this] { ShowStandIn(); });
+  m_connections.push_back(control.Changed.ConnectScoped([this] { Show(); }));
+  m_connections.push_back(form.Changed.ConnectScoped([this] { Show(); }));
+  m_connections.push_back(watch.Changed.ConnectScoped([this] { Show(); }));
+  QObject::connect(&m_menu, &QMenu::aboutToShow, &m_menu, [this] { m_menu.SetDefaultItem(m_menu.FirstVisibleItem()); });
+  Show();
+}
+
+void TrayPresenter::Activate(QSystemTrayIcon::ActivationReason reason) {
+  constexpr int kId = 0;
+  if (const int button = ButtonOf(reason); button != 0) m_control.MouseUp.Raise(button, kId);
+}
+
+void TrayPresenter::Show() {
+  if (m_watch.IsThere()) ShowIcon();
+  const bool needed = !m_watch.IsThere() && !m_form.Visible() && !m_form.IsUnloaded();
+  if (!needed) {
+    m_patience.stop();
+    m_standIn.hide();
+  } else if (!m_standIn.isVisible() && !m_patience.isActive()) {
+    m_patience.start();
+  }
+  m_standIn.SetPicture(PictureIcon(m_control.Picture()));
+  m_standIn.SetTip(QString::fromStdString(m_control.TipText()));
+}
+
+void TrayPresenter::ShowIcon() {
+  if (m_icon == nullptr) {
+    m_icon = std::make_unique<QSystemTrayIcon>();
+    m_icon->setContextMenu(&m_menu);
+    QObject::connect(m_icon.get(), &QSystemTrayIcon::activated, m_icon.get(),
+                     [this](QSystemTrayIcon::ActivationReason reason) { Activate(reason); });
+  }
+  m_icon->setIcon(PictureIcon(m_control.Picture()));
+  m_icon->setToolTip(QString::fromStdString(m_control.TipText()));
+  m_icon->setVisible(m_control.Visible());
+}
+
+void TrayPresenter::ShowStandIn() {
+  m_standIn.show();
+}
+
+}  // namespace dayvane::widgets

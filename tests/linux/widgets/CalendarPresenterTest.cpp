@@ -1,0 +1,144 @@
+#include <QAbstractItemView>
+#include <QTest>
+#include <QTextCharFormat>
+#include <gmock/gmock.h>
+
+#include "linux/widgets/CalendarPresenter.h"
+
+namespace dayvane::widgets {
+namespace {
+
+using controls::Calendar;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+Calendar::Day Day(int year, unsigned month, unsigned day) {
+  return std::chrono::local_days{std::chrono::year{year} / static_cast<int>(month) / static_cast<int>(day)};
+}
+
+class CalendarPresenterTest : public testing::Test {
+ protected:
+  CalendarPresenterTest() {
+    m_control.SetCurrentDate(Day(2026, 5, 20));
+    m_control.DateChange.Connect([this](Calendar::Day, Calendar::Day to) { m_changes.push_back(to); });
+  }
+
+  Calendar m_control;
+  std::vector<Calendar::Day> m_changes;
+};
+
+TEST_F(CalendarPresenterTest, ShowsTheCurrentDateWithoutChangingIt) {
+  const CalendarPresenter presenter(m_control, Qt::Monday);
+
+  m_control.SetCurrentDate(Day(2026, 6, 1));
+
+  EXPECT_EQ(presenter.selectedDate(), QDate(2026, 6, 1));
+  EXPECT_EQ(presenter.monthShown(), 6);
+  EXPECT_THAT(m_changes, ElementsAre(Day(2026, 6, 1)));
+}
+
+TEST_F(CalendarPresenterTest, ACalendarWithoutADateShowsToday) {
+  Calendar fresh;
+
+  const CalendarPresenter presenter(fresh, Qt::Monday);
+
+  EXPECT_EQ(presenter.selectedDate(), QDate::currentDate());
+  EXPECT_EQ(fresh.CurrentDate(), Calendar::Day{});
+}
+
+TEST_F(CalendarPresenterTest, ADayThatTheUserChoosesIsTheCurrentDate) {
+  CalendarPresenter presenter(m_control, Qt::Monday);
+
+  presenter.setSelectedDate({2026, 5, 21});
+
+  EXPECT_THAT(m_changes, ElementsAre(Day(2026, 5, 21)));
+}
+
+TEST_F(CalendarPresenterTest, TheArrowKeysMoveByDays) {
+  CalendarPresenter presenter(m_control, Qt::Monday);
+  presenter.show();
+  auto* days = presenter.findChild<QAbstractItemView*>();
+
+  QTest::keyClick(days, Qt::Key_Right);
+  QTest::keyClick(days, Qt::Key_Down);
+
+  EXPECT_THAT(m_changes, ElementsAre(Day(2026, 5, 21), Day(2026, 5, 28)));
+}
+
+TEST_F(CalendarPresenterTest, GoingToAnotherMonthMovesTheDateThere) {
+  CalendarPresenter presenter(m_control, Qt::Monday);
+
+  presenter.showNextMonth();
+  presenter.showPreviousYear();
+
+  EXPECT_THAT(m_changes, ElementsAre(Day(2026, 6, 20), Day(2025, 6, 20)));
+}
+
+TEST_F(CalendarPresenterTest, AShorterMonthMovesTheDateToItsLastDay) {
+  m_control.SetCurrentDate(Day(2026, 5, 31));
+  CalendarPresenter presenter(m_control, Qt::Monday);
+  m_changes.clear();
+
+  presenter.showNextMonth();
+
+  EXPECT_THAT(m_changes, ElementsAre(Day(2026, 6, 30)));
+}
+
+TEST_F(CalendarPresenterTest, ADateThatTheProgramRefusesIsNotShown) {
+  m_control.WillChangeDate.Connect([](Calendar::Day, Calendar::Day, bool& cancel) { cancel = true; });
+  CalendarPresenter presenter(m_control, Qt::Monday);
+
+  presenter.setSelectedDate({2026, 5, 21});
+
+  EXPECT_EQ(presenter.selectedDate(), QDate(2026, 5, 20));
+  EXPECT_THAT(m_changes, IsEmpty());
+}
+
+TEST_F(CalendarPresenterTest, HighlightedDaysOfTheMonthStandOutWhenDrawnAgain) {
+  const CalendarPresenter presenter(m_control, Qt::Monday);
+  m_control.SetHighlight(3, true);
+  m_control.SetHighlight(31, true);
+
+  m_control.Redraw();
+
+  EXPECT_TRUE(presenter.IsHighlighted({2026, 5, 3}));
+  EXPECT_FALSE(presenter.IsHighlighted({2026, 5, 4}));
+  EXPECT_FALSE(presenter.IsHighlighted({2026, 6, 3}));
+  EXPECT_EQ(presenter.dateTextFormat({2026, 5, 3}).fontWeight(), QFont::Bold);
+}
+
+TEST_F(CalendarPresenterTest, DaysThatAreNoLongerHighlightedArePlain) {
+  m_control.SetHighlight(3, true);
+  const CalendarPresenter presenter(m_control, Qt::Monday);
+
+  m_control.SetHighlight(3, false);
+  m_control.Redraw();
+
+  EXPECT_THAT(presenter.dateTextFormat(), IsEmpty());
+}
+
+TEST_F(CalendarPresenterTest, AHighlightIsSeenWithoutColours) {
+  CalendarPresenter presenter(m_control, Qt::Monday);
+  const QImage plain = presenter.grab().toImage().convertToFormat(QImage::Format_Mono);
+
+  m_control.SetHighlight(3, true);
+  m_control.Redraw();
+
+  EXPECT_NE(presenter.grab().toImage().convertToFormat(QImage::Format_Mono), plain);
+}
+
+TEST_F(CalendarPresenterTest, TheWeekBeginsAsTheUserIsUsedTo) {
+  EXPECT_EQ(CalendarPresenter(m_control, Qt::Saturday).firstDayOfWeek(), Qt::Saturday);
+}
+
+TEST_F(CalendarPresenterTest, TheWeekendCanBeReadOnADarkBackground) {
+  CalendarPresenter presenter(m_control, Qt::Monday);
+  const QColor light = presenter.weekdayTextFormat(Qt::Sunday).foreground().color();
+
+  presenter.setPalette(QPalette(Qt::white, Qt::black, Qt::gray, Qt::black, Qt::darkGray, Qt::white, Qt::black));
+
+  EXPECT_GT(presenter.weekdayTextFormat(Qt::Sunday).foreground().color().lightness(), light.lightness());
+}
+
+}  // namespace
+}  // namespace dayvane::widgets

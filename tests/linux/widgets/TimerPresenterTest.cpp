@@ -1,0 +1,44 @@
+#include <QTest>
+#include <gtest/gtest.h>
+
+#include "linux/widgets/TimerPresenter.h"
+
+namespace dayvane::widgets {
+namespace {
+
+TEST(TimerPresenter, AnEnabledTimerTicks) {
+  controls::Timer timer;
+  const TimerPresenter presenter(timer);
+  int ticks = 0;
+  timer.Tick.Connect([&] { ++ticks; });
+
+  timer.SetInterval(1);
+  timer.SetEnabled(true);
+
+  EXPECT_TRUE(QTest::qWaitFor([&] { return ticks >= 2; }));
+}
+
+TEST(TimerPresenter, ATimerDisabledByItsTickTicksOnce) {
+  controls::Timer timer;
+  const TimerPresenter presenter(timer);
+  int ticks = 0;
+  timer.Tick.Connect([&] {
+    ++ticks;
+    timer.SetEnabled(false);
+  });
+  controls::Timer later;
+  const TimerPresenter laterPresenter(later);
+  bool laterTicked = false;
+  later.Tick.Connect([&] { laterTicked = true; });
+
+  timer.SetInterval(1);
+  timer.SetEnabled(true);
+  later.SetInterval(20);
+  later.SetEnabled(true);
+
+  EXPECT_TRUE(QTest::qWaitFor([&] { return laterTicked; }));
+  EXPECT_EQ(ticks, 1);
+}
+
+}  // namespace
+}  // namespace dayvane::widgets

@@ -1,0 +1,76 @@
+#include <QCoreApplication>
+#include <QTest>
+#include <array>
+#include <gtest/gtest.h>
+
+#include "linux/widgets/Lengths.h"
+#include "linux/widgets/ToolbarPresenter.h"
+
+namespace dayvane::widgets {
+namespace {
+
+class ToolbarPresenterTest : public testing::Test {
+ protected:
+  ToolbarPresenterTest() {
+    m_buttons[0].SetToolTipText("Daily View");
+    m_buttons[2].SetToolTipText("Find Document");
+    m_presenter = std::make_unique<ToolbarPresenter>(m_strip, m_buttons, m_rules, &m_window);
+    m_window.show();
+  }
+
+  controls::PictureBox m_strip;
+  std::array<controls::Button, 3> m_buttons;
+  std::array<controls::Line, 2> m_rules;
+  QWidget m_window;
+  std::unique_ptr<ToolbarPresenter> m_presenter;
+};
+
+TEST_F(ToolbarPresenterTest, AButtonHasItsTipAndSpeaksIt) {
+  EXPECT_EQ(m_presenter->ButtonAt(0).toolTip(), "Daily View");
+  EXPECT_EQ(m_presenter->ButtonAt(0).accessibleName(), "Daily View");
+}
+
+TEST_F(ToolbarPresenterTest, APressIsToldAfterItsEventIsDone) {
+  int presses = 0;
+  m_buttons[2].Click.Connect([&] { ++presses; });
+
+  m_presenter->ButtonAt(2).click();
+  EXPECT_EQ(presses, 0);
+  QCoreApplication::processEvents();
+
+  EXPECT_EQ(presses, 1);
+}
+
+TEST_F(ToolbarPresenterTest, ButtonsAreReachedByTheKeyboard) {
+  int presses = 0;
+  m_buttons[0].Click.Connect([&] { ++presses; });
+
+  m_presenter->ButtonAt(0).setFocus(Qt::TabFocusReason);
+  QTest::keyClick(&m_presenter->ButtonAt(0), Qt::Key_Space);
+  QCoreApplication::processEvents();
+
+  EXPECT_EQ(presses, 1);
+}
+
+TEST_F(ToolbarPresenterTest, ADisabledButtonIsGreyed) {
+  m_buttons[0].SetEnabled(false);
+
+  EXPECT_FALSE(m_presenter->ButtonAt(0).isEnabled());
+}
+
+TEST_F(ToolbarPresenterTest, AButtonWithoutATipIsAGap) {
+  EXPECT_FALSE(m_presenter->ButtonAt(1).isVisible());
+  EXPECT_TRUE(m_presenter->ButtonAt(2).isVisible());
+}
+
+TEST_F(ToolbarPresenterTest, TheRulesEndWhereTheirControlsSay) {
+  m_rules[1].SetX2(ToTwips(77, m_window));
+
+  const auto lines = m_presenter->findChildren<QFrame*>(Qt::FindDirectChildrenOnly);
+
+  ASSERT_EQ(lines.size(), 2);
+  EXPECT_EQ(lines[1]->width(), 77);
+}
+
+}  // namespace
+}  // namespace dayvane::widgets

@@ -1,0 +1,104 @@
+#include <QTest>
+#include <QToolButton>
+#include <gmock/gmock.h>
+
+#include "linux/widgets/TrayPresenter.h"
+
+namespace dayvane::widgets {
+namespace {
+
+using testing::ElementsAre;
+
+/// A desktop that has a tray when the test says so.
+class TestTray : public TrayWatch {
+ public:
+  bool IsThere() const override { return m_isThere; }
+  void Set(bool isThere) {
+    m_isThere = isThere;
+    Changed.Raise();
+  }
+
+ private:
+  bool m_isThere = false;
+};
+
+class TrayPresenterTest : public testing::Test {
+ protected:
+  TrayPresenterTest() {
+    m_control.SetTipText("Dayvane");
+    m_menu[0].SetVisible(false);
+    m_control.MouseUp.Connect([this](int button, int) { m_buttons.push_back(button); });
+  }
+
+  bool StandInComes() {
+    return QTest::qWaitFor([this] { return m_presenter.StandIn().isVisible(); });
+  }
+
+  controls::SystemTray m_control;
+  controls::Menu m_menu{"Tray", {{"&Show"}, {"&Hide"}, {"-"}, {"E&xit"}}};
+  controls::Form m_form;
+  TestTray m_tray;
+  TrayPresenter m_presenter{m_control, m_menu, m_form, m_tray, std::chrono::milliseconds(0)};
+  std::vector<int> m_buttons;
+};
+
+TEST_F(TrayPresenterTest, OneClickIsOneReleaseOfItsButton) {
+  m_presenter.Activate(QSystemTrayIcon::Trigger);
+  m_presenter.Activate(QSystemTrayIcon::DoubleClick);
+  m_presenter.Activate(QSystemTrayIcon::MiddleClick);
+  m_presenter.Activate(QSystemTrayIcon::Context);
+
+  EXPECT_THAT(m_buttons, ElementsAre(1, 4));
+}
+
+TEST_F(TrayPresenterTest, TheFirstVisibleItemIsTheDefault) {
+  Q_EMIT m_presenter.Menu().aboutToShow();
+
+  EXPECT_EQ(m_presenter.Menu().defaultAction(), m_presenter.Menu().actions().at(1));
+}
+
+TEST_F(TrayPresenterTest, AHiddenProgramWithoutATrayHasAStandIn) {
+  EXPECT_TRUE(StandInComes());
+  EXPECT_EQ(m_presenter.StandIn().windowTitle(), "Dayvane");
+}
+
+TEST_F(TrayPresenterTest, TheStandInGoesWhenATrayComes) {
+  ASSERT_TRUE(StandInComes());
+
+  m_tray.Set(true);
+
+  EXPECT_FALSE(m_presenter.StandIn().isVisible());
+}
+
+TEST_F(TrayPresenterTest, TheStandInGoesWhenTheWindowShows) {
+  ASSERT_TRUE(StandInComes());
+
+  m_form.SetVisible(true);
+
+  EXPECT_FALSE(m_presenter.StandIn().isVisible());
+}
+
+TEST_F(TrayPresenterTest, TheStandInCarriesTheMenusVisibleCommands) {
+  ASSERT_TRUE(StandInComes());
+  std::vector<int> chosen;
+  m_menu.Click.Connect([&](int index) { chosen.push_back(index); });
+
+  const auto buttons = m_presenter.StandIn().findChildren<QToolButton*>();
+  ASSERT_EQ(buttons.size(), 3);
+  EXPECT_FALSE(buttons[0]->isVisible());
+  buttons[2]->click();
+  QCoreApplication::processEvents();
+
+  EXPECT_THAT(chosen, ElementsAre(3));
+}
+
+TEST_F(TrayPresenterTest, ClosingTheStandInLeavesAWayToTheProgram) {
+  ASSERT_TRUE(StandInComes());
+
+  m_presenter.StandIn().close();
+
+  EXPECT_TRUE(m_presenter.StandIn().isVisible());
+}
+
+}  // namespace
+}  // namespace dayvane::widgets

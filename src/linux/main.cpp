@@ -1,3 +1,124 @@
-int main() {
-  return 0;
+// The program on a Linux desktop: its parts are put together here, and the message loop runs.
+
+#include <QApplication>
+#include <QIcon>
+#include <QMessageBox>
+#include <cstdio>
+#include <cstdlib>
+#include <glib-unix.h>
+#include <optional>
+
+#include "base/Error.h"
+#include "linux/EventSink.h"
+#include "linux/LinuxDateConventions.h"
+#include "linux/LinuxShell.h"
+#include "linux/ProgramFolder.h"
+#include "linux/SingleInstance.h"
+#include "linux/SystemClock.h"
+#include "linux/files/NativePath.h"
+#include "linux/files/PosixFileSystem.h"
+#include "linux/help/DesktopHelp.h"
+#include "linux/registry/LinuxRegistry.h"
+#include "linux/widgets/Icons.h"
+#include "linux/widgets/LinuxWindowing.h"
+#include "linux/widgets/MainWindow.h"
+#include "shell/MDayvaneMain.h"
+
+namespace dayvane {
+namespace {
+
+constexpr int kFailure = 1;
+
+bool HasDisplay() {
+  for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+    if (const char* value = std::getenv(name); value != nullptr && *value != '\0') return true;
+  return false;
+}
+
+/// For what goes wrong before the program's own reports work.
+int Refuse(const std::string& reason) {
+  std::fprintf(stderr, "dayvane: %s\n", reason.c_str());
+  QMessageBox::critical(nullptr, QStringLiteral("Dayvane"), QString::fromStdString(reason));
+  return kFailure;
+}
+
+/// The session's end, a stop from the terminal: the window saves what there is to save and goes.
+int EndOnSignal(void* mainWindow) {
+  static_cast<FMain*>(mainWindow)->form.RequestUnload(controls::UnloadMode::SystemSession);
+  return G_SOURCE_CONTINUE;
+}
+
+class SignalHandlers {
+ public:
+  explicit SignalHandlers(FMain& mainWindow) {
+    for (const int signal : {SIGTERM, SIGINT, SIGHUP})
+      m_sources.push_back(g_unix_signal_add(signal, EndOnSignal, &mainWindow));
+  }
+  SignalHandlers(const SignalHandlers&) = delete;
+  SignalHandlers& operator=(const SignalHandlers&) = delete;
+  ~SignalHandlers() {
+    for (const guint source : m_sources) g_source_remove(source);
+  }
+
+ private:
+  std::vector<guint> m_sources;
+};
+
+int Run(const QApplication& qt) {
+  const xdg::Environment environment = xdg::Environment::OfProcess();
+  const ProgramFolders folders = FindProgramFolders(QCoreApplication::applicationFilePath().toStdString(), environment);
+  MakeDataFolder(folders.data);
+  const auto programFolder = files::FromNative(folders.data);
+  if (!programFolder) return Refuse("The folder for its data has a name that cannot be used: " + folders.data);
+
+  EventSink events;
+  const auto report = [&events](const std::string& text) { events.Report(text); };
+  const std::optional<SingleInstance> instance = SingleInstance::Acquire(SingleInstance::Folder(environment));
+  files::PosixFileSystem files;
+  LinuxShell shell(files, folders.data, report);
+  LinuxRegistry registry(DefaultSettingsFile(), report);
+  widgets::LinuxWindowing windowing;
+  help::DesktopHelp help(folders.resources);
+  SystemClock clock;
+  const platform::DateConventions dates = DateConventionsOf();
+  const platform::Desktop desktop{files, shell, registry, windowing, help, clock, dates};
+
+  const widgets::Icons icons;
+  std::optional<widgets::MainWindow> window;
+  std::optional<SignalHandlers> signals;
+  const auto present = [&](FMain& mainWindow, Application& application) {
+    events.SetLog(&application.eventLog);
+    window.emplace(mainWindow, icons, dates);
+    windowing.Register(window->Presenter());
+    signals.emplace(mainWindow);
+    mainWindow.form.Unloaded.Connect([] { QCoreApplication::quit(); });
+  };
+  const Program program = Main(desktop, *programFolder, !instance, present);
+  const int result = !program.mainWindow ? kFailure : program.mainWindow->form.IsUnloaded() ? 0 : QApplication::exec();
+  events.SetLog(nullptr);
+  signals.reset();
+  if (window) windowing.Forget(window->Presenter());
+  window.reset();
+  (void)qt;
+  return result;
+}
+
+}  // namespace
+}  // namespace dayvane
+
+int main(int argc, char** argv) {
+  if (!dayvane::HasDisplay()) {
+    std::fputs("dayvane: there is no display to show its window on\n", stderr);
+    return dayvane::kFailure;
+  }
+  const QApplication qt(argc, argv);
+  QApplication::setApplicationName(QStringLiteral("dayvane"));
+  QApplication::setApplicationDisplayName(QString());
+  QApplication::setDesktopFileName(QStringLiteral("dayvane"));
+  QApplication::setQuitOnLastWindowClosed(false);
+  try {
+    return dayvane::Run(qt);
+  } catch (const std::exception& error) {
+    return dayvane::Refuse(error.what());
+  }
 }

@@ -1,0 +1,49 @@
+#include "linux/LinuxShell.h"
+
+#include <chrono>
+
+#include "base/Error.h"
+#include "linux/files/NativePath.h"
+#include "linux/links/ShellLinkFormat.h"
+
+namespace dayvane {
+
+namespace {
+
+std::int64_t NanosecondsNow() {
+  const auto now = std::chrono::system_clock::now().time_since_epoch();
+  return std::chrono::duration_cast<std::chrono::nanoseconds>(now).count();
+}
+
+}  // namespace
+
+LinuxShell::LinuxShell(platform::FileSystem& files, const std::string& dataFolder,
+                       const std::function<void(const std::string&)>& reportEvent)
+    : m_recentPath(dataFolder + "/Recent"),
+      m_links(files, reportEvent),
+      m_launcher(reportEvent),
+      m_recentFolder(NanosecondsNow, {recent::DefaultListPath(), m_recentPath, dataFolder + "/Recent.state"},
+                     links::WriteShellLink, reportEvent),
+      m_watch(recent::DefaultListPath(), [this] { m_recentFolder.Look(); }) {}
+
+std::string LinuxShell::SpecialFolderPath(int number) {
+  if (number != platform::kRecentFolder)
+    throw Error(kPathNotFound, "No special folder of number " + std::to_string(number));
+  const auto path = files::FromNative(m_recentPath);
+  if (!path) throw Error(kBadFileName, "The path of the Recent folder cannot be used", m_recentPath);
+  return *path;
+}
+
+void LinuxShell::CreateShellLink(const std::string& path, const platform::ShellLink& link) {
+  links::WriteShellLinkFile(path, link);
+}
+
+int LinuxShell::Open(const std::string& target, const std::string& workingDirectory, std::int32_t) {
+  return m_launcher.Open(target, workingDirectory);
+}
+
+std::string LinuxShell::WindowsFolder() {
+  return "C:\\WINDOWS";
+}
+
+}  // namespace dayvane

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "linux/launch/Launcher.h"
+#include "linux/links/ShellLinkFile.h"
+#include "linux/recent/RecentFolder.h"
+#include "linux/recent/RecentListWatch.h"
+#include "platform/Shell.h"
+
+namespace dayvane {
+
+/// The shell of a Linux desktop: its default programs, its file manager, shell links in files, and a Recent folder
+/// kept in step with the desktop's list of recent documents.
+class LinuxShell : public platform::Shell {
+ public:
+  /// `dataFolder` is native; the Recent folder lies in it. `reportEvent` takes texts for the event log.
+  LinuxShell(platform::FileSystem& files, const std::string& dataFolder,
+             const std::function<void(const std::string&)>& reportEvent);
+
+  std::string SpecialFolderPath(int number) override;
+  void RefreshRecentFolder() override { m_recentFolder.Refresh(); }
+  void RecentFolderCaptured() override { m_recentFolder.Captured(); }
+  platform::ReadLink ReadShellLink(const std::string& path) override { return m_links.Read(path); }
+  void CreateShellLink(const std::string& path, const platform::ShellLink& link) override;
+  int Open(const std::string& target, const std::string& workingDirectory, std::int32_t showCommand) override;
+  void Run(const std::string& commandLine) override { m_launcher.Run(commandLine); }
+  std::string WindowsFolder() override;
+  std::string DisplayPath(const std::string& path) override { return launch::Launcher::DisplayPath(path); }
+
+ private:
+  std::string m_recentPath;  ///< native
+  links::ShellLinkReader m_links;
+  launch::Launcher m_launcher;
+  recent::RecentFolder m_recentFolder;
+  recent::RecentListWatch m_watch;
+};
+
+}  // namespace dayvane

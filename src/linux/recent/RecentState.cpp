@@ -1,0 +1,239 @@
+#include "linux/recent/RecentState.h"
+
+#include <charconv>
+#include <optional>
+#include <unordered_set>
+#include <vector>
+
+#include "base/Text.h"
+#include "linux/files/NativePath.h"
+
+namespace dayvane::recent {
+
+namespace {
+
+constexpr std::string_view kHeader = "dayvane-recent 1";
+constexpr std::string_view kNone = "-";
+
+std::string Escape(std::string_view text) {
+  constexpr std::string_view kDigits = "0123456789ABCDEF";
+  const bool isUtf8 = files::IsValidUtf8(text);
+  std::string escaped;
+  for (const char c : text) {
+    const auto byte = static_cast<unsigned char>(c);
+    if (byte < 0x20 || byte == 0x7F || c == '%' || (byte >= 0x80 && !isUtf8))
+      escaped += {'%', kDigits[byte >> 4U], kDigits[byte & 15U]};
+    else
+      escaped += c;
+  }
+  return escaped;
+}
+
+/// A number of this type that is not negative: a state holds no other.
+template <class Number>
+std::optional<Number> ParseNumber(std::string_view text, int base = 10) {
+  Number number = 0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number, base);
+  if (error != std::errc{} || end != text.data() + text.size() || text.starts_with('-')) return std::nullopt;
+  return number;
+}
+
+std::optional<std::string> Unescape(std::string_view text) {
+  std::string plain;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (text[i] != '%') {
+      plain += text[i];
+      continue;
+    }
+    const auto byte = ParseNumber<std::uint8_t>(text.substr(i + 1, 2), 16);
+    if (!byte || *byte == 0 || i + 2 >= text.size()) return std::nullopt;
+    plain += static_cast<char>(*byte);
+    i += 2;
+  }
+  return plain;
+}
+
+std::vector<std::string_view> Split(std::string_view text, char separator) {
+  std::vector<std::string_view> parts;
+  for (;;) {
+    const auto end = text.find(separator);
+    parts.push_back(text.substr(0, end));
+    if (end == std::string_view::npos) return parts;
+    text.remove_prefix(end + 1);
+  }
+}
+
+template <class Numbers, class Write>
+std::string Join(const Numbers& numbers, Write write) {
+  std::string joined;
+  for (const auto number : numbers) joined += (joined.empty() ? "" : ",") + write(number);
+  return joined.empty() ? std::string(kNone) : joined;
+}
+
+std::string Decimal(Moment moment) {
+  return std::to_string(moment);
+}
+
+std::string Hexadecimal(std::uint16_t hash) {
+  char digits[4];
+  const auto end = std::to_chars(digits, digits + sizeof digits, hash, 16).ptr;
+  return {digits, end};
+}
+
+std::string Flags(const RecentDocument& document) {
+  std::string flags;
+  if (document.isCaptured) flags += 'c';
+  if (document.isLeftOut) flags += 'o';
+  if (document.isToBeCleared) flags += 'x';
+  return flags.empty() ? std::string(kNone) : flags;
+}
+
+std::string Future(const RecentDocument& document) {
+  if (document.futureTo == 0) return std::string(kNone);
+  return Decimal(document.futureFrom) + ":" + Decimal(document.futureTo);
+}
+
+std::string DocumentLine(const std::string& path, const RecentDocument& document) {
+  std::string line = "document";
+  const std::string name = document.name.empty() ? std::string(kNone) : Escape(document.name);
+  for (const std::string& field : {Decimal(document.seen), Decimal(document.written), Flags(document), Future(document),
+                                   Join(document.pending, Decimal), name, Escape(path)})
+    line += "\t" + field;
+  return line + "\n";
+}
+
+/// A list of numbers, or nothing when one of them is none.
+template <class Number>
+std::optional<std::vector<Number>> ParseList(std::string_view text, int base) {
+  std::vector<Number> numbers;
+  if (text == kNone) return numbers;
+  for (const std::string_view part : Split(text, ',')) {
+    const auto number = ParseNumber<Number>(part, base);
+    if (!number) return std::nullopt;
+    numbers.push_back(*number);
+  }
+  return numbers;
+}
+
+bool ParseFlags(std::string_view text, RecentDocument& document) {
+  if (text == kNone) return true;
+  for (const char flag : text) {
+    if (flag == 'c')
+      document.isCaptured = true;
+    else if (flag == 'o')
+      document.isLeftOut = true;
+    else if (flag == 'x')
+      document.isToBeCleared = true;
+    else
+      return false;
+  }
+  return !text.empty();
+}
+
+bool ParseFuture(std::string_view text, RecentDocument& document) {
+  if (text == kNone) return true;
+  const auto parts = Split(text, ':');
+  if (parts.size() != 2) return false;
+  const auto from = ParseNumber<Moment>(parts[0]);
+  const auto to = ParseNumber<Moment>(parts[1]);
+  document.futureFrom = from.value_or(0);
+  document.futureTo = to.value_or(0);
+  return from && to;
+}
+
+/// A name that a shortcut of ours may have: never one that leads out of the folder.
+bool IsShortcutName(const std::string& name) {
+  return name.ends_with(".lnk") && !name.starts_with('.') && name.size() <= 255 && name.find('/') == std::string::npos;
+}
+
+bool ParseName(std::string_view text, RecentDocument& document) {
+  if (text == kNone) return true;
+  const auto name = Unescape(text);
+  if (!name || !IsShortcutName(*name)) return false;
+  document.name = *name;
+  return true;
+}
+
+class StateParser {
+ public:
+  StateReading Parse(std::string_view text) {
+    const bool hasHeader = TakeLine(text) == kHeader;
+    m_reading.isDamaged = !hasHeader;
+    while (hasHeader && !text.empty() && !m_hasEnd)
+      if (const auto line = TakeLine(text); !line || !ParseLine(Split(*line, '\t'))) m_reading.isDamaged = true;
+    if (!m_hasEnd || !text.empty()) m_reading.isDamaged = true;
+    return std::move(m_reading);
+  }
+
+ private:
+  /// A line that has its end.
+  static std::optional<std::string_view> TakeLine(std::string_view& text) {
+    const auto end = text.find('\n');
+    const std::string_view line = text.substr(0, end);
+    text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
+    return end == std::string_view::npos ? std::nullopt : std::optional(line);
+  }
+
+  bool ParseLine(const std::vector<std::string_view>& fields) {
+    if (fields[0] == "document" && fields.size() == 8) return ParseDocument(fields);
+    if (fields[0] == "forgotten" && fields.size() == 4) return ParseForgotten(fields);
+    if (fields[0] == "end" && fields.size() == 2) return ParseEnd(fields);
+    m_reading.state.isEmptied = m_reading.state.isEmptied || fields[0] == "emptied";
+    return fields[0] == "emptied" && fields.size() == 1;
+  }
+
+  bool ParseDocument(const std::vector<std::string_view>& fields) {
+    RecentDocument document;
+    const auto seen = ParseNumber<Moment>(fields[1]);
+    const auto written = ParseNumber<Moment>(fields[2]);
+    auto pending = ParseList<Moment>(fields[5], 10);
+    const auto path = Unescape(fields[7]);
+    if (!seen || !written || !pending || !path || !path->starts_with('/')) return false;
+    if (!ParseFlags(fields[3], document) || !ParseFuture(fields[4], document) || !ParseName(fields[6], document))
+      return false;
+    document.seen = *seen;
+    document.written = *written;
+    document.pending = std::move(*pending);
+    if (m_reading.state.documents.contains(*path)) return false;
+    if (!document.name.empty() && !m_names.insert(text::ToLower(document.name)).second) return false;
+    m_reading.state.documents.emplace(*path, std::move(document));
+    return true;
+  }
+
+  bool ParseForgotten(const std::vector<std::string_view>& fields) {
+    const auto latest = ParseNumber<Moment>(fields[1]);
+    const auto number = ParseNumber<int>(fields[2]);
+    const auto families = ParseList<std::uint16_t>(fields[3], 16);
+    if (!latest || !number || *number > 999'999 || !families) return false;
+    m_reading.state.forgotten = {*latest, *number, {families->begin(), families->end()}};
+    return true;
+  }
+
+  bool ParseEnd(const std::vector<std::string_view>& fields) {
+    m_hasEnd = true;
+    return ParseNumber<std::size_t>(fields[1]) == m_reading.state.documents.size();
+  }
+
+  StateReading m_reading;
+  std::unordered_set<std::string> m_names;
+  bool m_hasEnd = false;
+};
+
+}  // namespace
+
+std::string WriteState(const RecentState& state) {
+  std::string text(kHeader);
+  text += "\n";
+  if (state.isEmptied) text += "emptied\n";
+  if (state.forgotten.latest > 0)
+    text += "forgotten\t" + Decimal(state.forgotten.latest) + "\t" + std::to_string(state.forgotten.highestNumber) +
+            "\t" + Join(state.forgotten.families, Hexadecimal) + "\n";
+  for (const auto& [path, document] : state.documents) text += DocumentLine(path, document);
+  return text + "end\t" + std::to_string(state.documents.size()) + "\n";
+}
+
+StateReading ReadState(std::string_view text) {
+  return StateParser().Parse(text);
+}
+
+}  // namespace dayvane::recent

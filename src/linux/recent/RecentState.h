@@ -1,0 +1,42 @@
+#pragma once
+
+#include <map>
+#include <string>
+#include <string_view>
+
+#include "linux/recent/RecentDocument.h"
+#include "linux/recent/ShortcutNames.h"
+
+namespace dayvane::recent {
+
+/// What is remembered of the recent list from one session to the next.
+///
+/// Its file is text in UTF-8, one fact a line, the fields of a line separated by tabs:
+///
+///     dayvane-recent 1
+///     emptied                                    the list was found empty, and has stayed so
+///     forgotten  LATEST  NUMBER  HASH,HASH,...   see Forgotten; hashes in hexadecimal
+///     document  SEEN  WRITTEN  FLAGS  FUTURE  PENDING  NAME  PATH
+///     end  COUNT                                 of the documents
+///
+/// Moments are nanoseconds since 1970. FLAGS is any of "c" (isCaptured), "o" (isLeftOut) and "x" (isToBeCleared);
+/// FUTURE is two moments with a colon between them; PENDING is moments with commas between them; a field without a
+/// value is "-". In NAME and PATH a percent sign, a control character, and every byte beyond ASCII of a text that is
+/// no UTF-8 are written "%XX". A line that is not of this form, a second line for a path or a name, and a line without
+/// its line end are passed over; the rest of such a file still counts. A file without the first line is worth nothing.
+struct RecentState {
+  std::map<std::string, RecentDocument> documents;  ///< by native path
+  Forgotten forgotten;
+  bool isEmptied = false;
+};
+
+std::string WriteState(const RecentState& state);
+
+struct StateReading {
+  RecentState state;
+  bool isDamaged = false;  ///< the text is not a whole and sound state; what is sound in it was taken
+};
+
+StateReading ReadState(std::string_view text);
+
+}  // namespace dayvane::recent

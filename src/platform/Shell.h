@@ -15,6 +15,8 @@ struct ShellLink {
   std::string iconFile;
   std::int32_t iconIndex = 0;
   std::int32_t showCommand = 1;  ///< 1 normal window, 3 maximised, 7 minimised ([MS-SHLLINK] 2.1)
+
+  bool operator==(const ShellLink&) const = default;
 };
 
 /// A link as read from its file, with the moment that the same version of the file was written.

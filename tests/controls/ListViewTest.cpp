@@ -1,7 +1,8 @@
+#include "controls/ListView.h"
+
 #include <gtest/gtest.h>
 
 #include "base/Error.h"
-#include "controls/ListView.h"
 
 namespace dayvane::controls {
 namespace {
@@ -64,9 +65,7 @@ TEST_F(ListViewTest, RemovingTheSelectedRowSelectsNothing) {
   EXPECT_EQ(list.Count(), 0U);
 }
 
-TEST_F(ListViewTest, AKeyThatIsNotThereCannotBeRemoved) {
-  EXPECT_THROW(list.Remove("Knone"), Error);
-}
+TEST_F(ListViewTest, AKeyThatIsNotThereCannotBeRemoved) { EXPECT_THROW(list.Remove("Knone"), Error); }
 
 TEST_F(ListViewTest, SelectionSurvivesASort) {
   for (const char* name : {"c", "a"}) Add(name, "");

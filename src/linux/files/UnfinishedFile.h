@@ -1,8 +1,8 @@
 #pragma once
 
+#include <ctime>
 #include <string>
 #include <string_view>
-#include <time.h>
 
 #include "linux/files/FileDescriptor.h"
 

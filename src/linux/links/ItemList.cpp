@@ -14,18 +14,15 @@ using namespace layout;
 
 namespace {
 
-/// Where the long name starts, by version of the block. The block's own field says the same in every link that Windows
-/// writes; other programs leave it empty.
+/// Where the long name starts, by version of the block, should the block's own field not lead to one.
 std::size_t LongNameOffset(unsigned version) {
   return version >= 9 ? 46 : version == 8 ? 42 : version == 7 ? 38 : kLongNameHeaderSizeXp;
 }
 
 /// Adds the long name; false when it is not there or has lost its end.
 bool AppendLongName(std::string& path, ByteView block) {
-  const unsigned version = block.U16(kExtensionVersionAt);
-  if (version < kLongNameVersionXp) return false;
   const std::size_t byField = block.U16(kLongNameOffsetAt);
-  for (const std::size_t offset : {byField, LongNameOffset(version)}) {
+  for (const std::size_t offset : {byField, LongNameOffset(block.U16(kExtensionVersionAt))}) {
     if (offset < kLongNameHeaderSizeXp) continue;
     const auto name = block.WideText(offset);
     if (!name || name->empty()) continue;

@@ -1,0 +1,358 @@
+#include <csignal>
+#include <filesystem>
+#include <fstream>
+#include <gmock/gmock.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "base/Error.h"
+#include "linux/files/PosixFileSystem.h"
+#include "tests/support/TemporaryFolder.h"
+
+namespace dayvane::files {
+namespace {
+
+namespace fs = std::filesystem;
+using platform::EntryKind;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+using testing::ReadFile;
+using testing::SetWritten;
+using ::testing::UnorderedElementsAre;
+
+class PosixFileSystemTest : public ::testing::Test {
+ protected:
+  std::string Path(const std::string& name) const { return m_folder.Path() + "\\" + name; }
+  std::string Unfinished() const { return m_folder / PosixFileSystem::kUnfinishedName; }
+
+  std::vector<std::string> Names() {
+    std::vector<std::string> names;
+    for (const auto& entry : m_files.List(m_folder.Path())) names.push_back(entry.name);
+    return names;
+  }
+
+  testing::TemporaryFolder m_folder;
+  PosixFileSystem m_files;
+};
+
+/// The number of the Error that an action fails with; 0 when it does not fail. The error must be about `path`.
+template <class Action>
+int ErrorOf(const std::string& path, Action action) {
+  try {
+    action();
+  } catch (const Error& error) {
+    EXPECT_EQ(error.Path(), path);
+    return error.Number();
+  }
+  return 0;
+}
+
+/// No file of this process may grow beyond a few bytes, as on a full disk.
+class FullDisk {
+ public:
+  explicit FullDisk(rlim_t bytes) : m_handler(std::signal(SIGXFSZ, SIG_IGN)) {
+    getrlimit(RLIMIT_FSIZE, &m_before);
+    const struct rlimit limit { bytes, m_before.rlim_max };
+    setrlimit(RLIMIT_FSIZE, &limit);
+  }
+  FullDisk(const FullDisk&) = delete;
+  FullDisk& operator=(const FullDisk&) = delete;
+  ~FullDisk() {
+    setrlimit(RLIMIT_FSIZE, &m_before);
+    std::signal(SIGXFSZ, m_handler);
+  }
+
+ private:
+  void (*m_handler)(int);
+  struct rlimit m_before {};
+};
+
+/// The superuser may read everything; nobody may not.
+class UnprivilegedUser {
+ public:
+  UnprivilegedUser() {
+    constexpr uid_t kNobody = 65534;
+    if (m_before == 0 && seteuid(kNobody) != 0) throw std::runtime_error("cannot become an unprivileged user");
+  }
+  UnprivilegedUser(const UnprivilegedUser&) = delete;
+  UnprivilegedUser& operator=(const UnprivilegedUser&) = delete;
+  ~UnprivilegedUser() {
+    if (seteuid(m_before) != 0) std::abort();
+  }
+
+ private:
+  uid_t m_before = geteuid();
+};
+
+TEST_F(PosixFileSystemTest, AReplacedFileIsANewOneSoThatWhoReadsTheOldOneReadsItWhole) {
+  const std::string native = m_folder.Write("a.dat", "old");
+  fs::create_hard_link(native, m_folder / "reader");
+  m_files.Replace(Path("a.dat"), "new");
+  EXPECT_EQ(ReadFile(native), "new");
+  EXPECT_EQ(ReadFile(m_folder / "reader"), "old");
+}
+
+TEST_F(PosixFileSystemTest, ReplacingLeavesNoOtherFileBehind) {
+  m_files.Replace(Path("a.dat"), "new");
+  ReplaceUnflushed(Path("b.dat"), "new");
+  EXPECT_THAT(Names(), UnorderedElementsAre("a.dat", "b.dat"));
+}
+
+TEST_F(PosixFileSystemTest, AFileReplacedUnflushedIsWholeAndWrittenNow) {
+  const std::string native = m_folder.Write("a.lnk", "old and longer");
+  SetWritten(native, "2001-01-01 00:00:00");
+  const std::string reference = m_folder.Write("reference", "");
+  ReplaceUnflushed(Path("a.lnk"), "new");
+  EXPECT_EQ(ReadFile(native), "new");
+  EXPECT_GE(m_files.Status(Path("a.lnk"))->written.nanoseconds, m_files.Status(Path("reference"))->written.nanoseconds);
+}
+
+TEST_F(PosixFileSystemTest, AFileReplacedWithATimeHasItToTheNanosecond) {
+  for (const std::int64_t time :
+       {std::int64_t{1'795'000'000'123'456'789}, std::int64_t{-1'500'000'001}, std::int64_t{0}}) {
+    ReplaceWithTime(m_folder / "a.lnk", "new", time);
+    EXPECT_EQ(m_files.Status(Path("a.lnk"))->written.nanoseconds, time);
+  }
+}
+
+TEST_F(PosixFileSystemTest, ACopyKeepsTheLastWrittenTimeToTheNanosecond) {
+  const std::string native = m_folder.Write("a.lnk", "bytes");
+  SetWritten(native, "2026-11-20 14:03:27", 987'654'321);
+  m_files.Copy(Path("a.lnk"), Path("b.lnk"));
+  EXPECT_EQ(ReadFile(m_folder / "b.lnk"), "bytes");
+  EXPECT_EQ(m_files.Status(Path("b.lnk"))->written, m_files.Status(Path("a.lnk"))->written);
+  EXPECT_EQ(m_files.Status(Path("b.lnk"))->written.nanoseconds % 1'000'000'000, 987'654'321);
+}
+
+TEST_F(PosixFileSystemTest, ACopyReplacesItsDestinationAsAWhole) {
+  m_folder.Write("a.lnk", "new");
+  const std::string native = m_folder.Write("b.lnk", "old and longer");
+  fs::create_hard_link(native, m_folder / "reader");
+  m_files.Copy(Path("a.lnk"), Path("b.lnk"));
+  EXPECT_EQ(ReadFile(native), "new");
+  EXPECT_EQ(ReadFile(m_folder / "reader"), "old and longer");
+}
+
+TEST_F(PosixFileSystemTest, ACopyOfASparseFileIsSparse) {
+  constexpr std::uintmax_t kSize = std::uintmax_t{1} << 30;
+  const std::string native = m_folder.Write("a.lnk", "head");
+  std::fstream file(native, std::ios::in | std::ios::out | std::ios::binary);
+  file.seekp(kSize / 2).write("middle", 6).flush();
+  fs::resize_file(native, kSize);
+  m_files.Copy(Path("a.lnk"), Path("b.lnk"));
+  struct stat copy {};
+  ASSERT_EQ(stat((m_folder / "b.lnk").c_str(), &copy), 0);
+  EXPECT_EQ(static_cast<std::uintmax_t>(copy.st_size), kSize);
+  EXPECT_LT(copy.st_blocks * 512, 1 << 20);
+  std::ifstream read(m_folder / "b.lnk", std::ios::binary);
+  std::string head(4, ' '), middle(6, ' ');
+  read.read(head.data(), 4).seekg(kSize / 2).read(middle.data(), 6);
+  EXPECT_EQ(head + middle, "headmiddle");
+}
+
+TEST_F(PosixFileSystemTest, AFileThatAKillLeftUnfinishedIsReused) {
+  m_folder.Write(PosixFileSystem::kUnfinishedName, std::string(1000, 'x'));
+  m_files.Replace(Path("a.dat"), "new");
+  EXPECT_EQ(ReadFile(m_folder / "a.dat"), "new");
+  EXPECT_THAT(Names(), ElementsAre("a.dat"));
+}
+
+TEST_F(PosixFileSystemTest, ALinkInPlaceOfTheUnfinishedFileIsNotWrittenThrough) {
+  const std::string document = m_folder.Write("document", "the user's");
+  fs::create_symlink(document, Unfinished());
+  m_files.Replace(Path("a.dat"), "new");
+  EXPECT_EQ(ReadFile(document), "the user's");
+  EXPECT_EQ(ReadFile(m_folder / "a.dat"), "new");
+}
+
+TEST_F(PosixFileSystemTest, RemovingAFolderClearsWhatAKillLeftUnfinished) {
+  m_folder.Write("day/" + std::string(PosixFileSystem::kUnfinishedName), "half");
+  m_files.RemoveFolder(Path("day"));
+  EXPECT_FALSE(fs::exists(m_folder / "day"));
+}
+
+TEST_F(PosixFileSystemTest, AFolderThatHoldsAFileIsNotRemoved) {
+  const std::string native = m_folder.Write("day/a.lnk", "bytes");
+  EXPECT_EQ(ErrorOf(Path("day"), [&] { m_files.RemoveFolder(Path("day")); }), kPathFileAccess);
+  EXPECT_EQ(ReadFile(native), "bytes");
+}
+
+TEST_F(PosixFileSystemTest, ALinkToAFolderIsNotRemovedAsAFolder) {
+  const std::string elsewhere = m_folder.Write("elsewhere/" + std::string(PosixFileSystem::kUnfinishedName), "half");
+  fs::create_symlink(m_folder / "elsewhere", m_folder / "day");
+  EXPECT_EQ(ErrorOf(Path("day"), [&] { m_files.RemoveFolder(Path("day")); }), kPathNotFound);
+  EXPECT_TRUE(fs::exists(elsewhere));
+}
+
+TEST_F(PosixFileSystemTest, ASymbolicLinkIsReportedAsOne) {
+  m_folder.Write("file", "bytes");
+  fs::create_symlink(m_folder / "file", m_folder / "link");
+  fs::create_symlink(m_folder / "nothing", m_folder / "dangling");
+  EXPECT_EQ(m_files.Status(Path("link"))->kind, EntryKind::Link);
+  EXPECT_EQ(m_files.Status(Path("dangling"))->kind, EntryKind::Link);
+  for (const auto& entry : m_files.List(m_folder.Path()))
+    EXPECT_EQ(entry.kind, entry.name == "file" ? EntryKind::File : EntryKind::Link) << entry.name;
+}
+
+TEST_F(PosixFileSystemTest, ASymbolicLinkIsNotReadCopiedOrAppendedThrough) {
+  const std::string document = m_folder.Write("document", "the user's");
+  fs::create_symlink(document, m_folder / "link");
+  EXPECT_EQ(ErrorOf(Path("link"), [&] { m_files.Read(Path("link"), 100); }), kPathFileAccess);
+  EXPECT_EQ(ErrorOf(Path("link"), [&] { m_files.Copy(Path("link"), Path("copy")); }), kPathFileAccess);
+  EXPECT_EQ(ErrorOf(Path("link"), [&] { m_files.Append(Path("link"), "more"); }), kPathFileAccess);
+  EXPECT_EQ(ReadFile(document), "the user's");
+}
+
+TEST_F(PosixFileSystemTest, ReplacingOrDeletingASymbolicLinkLeavesItsTarget) {
+  const std::string document = m_folder.Write("document", "the user's");
+  fs::create_symlink(document, m_folder / "replaced");
+  fs::create_symlink(document, m_folder / "deleted");
+  m_files.Replace(Path("replaced"), "new");
+  m_files.Delete(Path("deleted"));
+  EXPECT_EQ(ReadFile(document), "the user's");
+  EXPECT_EQ(m_files.Status(Path("replaced"))->kind, EntryKind::File);
+  EXPECT_FALSE(m_files.Status(Path("deleted")));
+}
+
+TEST_F(PosixFileSystemTest, AFolderIsNotListedThroughASymbolicLink) {
+  m_folder.Write("elsewhere/document", "the user's");
+  fs::create_symlink(m_folder / "elsewhere", m_folder / "link");
+  EXPECT_THAT(m_files.List(Path("link")), IsEmpty());
+}
+
+TEST_F(PosixFileSystemTest, ANamedPipeIsRefusedWithoutWaiting) {
+  ASSERT_EQ(mkfifo((m_folder / "pipe").c_str(), 0666), 0);
+  EXPECT_EQ(ErrorOf(Path("pipe"), [&] { m_files.Read(Path("pipe"), 100); }), kPathFileAccess);
+  EXPECT_EQ(ErrorOf(Path("pipe"), [&] { m_files.Copy(Path("pipe"), Path("copy")); }), kPathFileAccess);
+  EXPECT_NE(ErrorOf(Path("pipe"), [&] { m_files.Append(Path("pipe"), "text"); }), 0);
+  EXPECT_EQ(m_files.Status(Path("pipe"))->kind, EntryKind::Other);
+}
+
+TEST_F(PosixFileSystemTest, AFullDiskLeavesTheOldFileWholeAndNoUnfinishedOne) {
+  m_folder.Write("a.dat", "old");
+  m_folder.Write("source", std::string(1000, 's'));
+  {
+    const FullDisk disk(100);
+    const std::string bytes(1000, 'x');
+    EXPECT_EQ(ErrorOf(Path("a.dat"), [&] { m_files.Replace(Path("a.dat"), bytes); }), kDiskFull);
+    EXPECT_EQ(ErrorOf(Path("a.dat"), [&] { ReplaceUnflushed(Path("a.dat"), bytes); }), kDiskFull);
+    EXPECT_EQ(ErrorOf(Path("a.dat"), [&] { m_files.Copy(Path("source"), Path("a.dat")); }), kDiskFull);
+  }
+  EXPECT_EQ(ReadFile(m_folder / "a.dat"), "old");
+  EXPECT_THAT(Names(), UnorderedElementsAre("a.dat", "source"));
+}
+
+TEST_F(PosixFileSystemTest, AnUnreadableFolderIsNotAnEmptyOne) {
+  fs::permissions(m_folder.Native(), fs::perms::all);
+  fs::create_directory(m_folder / "private");
+  fs::permissions(m_folder / "private", fs::perms::none);
+  const UnprivilegedUser user;
+  EXPECT_EQ(ErrorOf(Path("private"), [&] { m_files.List(Path("private")); }), kPermissionDenied);
+}
+
+TEST_F(PosixFileSystemTest, AFolderThatMayNotBeWrittenRefusesEveryChange) {
+  m_folder.Write("a.dat", "old");
+  fs::permissions(m_folder.Native(), fs::perms(0555));
+  fs::permissions(m_folder / "a.dat", fs::perms(0644));
+  {
+    const UnprivilegedUser user;
+    EXPECT_EQ(ErrorOf(Path("a.dat"), [&] { m_files.Replace(Path("a.dat"), "new"); }), kPermissionDenied);
+    EXPECT_EQ(ErrorOf(Path("a.dat"), [&] { m_files.Delete(Path("a.dat")); }), kPermissionDenied);
+    EXPECT_EQ(ErrorOf(Path("day"), [&] { m_files.CreateFolder(Path("day")); }), kPermissionDenied);
+  }
+  fs::permissions(m_folder.Native(), fs::perms(0755));
+  EXPECT_EQ(ReadFile(m_folder / "a.dat"), "old");
+}
+
+TEST_F(PosixFileSystemTest, AFolderThatIsNotThereListsNothing) {
+  m_folder.Write("file", "");
+  EXPECT_THAT(m_files.List(Path("missing")), IsEmpty());
+  EXPECT_THAT(m_files.List(Path("file")), IsEmpty());
+  EXPECT_THAT(m_files.List("1:\\missing"), IsEmpty());
+}
+
+TEST_F(PosixFileSystemTest, AListingTellsHiddenFilesAndFolders) {
+  m_folder.Write(".hidden", "");
+  fs::create_directory(m_folder / "folder");
+  for (const auto& entry : m_files.List(m_folder.Path())) {
+    EXPECT_EQ(entry.hidden, entry.name == ".hidden");
+    EXPECT_EQ(entry.kind, entry.name == "folder" ? EntryKind::Folder : EntryKind::File);
+  }
+}
+
+TEST_F(PosixFileSystemTest, NamesThatWindowsDoesNotKnowLeadBackToTheirFiles) {
+  m_folder.Write("back\\slash \"quoted\"", "bytes");
+  ASSERT_EQ(Names().size(), 1U);
+  EXPECT_EQ(m_files.Read(Path(Names()[0]), 100).bytes, "bytes");
+}
+
+TEST_F(PosixFileSystemTest, ANameThatTheProgramCannotSpellIsNotListed) {
+  m_folder.Write("a\xFF.lnk", "bytes");
+  m_folder.Write("good.lnk", "bytes");
+  EXPECT_THAT(Names(), ElementsAre("good.lnk"));
+}
+
+TEST_F(PosixFileSystemTest, ReadingStopsAtTheLimit) {
+  m_folder.Write("a.dat", "0123456789");
+  EXPECT_EQ(m_files.Read(Path("a.dat"), 4).bytes, "0123");
+  EXPECT_EQ(m_files.Read(Path("a.dat"), 10).bytes, "0123456789");
+  EXPECT_EQ(m_files.Read(Path("a.dat"), 11).bytes, "0123456789");
+  EXPECT_EQ(m_files.Read(Path("a.dat"), 0).bytes, "");
+}
+
+TEST_F(PosixFileSystemTest, AFileWhoseSizeIsUnknownIsReadToItsEnd) {
+  EXPECT_GT(m_files.Read("Z:\\proc\\self\\status", 100'000).bytes.size(), 100U);
+}
+
+TEST_F(PosixFileSystemTest, TextIsAddedToTheEnd) {
+  m_files.Append(Path("log"), "one\n");
+  m_files.Append(Path("log"), "two\n");
+  EXPECT_EQ(ReadFile(m_folder / "log"), "one\ntwo\n");
+}
+
+TEST_F(PosixFileSystemTest, AnExistingFolderIsNotMadeAgain) {
+  m_files.CreateFolder(Path("day"));
+  EXPECT_EQ(ErrorOf(Path("day"), [&] { m_files.CreateFolder(Path("day")); }), kFileAlreadyExists);
+}
+
+TEST_F(PosixFileSystemTest, APathOnADriveThatIsNotThereIsNotFound) {
+  EXPECT_EQ(ErrorOf("1:\\a", [&] { m_files.Read("1:\\a", 1); }), kPathNotFound);
+  EXPECT_EQ(ErrorOf("", [&] { m_files.Replace("", "x"); }), kPathNotFound);
+  EXPECT_FALSE(m_files.Status("1:\\a"));
+}
+
+TEST_F(PosixFileSystemTest, AnErrorNamesThePathOfTheProgramNotTheNativeOne) {
+  const std::string path = Path("missing\\a.dat");
+  EXPECT_EQ(ErrorOf(path, [&] { m_files.Replace(path, "x"); }), kFileNotFound);
+  EXPECT_EQ(ErrorOf(path, [&] { ReplaceUnflushed(path, "x"); }), kFileNotFound);
+}
+
+TEST_F(PosixFileSystemTest, AFileInPlaceOfAFolderIsReplacedByNothing) {
+  fs::create_directory(m_folder / "a.dat");
+  EXPECT_EQ(ErrorOf(Path("a.dat"), [&] { m_files.Replace(Path("a.dat"), "x"); }), kPathFileAccess);
+  EXPECT_THAT(Names(), ElementsAre("a.dat"));
+}
+
+TEST_F(PosixFileSystemTest, ATimeBeyondTheReachOfNanosecondsIsTheLastOne) {
+  const std::string native = m_folder.Write("a.lnk", "bytes");
+  SetWritten(native, "2300-01-01 00:00:00");
+  struct stat status {};
+  ASSERT_EQ(stat(native.c_str(), &status), 0);
+  if (status.st_mtim.tv_sec < 10'000'000'000) GTEST_SKIP() << "this disk does not know the year 2300";
+  m_files.Copy(Path("a.lnk"), Path("b.lnk"));
+  const auto written = m_files.Status(Path("a.lnk"))->written;
+  EXPECT_EQ(written.nanoseconds, INT64_MAX);
+  EXPECT_EQ(m_files.Status(Path("b.lnk"))->written.local, written.local);
+}
+
+TEST(LocalTime, TimesBeyondTheCalendarAreMovedToItsEnds) {
+  const auto year = [](std::int64_t seconds) {
+    return int(std::chrono::year_month_day(std::chrono::floor<std::chrono::days>(LocalTime(seconds))).year());
+  };
+  EXPECT_NEAR(year(INT64_MIN), 1601, 1);
+  EXPECT_NEAR(year(INT64_MAX), 9999, 1);
+}
+
+}  // namespace
+}  // namespace dayvane::files

@@ -1,0 +1,129 @@
+#include <filesystem>
+#include <gmock/gmock.h>
+
+#include "base/Error.h"
+#include "linux/files/PosixFileSystem.h"
+#include "linux/links/ShellLinkFile.h"
+#include "linux/links/ShellLinkFormat.h"
+#include "tests/linux/links/LinkBuilder.h"
+#include "tests/support/TemporaryFolder.h"
+
+namespace dayvane::links {
+namespace {
+
+using platform::ShellLink;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+using testing::SetWritten;
+using ::testing::SizeIs;
+
+class ShellLinkFile : public ::testing::Test {
+ protected:
+  std::string Path(const std::string& name) const { return m_folder.Path() + "\\" + name; }
+
+  int ErrorOfReading(const std::string& name) {
+    try {
+      m_reader.Read(Path(name));
+    } catch (const Error& error) {
+      EXPECT_EQ(error.Path(), Path(name));
+      return error.Number();
+    }
+    return 0;
+  }
+
+  testing::TemporaryFolder m_folder;
+  files::PosixFileSystem m_files;
+  std::vector<std::string> m_events;
+  ShellLinkReader m_reader{m_files, [this](const std::string& text) { m_events.push_back(text); }};
+};
+
+TEST_F(ShellLinkFile, ALinkIsReadWithTheMomentItWasWritten) {
+  const std::string native = m_folder.Write("a.lnk", testing::TypicalLink());
+  SetWritten(native, "2026-11-20 14:03:27", 123'456'789);
+  const auto read = m_reader.Read(Path("a.lnk"));
+  EXPECT_EQ(read.link, testing::TypicalFields());
+  EXPECT_EQ(read.written, m_files.Status(Path("a.lnk"))->written);
+  EXPECT_EQ(read.written.nanoseconds % 1'000'000'000, 123'456'789);
+  EXPECT_THAT(m_events, IsEmpty());
+}
+
+TEST_F(ShellLinkFile, AFileThatIsNoLinkIsEmptyAndReportedOnce) {
+  m_folder.Write("a.lnk", "no link");
+  for (int poll = 0; poll < 3; ++poll) EXPECT_EQ(m_reader.Read(Path("a.lnk")).link, ShellLink{});
+  EXPECT_THAT(m_events, ElementsAre("ShellLinkReader.Read: Not a shell link: " + Path("a.lnk")));
+}
+
+TEST_F(ShellLinkFile, AFileOfNoBytesIsNoLink) {
+  m_folder.Write("a.lnk", "");
+  EXPECT_EQ(m_reader.Read(Path("a.lnk")).link, ShellLink{});
+  EXPECT_THAT(m_events, SizeIs(1));
+}
+
+TEST_F(ShellLinkFile, AFileThatIsNoLinkIsReportedAgainWhenItIsWrittenAnew) {
+  const std::string native = m_folder.Write("a.lnk", "no link");
+  SetWritten(native, "2026-11-20 14:03:27", 1);
+  m_reader.Read(Path("a.lnk"));
+  SetWritten(native, "2026-11-20 14:03:27", 2);
+  m_reader.Read(Path("a.lnk"));
+  m_reader.Read(Path("a.lnk"));
+  EXPECT_THAT(m_events, SizeIs(2));
+}
+
+TEST_F(ShellLinkFile, EveryFileThatIsNoLinkIsReported) {
+  m_folder.Write("a.lnk", "no link");
+  m_folder.Write("b.lnk", "no link");
+  m_reader.Read(Path("a.lnk"));
+  m_reader.Read(Path("b.lnk"));
+  EXPECT_THAT(m_events, SizeIs(2));
+}
+
+TEST_F(ShellLinkFile, NoMoreFilesAreReportedThanAreRemembered) {
+  for (std::size_t i = 0; i <= ShellLinkReader::kMostReported; ++i) m_folder.Write(std::to_string(i) + ".lnk", "");
+  for (int poll = 0; poll < 2; ++poll)
+    for (std::size_t i = 0; i <= ShellLinkReader::kMostReported; ++i) m_reader.Read(Path(std::to_string(i) + ".lnk"));
+  EXPECT_THAT(m_events, SizeIs(ShellLinkReader::kMostReported));
+}
+
+TEST_F(ShellLinkFile, AFileOfAGigabyteIsNoLink) {
+  const std::string native = m_folder.Write("a.lnk", testing::TypicalLink());
+  std::filesystem::resize_file(native, std::uintmax_t{1} << 30);
+  EXPECT_EQ(m_reader.Read(Path("a.lnk")).link, ShellLink{});
+  EXPECT_THAT(m_events, SizeIs(1));
+}
+
+TEST_F(ShellLinkFile, TheLargestLinkIsReadAndOneByteMoreIsNot) {
+  const std::string native = m_folder.Write("a.lnk", testing::TypicalLink());
+  std::filesystem::resize_file(native, ShellLinkReader::kLargestLink);
+  EXPECT_EQ(m_reader.Read(Path("a.lnk")).link, testing::TypicalFields());
+  std::filesystem::resize_file(native, ShellLinkReader::kLargestLink + 1);
+  EXPECT_EQ(m_reader.Read(Path("a.lnk")).link, ShellLink{});
+}
+
+TEST_F(ShellLinkFile, AMissingFileIsTheFileSystemsError) {
+  EXPECT_EQ(ErrorOfReading("a.lnk"), kFileNotFound);
+  EXPECT_THAT(m_events, IsEmpty());
+}
+
+TEST_F(ShellLinkFile, AFolderIsTheFileSystemsError) {
+  std::filesystem::create_directory(m_folder / "a.lnk");
+  EXPECT_EQ(ErrorOfReading("a.lnk"), kPathFileAccess);
+  EXPECT_THAT(m_events, IsEmpty());
+}
+
+TEST_F(ShellLinkFile, AWrittenLinkIsReadBack) {
+  WriteShellLinkFile(Path("a.lnk"), testing::TypicalFields());
+  EXPECT_EQ(m_reader.Read(Path("a.lnk")).link, testing::TypicalFields());
+}
+
+TEST_F(ShellLinkFile, AWrittenLinkTakesThePlaceOfWhatWasThere) {
+  m_folder.Write("a.lnk", std::string(100'000, 'x'));
+  WriteShellLinkFile(Path("a.lnk"), testing::TypicalFields());
+  EXPECT_EQ(testing::ReadFile(m_folder / "a.lnk"), WriteShellLink(testing::TypicalFields()));
+}
+
+TEST_F(ShellLinkFile, ALinkForAFolderThatIsNotThereIsAnError) {
+  EXPECT_THROW(WriteShellLinkFile(Path("missing\\a.lnk"), {}), Error);
+}
+
+}  // namespace
+}  // namespace dayvane::links

@@ -2,7 +2,8 @@
 
 #include <QFontMetrics>
 #include <QListView>
-#include <algorithm>
+
+#include "linux/widgets/RowDelegate.h"
 
 namespace dayvane::widgets {
 
@@ -15,6 +16,7 @@ constexpr QSize kLargeIcon{32, 32};
 constexpr QSize kSmallIcon{16, 16};
 constexpr int kLinesBelowIcon = 2;
 constexpr int kPadding = 4;
+constexpr int kGap = 4;  ///< between cells
 
 // Cells grow with the user's font, never below these sizes, which suit the default one.
 constexpr QSize kLeastLargeCell{110, 64};
@@ -40,7 +42,7 @@ QListView::Flow FlowOf(ListStyle style, ListArrange arrange) {
 
 }  // namespace
 
-void SetIconStyle(QListView& view, ListStyle style, ListArrange arrange) {
+void SetIconStyle(QListView& view, RowDelegate& delegate, ListStyle style, ListArrange arrange) {
   const bool large = style == ListStyle::LargeIcons;
   const QFontMetrics font(view.font());
   view.setViewMode(large ? QListView::IconMode : QListView::ListMode);
@@ -51,7 +53,9 @@ void SetIconStyle(QListView& view, ListStyle style, ListArrange arrange) {
   view.setUniformItemSizes(true);
   view.setWordWrap(large);
   view.setIconSize(large ? kLargeIcon : kSmallIcon);
-  view.setGridSize(large ? LargeCell(font) : style == ListStyle::SmallIcons ? SmallCell(font) : QSize());
+  const QSize cell = large ? LargeCell(font) : SmallCell(font);
+  delegate.SetCell(cell - QSize(kGap, 0));
+  view.setGridSize(cell);
 }
 
 }  // namespace dayvane::widgets

@@ -33,6 +33,8 @@ QAbstractItemView& ListPresenter::CurrentView() {
 }
 
 void ListPresenter::SetUpViews() {
+  m_icons.setItemDelegate(&m_cellDelegate);
+  m_details.setItemDelegate(&m_rowDelegate);
   m_details.setUniformRowHeights(true);
   m_details.setRootIsDecorated(false);
   m_details.setAllColumnsShowFocus(true);
@@ -99,7 +101,7 @@ void ListPresenter::ShowStyle() {
   m_shownArrange = m_control.Arrange();
   const bool hadFocus = CurrentView().hasFocus();
   const bool icons = style == ListStyle::LargeIcons || style == ListStyle::SmallIcons || style == ListStyle::List;
-  if (icons) SetIconStyle(m_icons, style, m_control.Arrange());
+  if (icons) SetIconStyle(m_icons, m_cellDelegate, style, m_control.Arrange());
   setCurrentWidget(icons ? static_cast<QWidget*>(&m_icons) : &m_details);
   setFocusProxy(&CurrentView());
   if (hadFocus) CurrentView().setFocus();

@@ -10,6 +10,7 @@
 #include "linux/widgets/ClassicView.h"
 #include "linux/widgets/ControlLink.h"
 #include "linux/widgets/ListModel.h"
+#include "linux/widgets/RowDelegate.h"
 #include "linux/widgets/ScrollMemory.h"
 
 namespace dayvane::widgets {
@@ -52,6 +53,8 @@ class ListPresenter : public QStackedWidget {
   controls::ListView& m_control;
   ListModel m_model;
   QItemSelectionModel m_selection;
+  RowDelegate m_rowDelegate;
+  RowDelegate m_cellDelegate;
   ClassicView<QListView> m_icons;
   ClassicView<QTreeView> m_details;
   ScrollMemory m_scroll;

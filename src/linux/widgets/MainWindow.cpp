@@ -1,8 +1,10 @@
 #include "linux/widgets/MainWindow.h"
 
 #include "linux/widgets/Lengths.h"
+#include "linux/widgets/PictureFiles.h"
 #include "linux/widgets/ScreenFit.h"
 #include "shell/FMain.h"
+#include "shell/MResourceConstants.h"
 
 namespace dayvane::widgets {
 
@@ -28,6 +30,7 @@ MainWindow::MainWindow(FMain& main, const Icons& icons, const platform::DateConv
       m_statusBar(main.sbrMain),
       m_timer(main.tmrMain),
       m_form(main.form, *this, m_client) {
+  setWindowIcon(PictureIcon(kNormalIcon));
   BuildClient();
   NameForScreenReaders();
   Design();

@@ -31,6 +31,7 @@ TreePresenter::~TreePresenter() {
 void TreePresenter::SetUpView() {
   setHeaderHidden(true);
   setUniformRowHeights(true);
+  setItemDelegate(&m_rowDelegate);
   setModel(&m_model);
   setSelectionModel(&m_selection);
 }

@@ -8,6 +8,7 @@
 #include "controls/TreeView.h"
 #include "linux/widgets/ClassicView.h"
 #include "linux/widgets/ControlLink.h"
+#include "linux/widgets/RowDelegate.h"
 #include "linux/widgets/ScrollMemory.h"
 #include "linux/widgets/TreeModel.h"
 
@@ -41,6 +42,7 @@ class TreePresenter : public ClassicView<QTreeView> {
   controls::TreeView& m_control;
   TreeModel m_model;
   QItemSelectionModel m_selection;
+  RowDelegate m_rowDelegate;
   ScrollMemory m_scroll;
   std::set<std::string> m_open;        ///< keys of open nodes
   std::set<std::string> m_knownRoots;  ///< roots that were opened once

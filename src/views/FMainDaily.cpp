@@ -108,7 +108,7 @@ void FMain::AddDocument(const std::string& nodeKey, const std::string& folder, c
   shortcut.SetFile(folder + "\\" + fileName);
   const int icon = DailyImageListIndex(shortcut.File(), shortcut.TargetFileName());
   auto& item = lvwDaily.Add(nodeKey + "\\" + fileName, fileName.substr(0, fileName.size() - 4), icon);
-  item.subItems = {shortcut.TargetClass(), shortcut.WorkingDirectory(),
+  item.subItems = {shortcut.TargetClass(), m_application.shellServices.DisplayPath(shortcut.WorkingDirectory()),
                    Format(shortcut.Modified(), "Short Time", m_application.desktop.dates)};
 }
 

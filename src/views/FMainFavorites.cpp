@@ -36,10 +36,11 @@ void FMain::RefreshFavorites() {
     // A damaged data file may hold one shortcut twice; the first record is the one that counts go to.
     if (lvwFavorites.Find("K" + shortcutFile) != nullptr) continue;
     auto& item = lvwFavorites.Add("K" + shortcutFile, name, FavoritesImageListIndex(shortcutFile, name));
-    item.subItems = {favorites::TextOf(record[favorites::kType]),
-                     text::ToLower(favorites::TextOf(record[favorites::kFolder])),
-                     DaysText(record[favorites::kDaysAccessed]),
-                     LastAccessedText(record[favorites::kLastAccessed], m_application.desktop.dates)};
+    item.subItems = {
+        favorites::TextOf(record[favorites::kType]),
+        m_application.shellServices.DisplayPath(text::ToLower(favorites::TextOf(record[favorites::kFolder]))),
+        DaysText(record[favorites::kDaysAccessed]),
+        LastAccessedText(record[favorites::kLastAccessed], m_application.desktop.dates)};
   }
   m_oFavorites->SortAgain();
   lvwFavorites.SetSelectedItem(lvwFavorites.Find(selectedKey));

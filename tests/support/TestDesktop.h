@@ -80,10 +80,11 @@ class TestShell : public platform::Shell {
   int Open(const std::string& target, const std::string& workingDirectory, std::int32_t showCommand) override;
   void Run(const std::string& commandLine) override { commandLines.push_back(commandLine); }
   std::string WindowsFolder() override { return "C:\\WINDOWS"; }
-  std::string DisplayPath(const std::string& path) override { return path; }
+  std::string DisplayPath(const std::string& path) override { return displayPath(path); }
 
   std::string recentFolder;
   std::function<void()> refresh = [] {};
+  std::function<std::string(const std::string&)> displayPath = [](const std::string& path) { return path; };
   int captured = 0;
   int openResult = 42;
   std::vector<std::string> opened;  ///< "target|working folder|show command"

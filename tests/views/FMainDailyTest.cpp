@@ -103,6 +103,14 @@ TEST_F(DailyViewTest, SelectingADateSelectsItsNodeAndListsItsDocuments) {
   EXPECT_THAT(row.subItems, ElementsAre("OpenDocument Text", "Z:\\home\\ana", "10:07"));
 }
 
+TEST_F(DailyViewTest, PathsAreShownAsAPersonOfTheDesktopReadsThem) {
+  desktop.shell.displayPath = [](const std::string& path) { return "shown " + path; };
+  File("2026/May/05", "Z:\\home\\ana\\Report.odt", "2026-05-05 10:07:00");
+  Load();
+  window.SelectDate(Date::Of(2026, 5, 5));
+  EXPECT_THAT(ColumnOf(window.lvwDaily, 2), ElementsAre("shown Z:\\home\\ana"));
+}
+
 TEST_F(DailyViewTest, SelectingADateWithoutAFolderIsReportedAndLeavesTheList) {
   File("2026/May/05", "Z:\\a.odt", "2026-05-05 10:00:00");
   Load();

@@ -1,7 +1,7 @@
 #include "linux/widgets/MainWindow.h"
 
+#include "linux/Pictures.h"
 #include "linux/widgets/Lengths.h"
-#include "linux/widgets/PictureFiles.h"
 #include "linux/widgets/ScreenFit.h"
 #include "shell/FMain.h"
 #include "shell/MResourceConstants.h"

@@ -1,5 +1,6 @@
 #include "app/Date.h"
 
+#include <algorithm>
 #include <array>
 #include <optional>
 #include <vector>
@@ -87,6 +88,28 @@ const Token* TokenAt(std::string_view pattern) {
   return nullptr;
 }
 
+/// Removes one character of literal text, or one text in apostrophes, from the pattern and returns what it stands for.
+std::string TakeLiteralPiece(std::string_view& pattern) {
+  std::string_view piece = pattern.substr(0, 1);
+  std::size_t length = 1;
+  if (piece == "'") {
+    const auto end = std::min(pattern.find('\'', 1), pattern.size());
+    length = std::min(end + 1, pattern.size());
+    piece = length == 2 ? piece : pattern.substr(1, end - 1);
+  }
+  std::string literal(piece);
+  pattern.remove_prefix(length);
+  return literal;
+}
+
+/// Removes everything before the next field of a date from the pattern and returns the text that it stands for.
+std::string TakeLiteral(std::string_view& pattern) {
+  std::string literal;
+  while (!pattern.empty() && std::string_view("dmy").find(pattern[0]) == std::string_view::npos)
+    literal += TakeLiteralPiece(pattern);
+  return literal;
+}
+
 const Token& MinutesToken() {
   for (const Token& token : kTokens)
     if (token.name == "nn") return token;
@@ -142,8 +165,7 @@ std::string Format(const Date& date, std::string_view pattern, const platform::D
   while (!pattern.empty()) {
     const Token* token = TokenAt(pattern);
     if (token == nullptr) {
-      out += pattern[0];
-      pattern.remove_prefix(1);
+      out += TakeLiteralPiece(pattern);
       continue;
     }
     pattern.remove_prefix(token->name.size());
@@ -168,17 +190,13 @@ DateParts SplitShortDate(std::string_view text, const platform::DateConventions&
   DateParts parts;
   std::string_view pattern = conventions.shortDate;
   const std::string_view whole = text;
+  std::string separator = TakeLiteral(pattern);
   for (int found = 0; found < 3; ++found) {
-    const auto field = pattern.find_first_of("dmy");
-    if (field == std::string_view::npos) FailNoDate(whole);
-    const char kind = pattern[field];
-    const auto fieldEnd = std::min(pattern.find_first_not_of(kind, field), pattern.size());
-    const std::string_view prefix = pattern.substr(0, field);
-    if (!text.starts_with(prefix)) FailNoDate(whole);
-    text.remove_prefix(prefix.size());
-    pattern.remove_prefix(fieldEnd);
-    const auto nextField = pattern.find_first_of("dmy");
-    const std::string_view separator = pattern.substr(0, std::min(nextField, pattern.size()));
+    if (pattern.empty() || !text.starts_with(separator)) FailNoDate(whole);
+    text.remove_prefix(separator.size());
+    const char kind = pattern[0];
+    pattern.remove_prefix(std::min(pattern.find_first_not_of(kind), pattern.size()));
+    separator = TakeLiteral(pattern);
     const auto end = separator.empty() ? text.size() : std::min(text.find(separator), text.size());
     const std::string_view value = text.substr(0, end);
     const auto number = kind == 'm' ? MonthNumber(value, conventions) : Number(value);

@@ -31,7 +31,7 @@ class Date {
   int Minute() const { return SecondOfDay() / 60 % 60; }
   int Second() const { return SecondOfDay() % 60; }
 
-  Date AddDays(int days) const;
+  Date AddDays(int count) const;
   Date Midnight() const;
 
   std::int64_t SecondsSinceDayZero() const { return m_seconds; }
@@ -48,8 +48,8 @@ class Date {
 };
 
 /// The date written with a pattern. Known are d, dd, m, mm, mmmm (full month name), yy, yyyy, h, hh, nn (minutes),
-/// ss and AM/PM; "Short Time" and "Short Date" stand for the user's own patterns; everything else is literal. An "mm"
-/// that follows "hh" means minutes.
+/// ss and AM/PM; "Short Time" and "Short Date" stand for the user's own patterns; everything else is literal, and so is
+/// a text in apostrophes ('' is one apostrophe). An "mm" that follows "hh" means minutes.
 std::string Format(const Date& date, std::string_view pattern, const platform::DateConventions& conventions);
 
 /// A month-first date text, "January/05/1998", "1/5/1998", or month and year alone, "1/98". The month is a number or a

@@ -9,10 +9,7 @@ PathParts SplitPath(std::string_view path) {
   const auto separator = path.rfind('\\');
   const auto nameStart = separator == std::string_view::npos ? 0 : separator + 1;
   parts.fileName = path.substr(nameStart);
-  if (separator != std::string_view::npos) {
-    const bool driveRoot = separator == 2 && path[1] == ':';
-    parts.folder = path.substr(0, driveRoot ? separator + 1 : separator);
-  }
+  if (separator != std::string_view::npos) parts.folder = path.substr(0, separator);
   const auto dot = parts.fileName.rfind('.');
   if (dot != std::string::npos) parts.extension = parts.fileName.substr(dot + 1);
   return parts;

@@ -12,7 +12,7 @@ namespace dayvane {
 /// The parts of a full path: "Z:\home\ana\Report.odt" has the folder "Z:\home\ana", the file name "Report.odt" and the
 /// extension "odt".
 struct PathParts {
-  std::string folder;     ///< without a trailing "\", but for a drive's root
+  std::string folder;     ///< without a trailing "\", so that folder + "\" + file name is the path again
   std::string fileName;   ///< with its extension
   std::string extension;  ///< without the "."
 };

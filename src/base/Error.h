@@ -22,6 +22,7 @@ enum ErrorNumber : int {
   kPathFileAccess = 75,
   kPathNotFound = 76,
   kObjectNotSet = 91,
+  kInvalidFileFormat = 321,
   kKeyMissing = 35001,       ///< a registry key or value that does not exist
   kElementNotFound = 35601,  ///< a collection has no element of that key
   kKeyNotUnique = 35602,     ///< a collection has an element of that key already

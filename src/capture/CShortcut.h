@@ -5,17 +5,18 @@
 
 #include "app/Application.h"
 #include "app/Date.h"
+#include "capture/DocumentClass.h"
 #include "platform/FileSystem.h"
 
 namespace dayvane {
 
 /// One shortcut file (".lnk") and what it points at. Setting the file reads everything; the rest are plain values
-/// afterwards.
+/// afterwards. Setting one object to many files is cheaper than an object for each: it reads each document class once.
 class CShortcut {
  public:
   static constexpr const char* ClassName = "CShortcut";
 
-  explicit CShortcut(Application& application) : m_application(application) {}
+  explicit CShortcut(Application& application);
 
   /// Reads the shortcut at a full path. Fails with the disk's error when it cannot be opened; a file that is no
   /// shortcut has empty fields.
@@ -51,10 +52,9 @@ class CShortcut {
   std::int32_t OpenDocument() const;
 
  private:
-  void ReadDates();
   void ReadLinkFields();
+  void ReadDates();
   void ReadTargetClass();
-  void ReadOpenCommand(const std::string& commandLine);
 
   Application& m_application;
   std::string m_file;
@@ -72,8 +72,8 @@ class CShortcut {
   std::int32_t m_iconIndex = 0;
   std::int32_t m_showCommand = 1;
   std::string m_targetClass;
-  std::string m_executable;          ///< path of the program that opens the target's class
-  std::string m_executableFileName;  ///< its name, the first letter upper case, the rest lower
+  DocumentClassReader m_classes;
+  const DocumentClass* m_class = nullptr;  ///< of the target; one of m_classes
 };
 
 }  // namespace dayvane

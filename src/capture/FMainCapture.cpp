@@ -41,8 +41,8 @@ void FMain::GetShortcuts() {
   Assert(!text::Trim(m_recentFolder).empty(), ".GetShortcuts: Recent folder is missing");
   m_application.shellServices.RefreshRecentFolder();
   const std::string prefix = m_recentFolder + "\\";
+  CShortcut shortcut(m_application);
   for (const auto& entry : Dir(m_application.desktop.files, prefix + "*.lnk", DirKinds::Files)) {
-    CShortcut shortcut(m_application);
     shortcut.SetFile(prefix + entry.name);
     ProcessShortcut(&shortcut);
   }
@@ -54,7 +54,7 @@ void FMain::ProcessShortcut(CShortcut* shortcut) {
   Assert(m_oFavorites != nullptr, ".ProcessShortcut: Favorites object is nothing");
   if (shortcut == nullptr || m_oFavorites == nullptr) throw Error(kObjectNotSet, "Object variable not set");
   const Date cutOff = m_application.Now().AddDays(-m_purgeAge);
-  const std::string destination = m_repository.DayFolder(shortcut->Modified()) + "\\" + shortcut->FileName();
+  const std::string destination = filing::DayFolder(m_repository.DailyPath(), *shortcut) + "\\" + shortcut->FileName();
   switch (filing::Decide(m_application.desktop.files, *shortcut, destination, cutOff)) {
     case filing::Decision::TooOld:
     case filing::Decision::Unchanged:

@@ -14,6 +14,10 @@ Decision Decide(platform::FileSystem& files, const CShortcut& shortcut, const st
   return copy->written == shortcut.LastWritten() ? Decision::Unchanged : Decision::Replace;
 }
 
+std::string DayFolder(const std::string& dailyPath, const CShortcut& shortcut) {
+  return dailyPath + "\\" + shortcut.Year() + "\\" + shortcut.Month() + "\\" + shortcut.Day();
+}
+
 void CreateDayFolder(platform::FileSystem& files, const std::string& dailyPath, const CShortcut& shortcut) {
   std::string folder = dailyPath;
   for (const std::string* part : {&shortcut.Year(), &shortcut.Month(), &shortcut.Day()}) {

@@ -20,6 +20,9 @@ enum class Decision {
 Decision Decide(platform::FileSystem& files, const CShortcut& shortcut, const std::string& destination,
                 const Date& cutOff);
 
+/// The folder of the shortcut's day below the repository's root.
+std::string DayFolder(const std::string& dailyPath, const CShortcut& shortcut);
+
 /// Makes the folders of the shortcut's day below the repository's root; those that exist are no error. Fails with
 /// kPathFileAccess when one of them is no folder: a link there could lead out of the repository.
 void CreateDayFolder(platform::FileSystem& files, const std::string& dailyPath, const CShortcut& shortcut);

@@ -12,9 +12,12 @@
 
 namespace dayvane::controls {
 
+enum class Alignment { Left = 0, Right = 1 };
+
 struct ColumnHeader {
   std::string text;
   double width = 1440;  ///< twips
+  Alignment alignment = Alignment::Left;
 };
 
 /// One row: the text of the first column and those of the others.

@@ -1,5 +1,7 @@
 #include "fs/DirectoryWalker.h"
 
+#include "app/ShellServices.h"
+#include "base/Text.h"
 #include "fs/Dir.h"
 
 namespace dayvane {
@@ -12,28 +14,26 @@ void DirectoryWalker::WalkDirectoryTree(const std::string& sourceDirectory, cons
 }
 
 void DirectoryWalker::Walk(const std::string& sourceDirectory, const std::string& searchItem, long flags) {
-  ReportItems(sourceDirectory, searchItem, (flags & kWalkReportFolders) != 0);
+  // One listing serves the items and the sub-folders, and is complete before anything of it is reported or entered.
+  const auto entries = Dir(m_files, sourceDirectory + "*.*", DirKinds::FilesAndFolders);
+  ReportItems(entries, sourceDirectory, searchItem, (flags & kWalkReportFolders) != 0);
   if ((flags & kWalkNoSubFolders) != 0 || m_cancel) return;
-  for (const std::string& name : SubFolders(sourceDirectory)) {
-    Walk(sourceDirectory + name + "\\", searchItem, flags);
+  for (const auto& entry : entries) {
+    if (entry.kind != EntryKind::Folder || entry.name.starts_with('.')) continue;
+    Walk(sourceDirectory + entry.name + "\\", searchItem, flags);
     if (m_cancel) return;
   }
 }
 
-void DirectoryWalker::ReportItems(const std::string& sourceDirectory, const std::string& searchItem, bool folders) {
-  const auto kinds = folders ? DirKinds::FilesAndFolders : DirKinds::Files;
-  for (const auto& entry : Dir(m_files, sourceDirectory + searchItem, kinds)) {
-    if (entry.name.starts_with('.') || (folders && entry.kind != EntryKind::Folder)) continue;
+void DirectoryWalker::ReportItems(const std::vector<platform::DirectoryEntry>& entries,
+                                  const std::string& sourceDirectory, const std::string& searchItem, bool folders) {
+  const EntryKind wanted = folders ? EntryKind::Folder : EntryKind::File;
+  const std::string pattern = SplitPath(sourceDirectory + searchItem).fileName;
+  for (const auto& entry : entries) {
+    if (entry.kind != wanted || entry.name.starts_with('.') || !text::MatchesPattern(entry.name, pattern)) continue;
     ItemFound.Raise(sourceDirectory, entry.name, m_cancel);
     if (m_cancel) return;
   }
-}
-
-std::vector<std::string> DirectoryWalker::SubFolders(const std::string& sourceDirectory) const {
-  std::vector<std::string> names;
-  for (const auto& entry : Dir(m_files, sourceDirectory + "*.*", DirKinds::FilesAndFolders))
-    if (entry.kind == EntryKind::Folder && !entry.name.starts_with('.')) names.push_back(entry.name);
-  return names;
 }
 
 }  // namespace dayvane

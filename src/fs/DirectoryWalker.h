@@ -33,8 +33,8 @@ class DirectoryWalker {
 
  private:
   void Walk(const std::string& sourceDirectory, const std::string& searchItem, long flags);
-  void ReportItems(const std::string& sourceDirectory, const std::string& searchItem, bool folders);
-  std::vector<std::string> SubFolders(const std::string& sourceDirectory) const;
+  void ReportItems(const std::vector<platform::DirectoryEntry>& entries, const std::string& sourceDirectory,
+                   const std::string& searchItem, bool folders);
 
   platform::FileSystem& m_files;
   bool m_cancel = false;  ///< one for the whole walk, so that a cancel at any depth ends every level

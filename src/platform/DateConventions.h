@@ -11,7 +11,8 @@ struct DateConventions {
   std::array<std::string, 12> monthNames{"January", "February", "March",     "April",   "May",      "June",
                                          "July",    "August",   "September", "October", "November", "December"};
 
-  /// The short date: d, dd, m, mm, yy, yyyy and literal separators.
+  /// The short date: d, dd, m, mm, yy, yyyy and literal separators. Here and in the short time a text in apostrophes
+  /// is literal, whatever letters it holds.
   std::string shortDate = "m/d/yyyy";
 
   /// The short time: h, hh, nn (minutes), AM/PM (then the hours count from 1 to 12) and literal separators.

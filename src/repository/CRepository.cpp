@@ -39,8 +39,8 @@ CRepository::CRepository(Application& application)
   CreateRootFolder(application.desktop.files, m_dailyPath);
 }
 
-void CRepository::Assert(bool condition, const std::string& message) const {
-  m_application.asserts.Assert(condition, ClassName + message);
+void CRepository::Assert(bool condition, std::string_view message) const {
+  if (!condition) m_application.asserts.Assert(false, ClassName + std::string(message));
 }
 
 std::string CRepository::DayFolder(const Date& date) const {

@@ -57,7 +57,7 @@ class CRepository {
 
   bool SweepEmptyFolders(DirectoryWalker& counter, long counterFlags, FolderTest sweeps);
   void Count(const std::string& path, bool counts, const char* procedure);
-  void Assert(bool condition, const std::string& message) const;
+  void Assert(bool condition, std::string_view message) const;
 
   Application& m_application;
   std::string m_dailyPath;

@@ -42,11 +42,11 @@ void COptions::ReadValues() {
   bool failed = false;
   std::int32_t* const fields[] = {&m_favoritesThreshold, &m_purgeAge, &m_timerInterval};
   for (std::size_t i = 0; i < Defaults().size(); ++i) {
-    const auto& [name, text] = Defaults()[i];
-    failed = !IgnoreErrors([&] { *fields[i] = ToNumber(key->Value(name)); }) || failed;
+    const settings::NamedText& standard = Defaults()[i];
+    failed = !IgnoreErrors([&] { *fields[i] = ToNumber(key->Value(standard.name)); }) || failed;
     if (!failed) continue;
-    IgnoreErrors([&] { key->AddValue(name, text, platform::kRegistryString); });
-    *fields[i] = ToNumber(text);
+    IgnoreErrors([&] { key->AddValue(standard.name, standard.text, platform::kRegistryString); });
+    *fields[i] = ToNumber(standard.text);
   }
 }
 

@@ -26,8 +26,8 @@ FMain::~FMain() {
   m_application.activeForm = nullptr;
 }
 
-void FMain::Assert(bool condition, const std::string& message) const {
-  m_application.asserts.Assert(condition, kName + message);
+void FMain::Assert(bool condition, std::string_view message) const {
+  if (!condition) m_application.asserts.Assert(false, kName + std::string(message));
 }
 
 void FMain::BuildLists() {

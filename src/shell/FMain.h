@@ -114,7 +114,7 @@ class FMain {
   void File(CShortcut& shortcut, const std::string& destination);
 
   std::unique_ptr<CWaitCursor> ShowWait();
-  void Assert(bool condition, const std::string& message) const;
+  void Assert(bool condition, std::string_view message) const;
 
   Application& m_application;
   CRepository& m_repository;

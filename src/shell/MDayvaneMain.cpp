@@ -1,19 +1,27 @@
 #include "shell/MDayvaneMain.h"
 
+#include "app/IgnoreErrors.h"
 #include "app/ReportErrors.h"
 
 namespace dayvane {
 
-Program Main(const platform::Desktop& desktop, const std::string& programFolder,
-             const std::function<void(FMain&)>& present) {
+Program Main(const platform::Desktop& desktop, const std::string& programFolder, bool alreadyRunning,
+             const Present& present) {
   Program program;
+  if (alreadyRunning) {
+    IgnoreErrors([&] {
+      desktop.windowing.ShowMessage({ResourceString(kAlreadyLoaded), ThisProgram().title, platform::MessageButtons::Ok,
+                                     platform::MessageIcon::Information});
+    });
+    return program;
+  }
   program.application = std::make_unique<Application>(desktop, programFolder);
   Application& application = *program.application;
   ReportErrors(application, kStartingTheProgram, "MDayvane", "Main", [&] {
     program.repository = std::make_unique<CRepository>(application);
     desktop.windowing.ProcessPendingMessages();
     program.mainWindow = std::make_unique<FMain>(application, *program.repository);
-    present(*program.mainWindow);
+    present(*program.mainWindow, application);
     program.mainWindow->Form_Load();
   });
   return program;

@@ -17,10 +17,13 @@ struct Program {
   std::unique_ptr<FMain> mainWindow;
 };
 
-/// The entry point: creates the process-wide objects and loads the main window; the program then lives in the
-/// desktop's message loop. `programFolder` has no trailing "\". `present` is handed the main window before it loads, so
-/// that the desktop can show it. The result has no main window when starting failed; the user has been told why.
-Program Main(const platform::Desktop& desktop, const std::string& programFolder,
-             const std::function<void(FMain&)>& present);
+/// Shows the main window on the desktop before it loads.
+using Present = std::function<void(FMain& mainWindow, Application& application)>;
+
+/// The entry point: refuses to start beside another instance, creates the process-wide objects and loads the main
+/// window; the program then lives in the desktop's message loop. `programFolder` has no trailing "\". The result has no
+/// main window when the program is not to run; the user has been told why.
+Program Main(const platform::Desktop& desktop, const std::string& programFolder, bool alreadyRunning,
+             const Present& present);
 
 }  // namespace dayvane

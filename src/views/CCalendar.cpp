@@ -21,8 +21,8 @@ controls::Calendar::Day ToDay(const Date& date) {
 
 }  // namespace
 
-void CCalendar::Assert(bool condition, const std::string& message) const {
-  m_application.asserts.Assert(condition, ClassName + message);
+void CCalendar::Assert(bool condition, std::string_view message) const {
+  if (!condition) m_application.asserts.Assert(false, ClassName + std::string(message));
 }
 
 void CCalendar::SetCalendar(controls::Calendar* calendar) {

@@ -31,7 +31,7 @@ class CCalendar {
 
  private:
   void Calendar_DateChange(const Date& newDate);
-  void Assert(bool condition, const std::string& message) const;
+  void Assert(bool condition, std::string_view message) const;
 
   Application& m_application;
   controls::Calendar* m_calendar = nullptr;

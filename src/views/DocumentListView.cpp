@@ -29,8 +29,8 @@ Object& Set(Object* object) {
 DocumentListView::DocumentListView(Application& application, std::string className)
     : m_application(application), m_className(std::move(className)) {}
 
-void DocumentListView::Assert(bool condition, const std::string& message) const {
-  m_application.asserts.Assert(condition, m_className + message);
+void DocumentListView::Assert(bool condition, std::string_view message) const {
+  if (!condition) m_application.asserts.Assert(false, m_className + std::string(message));
 }
 
 controls::ListView& DocumentListView::List(const std::string& procedure) const {

@@ -43,7 +43,7 @@ class DocumentListView {
   /// Fail with kObjectNotSet, after the assertion, when the control is missing.
   controls::ListView& List(const std::string& procedure) const;
   controls::PictureBox& Container(const std::string& procedure) const;
-  void Assert(bool condition, const std::string& message) const;
+  void Assert(bool condition, std::string_view message) const;
   bool HasList() const { return m_listView != nullptr; }
 
   /// Lays the controls out inside the pane.

@@ -86,6 +86,29 @@ TEST(Date, AWrittenShortDateIsSplitBackIntoItsParts) {
   }
 }
 
+TEST(Date, ATextInApostrophesIsLiteral) {
+  const Date day = Date::Of(2026, 11, 7, 14, 3);
+  EXPECT_EQ(Format(day, "hh 'h' nn", kEnglish), "14 h 03");
+  EXPECT_EQ(Format(day, "d 'de' m 'of 'yyyy", kEnglish), "7 de 11 of 2026");
+}
+
+TEST(Date, TwoApostrophesAreOne) {
+  EXPECT_EQ(Format(Date::Of(2026, 11, 7), "d''yy", kEnglish), "7'26");
+}
+
+TEST(Date, AnApostropheThatIsNeverClosedQuotesTheRest) {
+  EXPECT_EQ(Format(Date::Of(2026, 11, 7), "d 'dmy", kEnglish), "7 dmy");
+}
+
+TEST(Date, QuotedLettersAreNoFieldsOfAShortDate) {
+  platform::DateConventions conventions;
+  conventions.shortDate = "'day' d 'de' m 'my' yyyy";
+  const DateParts parts = SplitShortDate("day 7 de 11 my 2026", conventions);
+  EXPECT_EQ(parts.day, 7);
+  EXPECT_EQ(parts.month, 11);
+  EXPECT_EQ(parts.year, 2026);
+}
+
 TEST(Date, DaysCountAcrossMonthsAndKeepTheTime) {
   EXPECT_EQ(Date::Of(2026, 3, 1, 10, 0).AddDays(-1), Date::Of(2026, 2, 28, 10, 0));
 }

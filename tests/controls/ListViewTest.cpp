@@ -1,8 +1,7 @@
-#include "controls/ListView.h"
-
 #include <gtest/gtest.h>
 
 #include "base/Error.h"
+#include "controls/ListView.h"
 
 namespace dayvane::controls {
 namespace {
@@ -65,7 +64,9 @@ TEST_F(ListViewTest, RemovingTheSelectedRowSelectsNothing) {
   EXPECT_EQ(list.Count(), 0U);
 }
 
-TEST_F(ListViewTest, AKeyThatIsNotThereCannotBeRemoved) { EXPECT_THROW(list.Remove("Knone"), Error); }
+TEST_F(ListViewTest, AKeyThatIsNotThereCannotBeRemoved) {
+  EXPECT_THROW(list.Remove("Knone"), Error);
+}
 
 TEST_F(ListViewTest, SelectionSurvivesASort) {
   for (const char* name : {"c", "a"}) Add(name, "");

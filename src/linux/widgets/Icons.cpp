@@ -1,6 +1,6 @@
 #include "linux/widgets/Icons.h"
 
-#include "linux/widgets/PictureFiles.h"
+#include "linux/Pictures.h"
 #include "shell/MResourceConstants.h"
 
 namespace dayvane::widgets {

@@ -3,8 +3,8 @@
 #include <QStyle>
 #include <array>
 
+#include "linux/Pictures.h"
 #include "linux/widgets/Lengths.h"
-#include "linux/widgets/PictureFiles.h"
 #include "shell/MResourceConstants.h"
 
 namespace dayvane::widgets {

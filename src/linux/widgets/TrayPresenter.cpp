@@ -1,6 +1,6 @@
 #include "linux/widgets/TrayPresenter.h"
 
-#include "linux/widgets/PictureFiles.h"
+#include "linux/Pictures.h"
 
 namespace dayvane::widgets {
 

@@ -35,7 +35,8 @@ std::chrono::local_seconds LocalTime(std::int64_t secondsSince1970);
 void ReplaceWithTime(const std::string& nativePath, std::string_view bytes, std::int64_t writtenNanoseconds);
 
 /// Puts a whole file in place, written now, without waiting for the disk: a kill leaves the old file or the new one,
-/// while after a power cut the file may be empty. For the many files that can be made again. `path` is the program's.
+/// while after a power cut the file may be empty. For the many files that can be made again; one that
+/// holds these bytes already is only given the time, because replacing makes the disk write. `path` is the program's.
 void ReplaceUnflushed(const std::string& path, std::string_view bytes);
 
 }  // namespace dayvane::files

@@ -16,8 +16,8 @@ constexpr const char* kKey = "color-scheme";
 constexpr guint32 kPreferDark = 1;
 
 /// What is inside any number of variants in one another; the portal's Read wraps twice, its signal once.
-Variant Unwrap(GVariant* boxed) {
-  Variant value(g_variant_ref(boxed));
+glib::Variant Unwrap(GVariant* boxed) {
+  glib::Variant value(g_variant_ref(boxed));
   while (g_variant_is_of_type(value.get(), G_VARIANT_TYPE_VARIANT)) value.reset(g_variant_get_variant(value.get()));
   return value;
 }
@@ -63,7 +63,7 @@ Appearance::Appearance()
                     const char* key = nullptr;
                     GVariant* value = nullptr;
                     g_variant_get(arguments, "(&s&sv)", &space, &key, &value);
-                    const Variant held(value);
+                    const glib::Variant held(value);
                     if (std::strcmp(space, kNamespace) == 0 && std::strcmp(key, kKey) == 0) Read(value);
                   }}) {}
 
@@ -78,13 +78,13 @@ void Appearance::SetDark(bool dark) {
 void Appearance::Ask() {
   m_settings.Call(kInterface, "Read", g_variant_new("(ss)", kNamespace, kKey), [this](GVariant* answer) {
     if (answer == nullptr || !g_variant_is_of_type(answer, G_VARIANT_TYPE("(v)"))) return;
-    const Variant boxed(g_variant_get_child_value(answer, 0));
+    const glib::Variant boxed(g_variant_get_child_value(answer, 0));
     Read(boxed.get());
   });
 }
 
 void Appearance::Read(GVariant* setting) {
-  const Variant value = Unwrap(setting);
+  const glib::Variant value = Unwrap(setting);
   if (g_variant_is_of_type(value.get(), G_VARIANT_TYPE_UINT32))
     SetDark(g_variant_get_uint32(value.get()) == kPreferDark);
 }

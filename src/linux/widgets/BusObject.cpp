@@ -24,7 +24,7 @@ BusObject::~BusObject() {
 }
 
 void BusObject::Call(const char* interface, const char* method, GVariant* arguments, Answer answered) {
-  const Variant held(g_variant_ref_sink(arguments));
+  const glib::Variant held(g_variant_ref_sink(arguments));
   if (m_connection == nullptr) return answered(nullptr);
   auto kept = std::make_unique<Answer>(std::move(answered));
   g_dbus_connection_call(m_connection.get(), m_address.name, m_address.path, interface, method, held.get(), nullptr,
@@ -53,11 +53,10 @@ void BusObject::Signalled(GDBusConnection*, const char*, const char*, const char
 
 void BusObject::Answered(GObject* connection, GAsyncResult* result, gpointer answered) {
   const std::unique_ptr<Answer> answer(static_cast<Answer*>(answered));
-  GError* error = nullptr;
-  const Variant results(g_dbus_connection_call_finish(G_DBUS_CONNECTION(connection), result, &error));
-  const std::unique_ptr<GError, decltype(&g_error_free)> held(error, &g_error_free);
+  glib::Failure failure;
+  const glib::Variant results(g_dbus_connection_call_finish(G_DBUS_CONNECTION(connection), result, failure.Slot()));
   // A call that was cancelled belongs to an object that is gone.
-  if (!g_error_matches(error, G_IO_ERROR, G_IO_ERROR_CANCELLED)) (*answer)(results.get());
+  if (!failure.Is(G_IO_ERROR, G_IO_ERROR_CANCELLED)) (*answer)(results.get());
 }
 
 void BusObject::Unsubscribe() {

@@ -1,22 +1,10 @@
 #pragma once
 
 #include <functional>
-#include <gio/gio.h>
-#include <memory>
-#include <string>
+
+#include "linux/GlibHandles.h"
 
 namespace dayvane::widgets {
-
-struct FreeGVariant {
-  void operator()(GVariant* variant) const { g_variant_unref(variant); }
-};
-using Variant = std::unique_ptr<GVariant, FreeGVariant>;
-
-struct FreeGObject {
-  void operator()(gpointer object) const { g_object_unref(object); }
-};
-template <class Object>
-using GObjectHolder = std::unique_ptr<Object, FreeGObject>;
 
 /// An object of another program on the session bus. Programs come and go; without a bus none ever comes.
 class BusObject {
@@ -54,8 +42,8 @@ class BusObject {
 
   Address m_address;
   Events m_events;
-  GObjectHolder<GCancellable> m_cancellable;
-  GObjectHolder<GDBusConnection> m_connection;  ///< while the object is there
+  glib::Object<GCancellable> m_cancellable;
+  glib::Object<GDBusConnection> m_connection;  ///< while the object is there
   guint m_subscription = 0;
   guint m_nameWatch = 0;
 };

@@ -1,5 +1,8 @@
 #include "linux/widgets/MainWindow.h"
 
+#include <QEvent>
+#include <algorithm>
+
 #include "linux/Pictures.h"
 #include "linux/widgets/Lengths.h"
 #include "linux/widgets/ScreenFit.h"
@@ -25,6 +28,7 @@ MainWindow::MainWindow(FMain& main, const Icons& icons, const platform::DateConv
       m_favorites(main.picFavorites),
       m_calendar(main.calMain, static_cast<Qt::DayOfWeek>(dates.firstDayOfWeek)),
       m_tree(main.tvwMain, icons),
+      m_splitter([this](int left) { SplitDailyPane(left); }),
       m_dailyList(main.lvwDaily, icons),
       m_favoritesList(main.lvwFavorites, icons),
       m_statusBar(main.sbrMain),
@@ -34,7 +38,8 @@ MainWindow::MainWindow(FMain& main, const Icons& icons, const platform::DateConv
   BuildClient();
   NameForScreenReaders();
   Design();
-  m_connections.push_back(main.form.Resize.ConnectScoped([this] { StretchBars(); }));
+  DesignForm();
+  m_connections.push_back(main.form.Resize.ConnectScoped([this] { LayOut(); }));
 }
 
 void MainWindow::BuildClient() {
@@ -50,6 +55,7 @@ void MainWindow::BuildDailyPane() {
   m_daily.Add(m_main.calMain, m_calendar);
   m_daily.Add(m_main.tvwMain, m_tree);
   m_daily.Add(m_main.lvwDaily, m_dailyList);
+  m_splitter.setParent(&m_daily);
 }
 
 void MainWindow::BuildFavoritesPane() {
@@ -71,19 +77,30 @@ void MainWindow::Design() {
   const QSize calendar = m_calendar.sizeHint();
   m_client.setMinimumSize(calendar.width() + kGap + kLeastListWidth,
                           calendar.height() + kGap + kLeastTreeHeight + statusHeight);
-  DesignForm();
 }
 
 void MainWindow::DesignDailyPane() {
   const QSize calendar = m_calendar.sizeHint();
-  MoveControl(m_main.picDaily, {kMargin, kMargin, 0, 0}, *this);
+  MoveControl(m_main.picDaily, {kMargin, kMargin, m_daily.width(), m_daily.height()}, *this);
   MoveControl(m_main.calMain, {{0, 0}, calendar}, *this);
   MoveControl(m_main.tvwMain, {0, calendar.height() + kGap, calendar.width(), 0}, *this);
   MoveControl(m_main.lvwDaily, {calendar.width() + kGap, 0, 0, 0}, *this);
 }
 
+void MainWindow::SplitDailyPane(int left) {
+  const int least = m_calendar.sizeHint().width();
+  const int most = std::max(m_daily.width() - kGap - kLeastListWidth, least);
+  left = std::clamp(left, least, most);
+  for (controls::Control* control :
+       {static_cast<controls::Control*>(&m_main.calMain), static_cast<controls::Control*>(&m_main.tvwMain)})
+    control->Move(control->Left(), control->Top(), ToTwips(left, *this), control->Height());
+  MoveControl(m_main.lvwDaily, {left + kGap, 0, 0, 0}, *this);
+  m_main.picDaily.Resize.Raise();  // the program gives the list what is left
+  LayOut();
+}
+
 void MainWindow::DesignFavoritesPane() {
-  MoveControl(m_main.picFavorites, {kMargin, kMargin, 0, 0}, *this);
+  MoveControl(m_main.picFavorites, {kMargin, kMargin, m_favorites.width(), m_favorites.height()}, *this);
   MoveControl(m_main.lvwFavorites, {}, *this);
 }
 
@@ -94,10 +111,18 @@ void MainWindow::DesignForm() {
   MoveControl(m_main.form, place, *this);
 }
 
-void MainWindow::StretchBars() {
+void MainWindow::LayOut() {
   const int statusHeight = m_statusBar.sizeHint().height();
   m_placement.PlaceAll();
   MoveControl(m_main.sbrMain, {0, m_client.height() - statusHeight, m_client.width(), statusHeight}, *this);
+  m_splitter.setGeometry(ToPixels(m_main.lvwDaily.Left(), *this) - kGap, 0, kGap, m_daily.height());
+}
+
+void MainWindow::changeEvent(QEvent* event) {
+  QMainWindow::changeEvent(event);
+  if (event->type() != QEvent::FontChange && event->type() != QEvent::StyleChange) return;
+  Design();
+  m_main.form.Resize.Raise();
 }
 
 }  // namespace dayvane::widgets

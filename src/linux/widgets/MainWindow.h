@@ -8,6 +8,7 @@
 #include "linux/widgets/Icons.h"
 #include "linux/widgets/ListPresenter.h"
 #include "linux/widgets/PanePresenter.h"
+#include "linux/widgets/PaneSplitter.h"
 #include "linux/widgets/StatusBarPresenter.h"
 #include "linux/widgets/TimerPresenter.h"
 #include "linux/widgets/TreePresenter.h"
@@ -27,6 +28,9 @@ class MainWindow : public QMainWindow {
 
   FormPresenter& Presenter() { return m_form; }
 
+ protected:
+  void changeEvent(QEvent* event) override;
+
  private:
   void BuildClient();
   void BuildDailyPane();
@@ -34,9 +38,10 @@ class MainWindow : public QMainWindow {
   void NameForScreenReaders();
   void Design();
   void DesignDailyPane();
+  void SplitDailyPane(int left);
   void DesignFavoritesPane();
   void DesignForm();
-  void StretchBars();
+  void LayOut();
 
   FMain& m_main;
   QWidget m_client;
@@ -44,6 +49,7 @@ class MainWindow : public QMainWindow {
   PanePresenter m_favorites;
   CalendarPresenter m_calendar;
   TreePresenter m_tree;
+  PaneSplitter m_splitter;
   ListPresenter m_dailyList;
   ListPresenter m_favoritesList;
   StatusBarPresenter m_statusBar;

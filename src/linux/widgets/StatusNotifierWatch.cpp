@@ -11,8 +11,8 @@ constexpr BusObject::Address kWatcher{kName, "/StatusNotifierWatcher", kName};
 
 bool IsTrue(GVariant* answer) {
   if (answer == nullptr || !g_variant_is_of_type(answer, G_VARIANT_TYPE("(v)"))) return false;
-  const Variant boxed(g_variant_get_child_value(answer, 0));
-  const Variant value(g_variant_get_variant(boxed.get()));
+  const glib::Variant boxed(g_variant_get_child_value(answer, 0));
+  const glib::Variant value(g_variant_get_variant(boxed.get()));
   return g_variant_is_of_type(value.get(), G_VARIANT_TYPE_BOOLEAN) && g_variant_get_boolean(value.get()) != FALSE;
 }
 

@@ -10,11 +10,11 @@
 namespace dayvane::widgets {
 namespace {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
 
 /// The program's window over a temporary folder, filled with two days of documents.
-class MainWindowTest : public testing::Test {
+class MainWindowTest : public ::testing::Test {
  protected:
   MainWindowTest() {
     m_program.desktop.OpenDocument("Z:\\home\\ana\\Old.odt", "2026-11-20 09:15:00");

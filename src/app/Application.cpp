@@ -15,7 +15,17 @@ ProgramInfo ThisProgram() {
   info.major = DAYVANE_VERSION_MAJOR;
   info.minor = DAYVANE_VERSION_MINOR;
   info.revision = DAYVANE_VERSION_REVISION;
+  info.homePage = DAYVANE_HOME_PAGE;
   return info;
+}
+
+std::string ProgramInfo::VersionText() const {
+  return ResourceString(kVersionPrefix) + std::to_string(major) + "." + std::to_string(minor) + "." +
+         std::to_string(revision);
+}
+
+platform::About ProgramInfo::About() const {
+  return {title, VersionText(), company, copyright, comments, homePage};
 }
 
 Application::Application(const platform::Desktop& theDesktop, std::string programFolder)

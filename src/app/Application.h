@@ -23,6 +23,10 @@ struct ProgramInfo {
   int major = 0;
   int minor = 0;
   int revision = 0;
+  std::string homePage;  ///< web address
+
+  std::string VersionText() const;  ///< "Version 1.0.12"
+  platform::About About() const;
 };
 
 /// This build's.

@@ -4,16 +4,11 @@
 #include <unordered_map>
 #include <vector>
 
+#include "platform/ShellIcons.h"
+
 namespace dayvane::controls {
 
-/// A picture as the desktop knows it: the names of icons to try in order, or a number of the program's own resources
-/// when there are none. Presenters draw it.
-struct Picture {
-  std::vector<std::string> iconNames;
-  int resource = 0;
-
-  friend bool operator==(const Picture&, const Picture&) = default;
-};
+using platform::Picture;
 
 /// Pictures numbered from 1, some of them with a key.
 class ImageList {

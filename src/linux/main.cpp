@@ -12,6 +12,7 @@
 #include "linux/EventSink.h"
 #include "linux/LinuxDateConventions.h"
 #include "linux/LinuxShell.h"
+#include "linux/LinuxShellIcons.h"
 #include "linux/ProgramFolder.h"
 #include "linux/SingleInstance.h"
 #include "linux/SystemClock.h"
@@ -76,12 +77,13 @@ int Run(const QApplication& qt) {
   const std::optional<SingleInstance> instance = SingleInstance::Acquire(SingleInstance::Folder(environment));
   files::PosixFileSystem files;
   LinuxShell shell(files, folders.data, report);
+  LinuxShellIcons shellIcons;
   LinuxRegistry registry(DefaultSettingsFile(), report);
   widgets::LinuxWindowing windowing;
   help::DesktopHelp help(folders.resources);
   SystemClock clock;
   const platform::DateConventions dates = DateConventionsOf();
-  const platform::Desktop desktop{files, shell, registry, windowing, help, clock, dates};
+  const platform::Desktop desktop{files, shell, shellIcons, registry, windowing, help, clock, dates};
 
   const widgets::Icons icons;
   std::optional<widgets::MainWindow> window;

@@ -6,6 +6,7 @@
 #include "platform/Help.h"
 #include "platform/Registry.h"
 #include "platform/Shell.h"
+#include "platform/ShellIcons.h"
 #include "platform/Windowing.h"
 
 namespace dayvane::platform {
@@ -14,6 +15,7 @@ namespace dayvane::platform {
 struct Desktop {
   FileSystem& files;
   Shell& shell;
+  ShellIcons& icons;
   Registry& registry;
   Windowing& windowing;
   Help& help;

@@ -20,6 +20,16 @@ struct Message {
   MessageIcon icon = MessageIcon::None;
 };
 
+/// What the about box shows.
+struct About {
+  std::string title;
+  std::string version;
+  std::string company;
+  std::string copyright;
+  std::string warning;  ///< the legal text
+  std::string homePage;
+};
+
 inline constexpr int kWmClose = 16;   ///< WM_CLOSE: asks the window to close
 inline constexpr int kWmUser = 1024;  ///< WM_USER: means nothing, but wakes the message loop
 
@@ -38,6 +48,9 @@ class Windowing {
 
   /// Shows a form and returns when it is hidden again.
   virtual void ShowModal(controls::Form& form) = 0;
+
+  /// Shows the about box, with the libraries that the desktop's part of the program uses.
+  virtual void ShowAbout(const About& about) = 0;
 
   /// Queues a message (kWmClose, kWmUser) for a form and returns at once.
   virtual void PostMessage(controls::Form& form, int message) = 0;

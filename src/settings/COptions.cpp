@@ -3,6 +3,7 @@
 #include "app/IgnoreErrors.h"
 #include "base/Error.h"
 #include "base/Text.h"
+#include "settings/FOptions.h"
 #include "settings/SettingsStore.h"
 
 namespace dayvane {
@@ -48,6 +49,23 @@ void COptions::ReadValues() {
     IgnoreErrors([&] { key->AddValue(standard.name, standard.text, platform::kRegistryString); });
     *fields[i] = ToNumber(standard.text);
   }
+}
+
+bool COptions::ChangeValues() {
+  ReadValues();
+  FOptions dialog(m_application);
+  dialog.SetFavoritesThreshold(m_favoritesThreshold);
+  dialog.SetPurgeAge(m_purgeAge);
+  dialog.SetTimerInterval(m_timerInterval);
+  if (!dialog.GetValues()) return false;
+  m_favoritesThreshold = dialog.FavoritesThreshold();
+  m_purgeAge = dialog.PurgeAge();
+  m_timerInterval = dialog.TimerInterval();
+  const auto key = settings::OpenSubtree(m_application.desktop.registry, kSubtree);
+  key->SetValue("Favorites Threshold", std::to_string(m_favoritesThreshold));
+  key->SetValue("Purge Age", std::to_string(m_purgeAge));
+  key->SetValue("Timer Interval", std::to_string(m_timerInterval));
+  return true;
 }
 
 }  // namespace dayvane

@@ -18,6 +18,9 @@ class COptions {
   /// is missing or no number, this one and those after it are set back to their defaults.
   void ReadValues();
 
+  /// Lets the user change the values in the dialog and stores them. Returns whether the user accepted.
+  bool ChangeValues();
+
   /// Whether ReadValues found no options and stored the defaults.
   bool DefaultOptionsUsed() const { return m_defaultOptionsUsed; }
 

@@ -2,6 +2,7 @@
 
 #include "app/ReportErrors.h"
 #include "settings/COptions.h"
+#include "shell/MHelpConstants.h"
 #include "shell/MResourceConstants.h"
 
 namespace dayvane {
@@ -16,9 +17,36 @@ controls::Picture ResourcePicture(int resource) {
 
 }  // namespace
 
-FMain::FMain(Application& application, CRepository& repository) : m_application(application), m_repository(repository) {
+FMain::FMain(Application& application, CRepository& repository)
+    : mnuFilePopup("&Dayvane", {{"S&uspend"}, {"&Resume"}, {"&Hide"}, {"-"}, {"E&xit"}}),
+      mnuViewArrangePopup("Arrange &Icons", {{"by &Name"}, {"by &Type"}, {"-"}, {"&Auto Arrange"}}),
+      mnuViewPopup("&View", {{"D&aily"},
+                             {"&Favorites"},
+                             {"D&esktop"},
+                             {"-"},
+                             {"Lar&ge Icons"},
+                             {"S&mall Icons"},
+                             {"&List"},
+                             {"&Details"},
+                             {"-"},
+                             {"Arrange &Icons", &mnuViewArrangePopup},
+                             {"-"},
+                             {"&Options"}}),
+      mnuToolsPopup("&Tools", {{"&Find..."}, {"-"}, {"&Explore"}, {"&Open"}, {"-"}, {"&Rebuild Favorites"}}),
+      mnuHelpPopup("&Help", {{"&Dayvane Help Topics"}, {"-"}, {"&Korvath Online"}, {"-"}, {"&About Dayvane"}}),
+      mnuTreeViewPopup("Tree View", {{"&Purge"}}),
+      mnuSysTrayPopup("Tray",
+                      {{"&Show"}, {"&Hide"}, {"S&uspend"}, {"&Resume"}, {"-"}, {"&About Dayvane"}, {"-"}, {"E&xit"}}),
+      mnuArrangeViewPopup("&View", {{"Lar&ge Icons"}, {"S&mall Icons"}, {"&List"}, {"&Details"}}),
+      mnuArrangeIconsPopup("Arrange &Icons", {{"by &Name"}, {"by &Type"}, {"-"}, {"&Auto Arrange"}}),
+      mnuListViewPopup(
+          "ListView",
+          {{"&Open"}, {"-"}, {"&View", &mnuArrangeViewPopup}, {"-"}, {"Arrange &Icons", &mnuArrangeIconsPopup}}),
+      m_application(application),
+      m_repository(repository) {
   application.activeForm = &form;
   BuildLists();
+  BuildToolbar();
   ConnectControls();
 }
 
@@ -37,14 +65,37 @@ void FMain::BuildLists() {
   lvwFavorites.SetColumns({{"Name"}, {"Type"}, {"Path"}, {"Days Accessed"}, {"Last Accessed"}});
   for (const int level : {kRepositoryPicture, kYearPicture, kMonthPicture, kDayPicture})
     imlMain.Add(ResourcePicture(level));
-  for (controls::ImageList* images : {&imlLarge, &imlSmall, &imlFavorites})
+  for (controls::ImageList* images : {&imlLarge, &imlSmall, &imlFavoritesLarge, &imlFavoritesSmall})
     images->Add(ResourcePicture(kDefaultDocumentPicture));
   lvwDaily.SetImages(&imlLarge, &imlSmall);
-  lvwFavorites.SetImages(&imlFavorites, &imlFavorites);
+  lvwFavorites.SetImages(&imlFavoritesLarge, &imlFavoritesSmall);
+}
+
+void FMain::BuildToolbar() {
+  static constexpr std::array<const char*, kToolbarButtons> kTips{
+      "Daily View",      "Favorites View",  "",          "Explore Folder", "Open Folder",      "Find Document",
+      "Large Icon View", "Small Icon View", "List View", "Detail View",    "Main Window Help", "What's This Help"};
+  for (std::size_t i = 0; i < sftToolbar.size(); ++i) sftToolbar[i].SetToolTipText(kTips[i]);
 }
 
 void FMain::ConnectControls() {
   tmrMain.Tick.Connect([this] { tmrMain_Timer(); });
+  tryMain.MouseUp.Connect([this](int button, int) { tryMain_MouseUp(button); });
+  tvwMain.MouseUp.Connect([this](int button, double x, double y) { tvwMain_MouseUp(button, x, y); });
+  for (std::size_t i = 0; i < picMain.size(); ++i)
+    picMain[i].Resize.Connect([this, i] { picMain_Resize(static_cast<int>(i)); });
+  for (std::size_t i = 0; i < sftToolbar.size(); ++i)
+    sftToolbar[i].Click.Connect([this, i] { sftToolbar_Click(static_cast<int>(i)); });
+  mnuFilePopup.Click.Connect([this](int index) { mnuFilePopup_Click(index); });
+  mnuViewPopup.Click.Connect([this](int index) { mnuViewPopup_Click(index); });
+  mnuToolsPopup.Click.Connect([this](int index) { mnuToolsPopup_Click(index); });
+  mnuHelpPopup.Click.Connect([this](int index) { mnuHelpPopup_Click(index); });
+  mnuTreeViewPopup.Click.Connect([this](int index) { mnuTreeViewPopup_Click(index); });
+  mnuSysTrayPopup.Click.Connect([this](int index) { mnuSysTrayPopup_Click(index); });
+  mnuListViewPopup.Click.Connect([this](int index) { mnuListViewPopup_Click(index); });
+  mnuArrangeViewPopup.Click.Connect([this](int index) { SetListView(index); });
+  mnuViewArrangePopup.Click.Connect([this](int index) { ArrangeIcons(index); });
+  mnuArrangeIconsPopup.Click.Connect([this](int index) { ArrangeIcons(index); });
   form.Activate.Connect([this] { Form_Activate(); });
   form.Resize.Connect([this] { Form_Resize(); });
   form.QueryUnload.Connect([this](bool& cancel, controls::UnloadMode mode) { Form_QueryUnload(cancel, mode); });
@@ -56,20 +107,24 @@ void FMain::Form_Load(const std::function<void()>& splashDone) {
     tryMain.SetPicture(kBusyIcon);
     tryMain.SetTipText(m_application.info.title);
     LoadResources();
+    SetHelpContextIDs();
     CreateViews();
+    ConnectViews();
     m_recentFolder = m_application.shellServices.SpecialFolderPath(platform::kRecentFolder);
     ReadOptions();
+    PurgeAtStart();
     CaptureAtStart();
     RefreshDaily();
     LoadFavorites();
     RefreshFavorites();
     RestoreWindow();
+    RestoreViews();
     RefreshStatusBar();
     tryMain.SetPicture(kNormalIcon);
     StartCapture();
     splashDone();
     m_application.desktop.windowing.ProcessPendingMessages();
-    SetVisible(true);
+    SetVisible(m_visibleAtStart);
   });
 }
 
@@ -82,19 +137,56 @@ void FMain::CreateViews() {
   m_oCalendar = std::make_unique<CCalendar>(m_application);
   m_oCalendar->DailyPath = m_repository.DailyPath();
   m_oCalendar->SetCalendar(&calMain);
-  m_oCalendar->DateChange.Connect([this](const Date& date) { m_oCalendar_DateChange(date); });
   m_oDaily = std::make_unique<CDaily>(m_application);
   m_oDaily->SetControls(&tvwMain, &lvwDaily, &picDaily);
-  m_oDaily->TreeViewNodeClick.Connect([this](controls::TreeNode& node) { m_oDaily_TreeViewNodeClick(node); });
   m_oFavorites = std::make_unique<CFavorites>(m_application);
   m_oFavorites->AppPath = m_application.folder;
   m_oFavorites->DailyFolder = "Daily";
   m_oFavorites->SetListControls(&lvwFavorites, &picFavorites);
 }
 
+void FMain::ConnectViews() {
+  m_oCalendar->DateChange.Connect([this](const Date& date) { m_oCalendar_DateChange(date); });
+  m_oDaily->TreeViewNodeClick.Connect([this](controls::TreeNode& node) { m_oDaily_TreeViewNodeClick(node); });
+  // The handlers of the Favorites list do exactly what the Daily list's do.
+  for (DocumentListView* view :
+       {static_cast<DocumentListView*>(m_oDaily.get()), static_cast<DocumentListView*>(m_oFavorites.get())}) {
+    view->DblClick.Connect([this](controls::ListItem& item) { m_oDaily_ListViewDblClick(item); });
+    view->ItemClick.Connect([this] { SetExploreOpen(true); });
+    view->PopupMenu.Connect([this](double x, double y) { m_oDaily_ListViewPopupMenu(x, y); });
+  }
+}
+
+void FMain::SetHelpContextIDs() {
+  calMain.SetWhatsThisHelpID(kHelpCalendar);
+  tvwMain.SetWhatsThisHelpID(kHelpDayTree);
+  lvwDaily.SetWhatsThisHelpID(kHelpDailyList);
+  lvwFavorites.SetWhatsThisHelpID(kHelpFavoritesList);
+  static constexpr std::array<int, kToolbarButtons> kIds{
+      kHelpDailyViewButton,     kHelpFavoritesViewButton,  0,
+      kHelpExploreFolderButton, kHelpOpenFolderButton,     0,
+      kHelpLargeIconViewButton, kHelpSmallIconViewButton,  kHelpListViewButton,
+      kHelpDetailViewButton,    kHelpMainWindowHelpButton, 0};
+  for (std::size_t i = 0; i < sftToolbar.size(); ++i) sftToolbar[i].SetWhatsThisHelpID(kIds[i]);
+}
+
+void FMain::Welcome() {
+  const std::string text = ResourceString(kWelcome) + "\r\n\r\n" + ResourceString(kWelcomeReviewSettings) + "\r\n" +
+                           ResourceString(kWelcomeByOptions) + "\r\n\r\n" + ResourceString(kWelcomeViewHelp);
+  const auto answer = m_application.desktop.windowing.ShowMessage(
+      {text, m_application.info.title, platform::MessageButtons::YesNo, platform::MessageIcon::Information});
+  if (answer == platform::MessageAnswer::Yes) DisplayHelp(kHelpFirstRun);
+}
+
+void FMain::PurgeAtStart() {
+  if (m_repository.PurgeOldShortcuts(m_purgeAge)) m_oFavorites->RebuildFavorites();
+  m_repository.PurgeEmptyFolders();
+}
+
 void FMain::ReadOptions() {
   COptions options(m_application);
   options.ReadValues();
+  if (options.DefaultOptionsUsed()) Welcome();
   m_favoritesThreshold = options.FavoritesThreshold();
   m_purgeAge = options.PurgeAge();
   m_timerInterval = options.TimerInterval();
@@ -117,12 +209,6 @@ void FMain::LoadFavorites() {
   }
   if (!m_justCounted.empty()) m_oFavorites->Save();
   m_justCounted.clear();
-}
-
-void FMain::RestoreWindow() {
-  m_oDaily->RestoreSettings();
-  m_oFavorites->RestoreSettings();
-  SetActiveView(kDailyView);
 }
 
 void FMain::StartCapture() {

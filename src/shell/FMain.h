@@ -17,6 +17,7 @@
 #include "controls/SimpleControls.h"
 #include "controls/TreeView.h"
 #include "repository/CRepository.h"
+#include "resources/StringTable.h"
 #include "shell/MResourceConstants.h"
 #include "views/CCalendar.h"
 #include "views/CDaily.h"
@@ -61,10 +62,26 @@ class FMain {
   void RefreshFavorites();
   int FavoritesImageListIndex(const std::string& shortcutFileName, const std::string& targetFileName);
 
-  // The window.
+  void PurgeDay(const controls::TreeNode* node);
+  void Explore();
+  void OpenFolder();
+
+  // A document of either list.
+  void OpenDocument(const controls::ListItem* item);
+  void RemoveLink(const controls::ListItem* item);
+
+  // The window. View and style are the numbers of the settings.
   void SetVisible(bool visible);
+  void SetActive(bool active);
   void SetActiveView(int view);
+  void SetListView(int style);
   void SetExploreOpen(bool enabled);
+  void SetOptions();
+  void ArrangeIcons(int index);
+  void Find();
+  void DisplayHelp(int context);
+  void DisplayKorvathOnline();
+  void DisplayAboutBox();
 
   /// Ends the wait cursor, if one is given, and shows the item count of the active view.
   void RefreshStatusBar(std::unique_ptr<CWaitCursor> waitCursor = nullptr);
@@ -85,20 +102,42 @@ class FMain {
   controls::ImageList imlMain;   ///< one picture per level of the tree
   controls::ImageList imlLarge;  ///< large icons of the Daily list; image 1 is the default document
   controls::ImageList imlSmall;
-  controls::ImageList imlFavorites;  ///< icons of the Favorites list
+  controls::ImageList imlFavoritesLarge;
+  controls::ImageList imlFavoritesSmall;
+  std::array<controls::PictureBox, 4> picMain;  ///< element 3 is the toolbar strip
+  std::array<controls::Line, 2> linToolbar;     ///< along the toolbar strip
+  std::array<controls::Button, kToolbarButtons> sftToolbar;
+
+  // Menus. A submenu stands before the menu that it belongs to.
+  controls::Menu mnuFilePopup;
+  controls::Menu mnuViewArrangePopup;
+  controls::Menu mnuViewPopup;
+  controls::Menu mnuToolsPopup;
+  controls::Menu mnuHelpPopup;
+  controls::Menu mnuTreeViewPopup;
+  controls::Menu mnuSysTrayPopup;
+  controls::Menu mnuArrangeViewPopup;
+  controls::Menu mnuArrangeIconsPopup;
+  controls::Menu mnuListViewPopup;
 
  private:
   // Building the window.
   void BuildLists();
+  void BuildToolbar();
   void ConnectControls();
+  void ConnectViews();
+  void SetHelpContextIDs();
 
   // The start-up sequence.
   void LoadResources();
   void CreateViews();
   void ReadOptions();
+  void Welcome();
+  void PurgeAtStart();
   void CaptureAtStart();
   void LoadFavorites();
   void RestoreWindow();
+  void RestoreViews();
   void StartCapture();
 
   // Handlers.
@@ -108,8 +147,28 @@ class FMain {
   void Form_Unload();
   void m_oCalendar_DateChange(const Date& newDate);
   void m_oDaily_TreeViewNodeClick(const controls::TreeNode& node);
+  void m_oDaily_ListViewDblClick(const controls::ListItem& item);
+  void m_oDaily_ListViewPopupMenu(double x, double y);
+  void tvwMain_MouseUp(int button, double x, double y);
+  void picMain_Resize(int index);
+  void tryMain_MouseUp(int button);
+  void mnuFilePopup_Click(int index);
+  void mnuViewPopup_Click(int index);
+  void mnuToolsPopup_Click(int index);
+  void mnuHelpPopup_Click(int index);
+  void mnuTreeViewPopup_Click(int index);
+  void mnuSysTrayPopup_Click(int index);
+  void mnuListViewPopup_Click(int index);
+  void sftToolbar_Click(int index);
 
+  void Exit();
+  bool AskToRemove(StringId before, const std::string& what, StringId after);
+  void Tell(const std::string& text);
+  void PutBackIntoRecent(const std::string& shortcutPath);
+  int ImageListIndex(controls::ImageList& large, controls::ImageList& small, const std::string& shortcutFileName,
+                     const std::string& targetFileName);
   void SaveWindow();
+  void SaveViews();
   void AddDocument(const std::string& nodeKey, const std::string& folder, const std::string& fileName);
   void File(CShortcut& shortcut, const std::string& destination);
 
@@ -127,6 +186,7 @@ class FMain {
   std::int32_t m_purgeAge = 0;       ///< days
   std::int32_t m_timerInterval = 0;  ///< seconds
   bool m_activatedOnce = false;
+  bool m_visibleAtStart = true;
   std::string m_recentFolder;  ///< without a trailing "\"
   bool m_documentsChanged = false;
   bool m_inTreeClick = false;              ///< the calendar is being moved because a day was clicked in the tree

@@ -1,9 +1,37 @@
-// The window's life: shown and hidden, activated, resized, closed.
+// The window's life: shown and hidden, activated, resized, closed; its views and its settings.
 
 #include "app/ReportErrors.h"
+#include "settings/COptions.h"
+#include "settings/SettingsStore.h"
 #include "shell/FMain.h"
 
 namespace dayvane {
+
+namespace {
+
+using controls::ListStyle;
+using controls::WindowState;
+
+constexpr int kStyles = 4;
+
+enum WindowSetting : std::size_t { kVisible, kWindowState, kLeft, kTop, kWidth, kHeight };
+enum ViewSetting : std::size_t { kData, kListViews };
+
+std::vector<settings::NamedText> WindowDefaults(const controls::Form& form) {
+  return {{"Visible", "True"},
+          {"Window State", std::to_string(static_cast<int>(form.State()))},
+          {"Left", settings::NumberText(form.Left())},
+          {"Top", settings::NumberText(form.Top())},
+          {"Width", settings::NumberText(form.Width())},
+          {"Height", settings::NumberText(form.Height())}};
+}
+
+const std::vector<settings::NamedText>& ViewDefaults() {
+  static const std::vector<settings::NamedText> defaults{{"Data", "0"}, {"ListViews", "3"}};
+  return defaults;
+}
+
+}  // namespace
 
 void FMain::Form_Activate() {
   if (m_activatedOnce) return;
@@ -13,9 +41,9 @@ void FMain::Form_Activate() {
 
 void FMain::Form_Resize() {
   ReportErrors(m_application, kResizing, kName, "Form_Resize", [this] {
-    if (form.State() == controls::WindowState::Minimised) {
+    if (form.State() == WindowState::Minimised) {
       SetVisible(false);
-      form.SetState(controls::WindowState::Normal);
+      form.SetState(WindowState::Normal);
       return;
     }
     constexpr double kRightMargin = 30;
@@ -30,10 +58,16 @@ void FMain::Form_Resize() {
   });
 }
 
+void FMain::picMain_Resize(int index) {
+  constexpr int kToolbarStrip = 3;
+  if (index != kToolbarStrip) return;
+  for (controls::Line& line : linToolbar) line.SetX2(picMain[kToolbarStrip].Width());
+}
+
 void FMain::Form_QueryUnload(bool& cancel, controls::UnloadMode mode) {
-  const bool asked = mode == controls::UnloadMode::SystemSession || mode == controls::UnloadMode::TaskManager;
-  if (asked || m_exiting) return;
-  SetVisible(false);
+  const bool mustGo = mode == controls::UnloadMode::SystemSession || mode == controls::UnloadMode::TaskManager;
+  if (mustGo || m_exiting) return;
+  ReportErrors(m_application, kExitingOrHiding, kName, "Form_QueryUnload", [this] { SetVisible(false); });
   cancel = true;
 }
 
@@ -43,25 +77,140 @@ void FMain::Form_Unload() {
     Assert(m_oFavorites != nullptr, ".Form_Unload: Favorites object is nothing");
     tmrMain.SetEnabled(false);
     SaveWindow();
+    SaveViews();
+    m_oDaily->SaveSettings();
     m_oFavorites->Save();
+    m_oFavorites->SaveSettings();
   });
+  m_oCalendar.reset();
+  m_oDaily.reset();
+  m_oFavorites.reset();
 }
 
 void FMain::SaveWindow() {
-  m_oDaily->SaveSettings();
-  m_oFavorites->SaveSettings();
+  const auto key = settings::OpenSubtree(m_application.desktop.registry, "Window");
+  key->SetValue("Visible", settings::FlagText(form.Visible()));
+  key->SetValue("Window State", std::to_string(static_cast<int>(form.State())));
+  if (form.State() != WindowState::Normal) return;
+  key->SetValue("Left", settings::NumberText(form.Left()));
+  key->SetValue("Top", settings::NumberText(form.Top()));
+  key->SetValue("Width", settings::NumberText(form.Width()));
+  key->SetValue("Height", settings::NumberText(form.Height()));
+}
+
+void FMain::SaveViews() {
+  const auto key = settings::OpenSubtree(m_application.desktop.registry, "View");
+  key->SetValue("Data", std::to_string(m_activeView));
+  key->SetValue("ListViews", std::to_string(static_cast<int>(m_oDaily->View())));
+}
+
+void FMain::RestoreWindow() {
+  const settings::Subtree window(m_application.desktop.registry, "Window", WindowDefaults(form));
+  m_visibleAtStart = window.Flag(kVisible);
+  form.Move(window.Number(kLeft), window.Number(kTop), window.Number(kWidth), window.Number(kHeight));
+  if (window.Number(kWindowState) == static_cast<int>(WindowState::Maximised)) form.SetState(WindowState::Maximised);
+}
+
+void FMain::RestoreViews() {
+  const settings::Subtree view(m_application.desktop.registry, "View", ViewDefaults());
+  m_oDaily->RestoreSettings();
+  m_oFavorites->RestoreSettings();
+  m_oFavorites->SortAgain();
+  SetActiveView(view.Number(kData));
+  SetListView(view.Number(kListViews));
 }
 
 void FMain::SetVisible(bool visible) {
   form.SetVisible(visible);
+  mnuSysTrayPopup[0].SetVisible(!visible);
+  mnuSysTrayPopup[1].SetVisible(visible);
+}
+
+void FMain::SetActive(bool active) {
+  if (active) {
+    PollRecentFolder();
+  } else {
+    tmrMain.SetEnabled(false);
+    tryMain.SetPicture(kSuspendedIcon);
+  }
+  mnuFilePopup[0].SetVisible(active);
+  mnuFilePopup[1].SetVisible(!active);
+  mnuSysTrayPopup[2].SetVisible(active);
+  mnuSysTrayPopup[3].SetVisible(!active);
 }
 
 void FMain::SetActiveView(int view) {
-  m_activeView = static_cast<std::int16_t>(view);
-  picDaily.SetVisible(view == kDailyView);
-  picFavorites.SetVisible(view == kFavoritesView);
+  ReportErrors(m_application, kSettingActiveView, kName, "SetActiveView", [&] {
+    Assert(m_oDaily != nullptr, ".SetActiveView: Daily object is nothing");
+    Assert(m_oFavorites != nullptr, ".SetActiveView: Favorites object is nothing");
+    m_activeView = static_cast<std::int16_t>(view);
+    if (view == kDailyView || view == kFavoritesView) {
+      const bool daily = view == kDailyView;
+      form.SetCaption(m_application.info.title + " - " + ResourceString(daily ? kDaily : kFavorites));
+      m_oDaily->SetVisible(daily);
+      m_oFavorites->SetVisible(!daily);
+      const auto* selected = daily ? m_oDaily->SelectedDocument() : m_oFavorites->SelectedDocument();
+      SetExploreOpen(selected != nullptr);
+    }
+    mnuViewPopup[0].SetChecked(view == kDailyView);
+    mnuViewPopup[1].SetChecked(view == kFavoritesView);
+    sftToolbar[0].SetEnabled(view != kDailyView);
+    sftToolbar[1].SetEnabled(view != kFavoritesView);
+  });
 }
 
-void FMain::SetExploreOpen(bool) {}
+void FMain::SetListView(int style) {
+  ReportErrors(m_application, kSettingDocumentView, kName, "SetListView", [&] {
+    constexpr std::size_t kFirstButton = 6;
+    constexpr int kFirstItem = 4;
+    m_oDaily->SetView(static_cast<ListStyle>(style));
+    m_oFavorites->SetView(static_cast<ListStyle>(style));
+    for (int i = 0; i < kStyles; ++i) {
+      mnuViewPopup[kFirstItem + i].SetChecked(i == style);
+      mnuArrangeViewPopup[i].SetChecked(i == style);
+      sftToolbar[kFirstButton + static_cast<std::size_t>(i)].SetEnabled(i != style);
+    }
+  });
+}
+
+void FMain::SetExploreOpen(bool enabled) {
+  for (const int item : {2, 3}) mnuToolsPopup[item].SetEnabled(enabled);
+  for (const std::size_t button : {3U, 4U}) sftToolbar[button].SetEnabled(enabled);
+}
+
+void FMain::SetOptions() {
+  ReportErrors(m_application, kSettingOptions, kName, "SetOptions", [this] {
+    constexpr int kMillisecondsPerSecond = 1000;
+    const std::int32_t threshold = m_favoritesThreshold;
+    const std::int32_t interval = m_timerInterval;
+    COptions options(m_application);
+    if (!options.ChangeValues()) return;
+    m_favoritesThreshold = options.FavoritesThreshold();
+    m_purgeAge = options.PurgeAge();
+    m_timerInterval = options.TimerInterval();
+    if (m_favoritesThreshold != threshold) {
+      RefreshFavorites();
+      RefreshStatusBar();
+    }
+    if (m_timerInterval != interval) tmrMain.SetInterval(m_timerInterval * kMillisecondsPerSecond);
+  });
+}
+
+void FMain::ArrangeIcons(int index) {
+  ReportErrors(m_application, kArrangingIcons, kName, "ArrangeIcons", [&] {
+    constexpr int kAutoArrange = 3;
+    int order = index;
+    if (index == kAutoArrange) {
+      const bool checked = mnuViewArrangePopup[kAutoArrange].Checked();
+      order = checked ? 2 : 3;
+      mnuViewArrangePopup[kAutoArrange].SetChecked(!checked);
+      mnuArrangeIconsPopup[kAutoArrange].SetChecked(!checked);
+    } else if (index != 0 && index != 1) {
+      return;
+    }
+    m_oDaily->ArrangeIcons(order);
+    m_oFavorites->ArrangeIcons(order);
+  });
+}
 
 }  // namespace dayvane

@@ -5,6 +5,7 @@
 #include "app/ReportErrors.h"
 #include "base/Error.h"
 #include "base/Text.h"
+#include "capture/CFileInfo.h"
 #include "capture/CShortcut.h"
 #include "fs/Dir.h"
 #include "shell/FMain.h"
@@ -115,8 +116,42 @@ void FMain::AddDocument(const std::string& nodeKey, const std::string& folder, c
 int FMain::DailyImageListIndex(const std::string& shortcutFileName, const std::string& targetFileName) {
   Assert(!text::Trim(shortcutFileName).empty(), ".DailyImageListIndex: Shortcut file name is missing");
   Assert(!text::Trim(targetFileName).empty(), ".DailyImageListIndex: Target file name is missing");
-  const int known = imlLarge.IndexOf(KeyOf(targetFileName));
-  return known != 0 ? known : 1;
+  return ImageListIndex(imlLarge, imlSmall, shortcutFileName, targetFileName);
+}
+
+int FMain::ImageListIndex(controls::ImageList& large, controls::ImageList& small, const std::string& shortcutFileName,
+                          const std::string& targetFileName) {
+  const int known = large.IndexOf(KeyOf(targetFileName));
+  if (known != 0) return known;
+  CFileInfo fileInfo(m_application);
+  fileInfo.SetItem(shortcutFileName);
+  const auto shellIcon = fileInfo.ShellIcon();
+  const auto smallIcon = fileInfo.SmallIcon();
+  if (!shellIcon || !smallIcon) return 1;
+  small.Add(*smallIcon, KeyOf(targetFileName));
+  return large.Add(*shellIcon, KeyOf(targetFileName));
+}
+
+void FMain::m_oDaily_ListViewDblClick(const controls::ListItem& item) {
+  auto waitCursor = ShowWait();
+  OpenDocument(&item);
+  RefreshStatusBar(std::move(waitCursor));
+}
+
+void FMain::m_oDaily_ListViewPopupMenu(double x, double y) {
+  ReportErrors(m_application, kDisplayingContextMenu, kName, "m_oDaily_ListViewPopupMenu",
+               [&] { m_application.desktop.windowing.PopupMenu(form, mnuListViewPopup, x, y); });
+}
+
+void FMain::tvwMain_MouseUp(int button, double x, double y) {
+  constexpr int kRightButton = 2;
+  if (button != kRightButton || tvwMain.SelectedItem() == nullptr) return;
+  // Only a day can be purged.
+  if (!tvwMain.SelectedItem()->children.empty()) return;
+  ReportErrors(m_application, kDisplayingContextMenu, kName, "tvwMain_MouseUp", [&] {
+    m_application.desktop.windowing.PopupMenu(form, mnuTreeViewPopup, picDaily.Left() + tvwMain.Left() + x,
+                                              picDaily.Top() + tvwMain.Top() + y);
+  });
 }
 
 void FMain::m_oCalendar_DateChange(const Date& newDate) {

@@ -49,8 +49,7 @@ void FMain::RefreshFavorites() {
 int FMain::FavoritesImageListIndex(const std::string& shortcutFileName, const std::string& targetFileName) {
   Assert(!text::Trim(shortcutFileName).empty(), ".FavoritesImageListIndex: Shortcut file name is missing");
   Assert(!text::Trim(targetFileName).empty(), ".FavoritesImageListIndex: Target file name is missing");
-  const int known = imlFavorites.IndexOf("K" + targetFileName);
-  return known != 0 ? known : 1;
+  return ImageListIndex(imlFavoritesLarge, imlFavoritesSmall, shortcutFileName, targetFileName);
 }
 
 }  // namespace dayvane

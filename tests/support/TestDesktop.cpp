@@ -123,12 +123,28 @@ int TestShell::Open(const std::string& target, const std::string& workingDirecto
   return openResult;
 }
 
+std::optional<platform::ShellFileInfo> TestIcons::FileInfo(const std::string& path, std::uint32_t attributes,
+                                                           std::uint32_t flags) {
+  std::ostringstream text;
+  text << path << '|' << attributes << '|' << std::hex << flags;
+  asked.push_back(text.str());
+  if (!hasIcons) return platform::ShellFileInfo{};
+  return platform::ShellFileInfo{platform::Picture{{SplitPath(path).fileName}, 0}, {}, {}};
+}
+
+std::optional<platform::ShellFileInfo> TestIcons::FileInfo(std::uint64_t identifier, std::uint32_t attributes,
+                                                           std::uint32_t flags) {
+  constexpr std::uint64_t kUnknown = 666;
+  if (identifier == kUnknown) return std::nullopt;
+  return FileInfo(std::to_string(identifier), attributes, flags);
+}
+
 void TestHelp::ShowHelp(const std::string& helpFile, int command, int contextId) {
   shown.push_back(helpFile + "|" + std::to_string(command) + "|" + std::to_string(contextId));
 }
 
 TestDesktop::TestDesktop()
-    : shell(files, folder.Path() + "\\recent"), desktop{files, shell, registry, windowing, help, clock, dates} {
+    : shell(files, folder.Path() + "\\recent"), desktop{files, shell, icons, registry, windowing, help, clock, dates} {
   std::filesystem::create_directory(NativeFolder());
   std::filesystem::create_directory(NativeRecent());
   clock.Set(2026, 11, 21);

@@ -46,6 +46,7 @@ class TestWindowing : public platform::Windowing {
   void Beep() override { ++beeps; }
   void ProcessPendingMessages() override { pending(); }
   void ShowModal(controls::Form& form) override { showModal(form); }
+  void ShowAbout(const platform::About& about) override { abouts.push_back(about); }
   void PostMessage(controls::Form& form, int message) override;
   void SetForegroundWindow(controls::Form&) override { happenings.emplace_back("foreground"); }
   void PopupMenu(controls::Form&, controls::Menu& menu, double x, double y) override;
@@ -57,6 +58,7 @@ class TestWindowing : public platform::Windowing {
   std::vector<platform::Message> messages;
   platform::MessageAnswer answer = platform::MessageAnswer::Yes;
   int beeps = 0;
+  std::vector<platform::About> abouts;
   std::vector<std::string> happenings;  ///< what was asked of the desktop, one word each, in order
   std::vector<int> posted;
   controls::Menu* popupMenu = nullptr;
@@ -95,6 +97,19 @@ class TestShell : public platform::Shell {
   links::ShellLinkReader m_reader;
 };
 
+/// Knows every path and every identifier but 666; an icon is named after the last part of the path.
+class TestIcons : public platform::ShellIcons {
+ public:
+  std::uint64_t SpecialFolderIdentifier(int number) override { return 1000U + static_cast<unsigned>(number); }
+  std::optional<platform::ShellFileInfo> FileInfo(const std::string& path, std::uint32_t attributes,
+                                                  std::uint32_t flags) override;
+  std::optional<platform::ShellFileInfo> FileInfo(std::uint64_t identifier, std::uint32_t attributes,
+                                                  std::uint32_t flags) override;
+
+  std::vector<std::string> asked;  ///< "path or identifier|attributes|flags in hexadecimal"
+  bool hasIcons = true;
+};
+
 class TestHelp : public platform::Help {
  public:
   void ShowHelp(const std::string& helpFile, int command, int contextId) override;
@@ -123,6 +138,7 @@ class TestDesktop {
   TemporaryFolder folder;
   files::PosixFileSystem files;
   TestShell shell;
+  TestIcons icons;
   TestRegistry registry;
   TestWindowing windowing;
   TestHelp help;

@@ -17,6 +17,10 @@ using testing::TextsOf;
 
 class DailyViewTest : public ::testing::Test, protected testing::MainWindow {
  protected:
+  DailyViewTest() {
+    desktop.registry.keys["\\HKEY_CURRENT_USER\\Software\\Korvath\\Dayvane\\Options"]["Purge Age"] = "3650";
+  }
+
   void File(const std::string& day, const std::string& target, const std::string& time) const {
     fs::create_directories(Daily(day));
     platform::ShellLink link;
@@ -38,30 +42,34 @@ TEST_F(DailyViewTest, TheTreeShowsYearsMonthsAndDaysWithAPicturePerLevel) {
 }
 
 TEST_F(DailyViewTest, MonthsStandInTheOrderOfTheCalendar) {
+  Load();
   for (const char* month : {"March", "January", "December", "April"})
     fs::create_directories(Daily("2026") + "/" + month);
-  Load();
+  window.RefreshDaily();
   EXPECT_THAT(TextsOf(window.tvwMain), ElementsAre("Daily", " 2026", "  January", "  March", "  April", "  December"));
 }
 
 TEST_F(DailyViewTest, MonthsInTheUsersLanguageStandInTheOrderOfTheCalendarToo) {
   desktop.dates.monthNames = {"Januar", "Februar", "März",      "April",   "Mai",      "Juni",
                               "Juli",   "August",  "September", "Oktober", "November", "Dezember"};
-  for (const char* month : {"April", "Mai", "März", "Dezember"}) fs::create_directories(Daily("2026") + "/" + month);
   Load();
+  for (const char* month : {"April", "Mai", "März", "Dezember"}) fs::create_directories(Daily("2026") + "/" + month);
+  window.RefreshDaily();
   EXPECT_THAT(TextsOf(window.tvwMain), ElementsAre("Daily", " 2026", "  März", "  April", "  Mai", "  Dezember"));
 }
 
 TEST_F(DailyViewTest, DaysStandInNumericalOrder) {
-  for (const char* day : {"21", "03", "10"}) fs::create_directories(Daily("2026/May") + "/" + day);
   Load();
+  for (const char* day : {"21", "03", "10"}) fs::create_directories(Daily("2026/May") + "/" + day);
+  window.RefreshDaily();
   EXPECT_THAT(TextsOf(window.tvwMain), ElementsAre("Daily", " 2026", "  May", "   03", "   10", "   21"));
 }
 
 TEST_F(DailyViewTest, AFileWithACapitalExtensionInAMonthFolderShowsAsANode) {
+  Load();
   desktop.folder.Write("program/Daily/2026/May/X.LNK", "");
   desktop.folder.Write("program/Daily/2026/May/y.lnk", "");
-  Load();
+  window.RefreshDaily();
   EXPECT_THAT(TextsOf(window.tvwMain), ElementsAre("Daily", " 2026", "  May", "   X.LNK"));
 }
 

@@ -4,9 +4,12 @@
 #include <QCursor>
 #include <QMessageBox>
 #include <QWindow>
+#include <glib.h>
 
+#include "linux/Pictures.h"
 #include "linux/widgets/FormPresenter.h"
 #include "linux/widgets/Lengths.h"
+#include "shell/MResourceConstants.h"
 
 namespace dayvane::widgets {
 
@@ -62,6 +65,27 @@ MessageAnswer LinuxWindowing::ShowMessage(const Message& message) {
   const int answer = box.exec();
   if (!question) return MessageAnswer::Ok;
   return answer == QMessageBox::Yes ? MessageAnswer::Yes : MessageAnswer::No;
+}
+
+void LinuxWindowing::ShowAbout(const platform::About& about) {
+  const auto paragraph = [](const std::string& text) {
+    return QStringLiteral("<p>%1</p>").arg(QString::fromStdString(text).toHtmlEscaped());
+  };
+  const QString libraries = QStringLiteral("Qt %1, GLib %2.%3.%4")
+                                .arg(QLatin1String(qVersion()))
+                                .arg(glib_major_version)
+                                .arg(glib_minor_version)
+                                .arg(glib_micro_version);
+  const ArrowPointer arrow;
+  QMessageBox box(QApplication::activeWindow());
+  box.setWindowTitle(QStringLiteral("About %1").arg(QString::fromStdString(about.title)));
+  box.setIconPixmap(PictureIcon(kNormalIcon).pixmap(64));
+  box.setTextFormat(Qt::RichText);
+  box.setText(QStringLiteral("<h2>%1</h2>").arg(QString::fromStdString(about.title).toHtmlEscaped()) +
+              paragraph(about.version) + paragraph(about.copyright) + paragraph(about.warning) +
+              paragraph("Built with " + libraries.toStdString()) +
+              QStringLiteral("<p><a href=\"%1\">%1</a></p>").arg(QString::fromStdString(about.homePage)));
+  box.exec();
 }
 
 void LinuxWindowing::Beep() {

@@ -20,6 +20,7 @@ class LinuxWindowing : public platform::Windowing {
 
   platform::MessageAnswer ShowMessage(const platform::Message& message) override;
   void Beep() override;
+  void ShowAbout(const platform::About& about) override;
 
   /// Paints and timers run; what the user does meanwhile waits, or it would meet a program in the middle of its work.
   void ProcessPendingMessages() override;

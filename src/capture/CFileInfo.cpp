@@ -1,0 +1,78 @@
+#include "capture/CFileInfo.h"
+
+#include "app/ReportErrors.h"
+
+namespace dayvane {
+
+namespace {
+
+// Flags of SHGetFileInfo.
+constexpr std::uint32_t kSmallIcon = 0x1;
+constexpr std::uint32_t kShellIconSize = 0x4;
+constexpr std::uint32_t kIdentifierGiven = 0x8;
+constexpr std::uint32_t kUseAttributes = 0x10;
+constexpr std::uint32_t kIcon = 0x100;
+constexpr std::uint32_t kDisplayAndTypeName = 0x600;
+constexpr std::uint32_t kOverlayMask = 0x18002;
+
+constexpr std::uint32_t kDirectoryAttribute = 16;
+constexpr std::uint32_t kArchiveAttribute = 32;
+constexpr std::uint64_t kFirstIdentifier = 50;  ///< smaller numbers are special folders
+
+bool IsDriveRoot(const std::string& path) {
+  return path.size() >= 2 && path[1] == ':' && path.size() <= 3;
+}
+
+}  // namespace
+
+void CFileInfo::SetItem(std::uint64_t number) {
+  platform::ShellIcons& icons = m_application.desktop.icons;
+  const std::uint64_t identifier =
+      number < kFirstIdentifier ? icons.SpecialFolderIdentifier(static_cast<int>(number)) : number;
+  m_attributes = 0;
+  m_attributeFlag = 0;
+  if (icons.FileInfo(identifier, 0, kDisplayAndTypeName | kIdentifierGiven)) m_item = identifier;
+}
+
+void CFileInfo::SetItem(const std::string& path) {
+  if (IsDriveRoot(path)) {
+    m_attributes = 0;
+    m_attributeFlag = 0;
+  } else {
+    const std::string searched = path.ends_with('\\') ? path.substr(0, path.size() - 1) : path;
+    const auto found = m_application.desktop.files.Status(searched);
+    // A file that is not found keeps the attributes that were there: the shell then answers from its extension alone,
+    // and a shortcut that was removed still has an icon.
+    if (found) m_attributes = found->kind == platform::EntryKind::Folder ? kDirectoryAttribute : kArchiveAttribute;
+    m_attributeFlag = kUseAttributes;
+  }
+  if (m_application.desktop.icons.FileInfo(path, m_attributes, kDisplayAndTypeName | m_attributeFlag)) m_item = path;
+}
+
+std::optional<platform::Picture> CFileInfo::SmallIcon(std::uint32_t afOverlay) const {
+  return Icon("SmallIcon", afOverlay, kSmallIcon);
+}
+
+std::optional<platform::Picture> CFileInfo::ShellIcon(std::uint32_t afOverlay) const {
+  return Icon("ShellIcon", afOverlay, kShellIconSize);
+}
+
+std::optional<platform::Picture> CFileInfo::Icon(const char* procedure, std::uint32_t afOverlay,
+                                                 std::uint32_t sizeFlag) const {
+  std::optional<platform::Picture> picture;
+  ReportErrors(m_application, kProcessingSelection, ClassName, procedure, [&] {
+    const auto info = GetFileItemInfo((afOverlay & kOverlayMask) | m_attributeFlag | kIcon | sizeFlag);
+    if (info) picture = info->icon;
+  });
+  return picture;
+}
+
+std::optional<platform::ShellFileInfo> CFileInfo::GetFileItemInfo(std::uint32_t flags) const {
+  platform::ShellIcons& icons = m_application.desktop.icons;
+  if (const auto* path = std::get_if<std::string>(&m_item)) return icons.FileInfo(*path, m_attributes, flags);
+  if (const auto* identifier = std::get_if<std::uint64_t>(&m_item))
+    return icons.FileInfo(*identifier, 0, flags | kIdentifierGiven);
+  return std::nullopt;
+}
+
+}  // namespace dayvane

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace dayvane::platform {
+
+/// A picture as the desktop knows it: the names of icons to try in order, or a number of the program's own resources
+/// when there are none.
+struct Picture {
+  std::vector<std::string> iconNames;
+  int resource = 0;
+
+  friend bool operator==(const Picture&, const Picture&) = default;
+};
+
+/// What the shell tells of one item, as far as the flags asked for it.
+struct ShellFileInfo {
+  std::optional<Picture> icon;
+  std::string displayName;
+  std::string typeName;
+};
+
+/// The shell's icons. Attributes and flags are those of the classic SHGetFileInfo call.
+class ShellIcons {
+ public:
+  virtual ~ShellIcons() = default;
+
+  /// Identifier of the special folder with this number. Fails where the desktop has none.
+  virtual std::uint64_t SpecialFolderIdentifier(int number) = 0;
+
+  /// Nothing when the shell does not know the item. With the flag SHGFI_USEFILEATTRIBUTES the file itself is not
+  /// looked at, so one that is gone has an icon too.
+  virtual std::optional<ShellFileInfo> FileInfo(const std::string& path, std::uint32_t attributes,
+                                                std::uint32_t flags) = 0;
+  virtual std::optional<ShellFileInfo> FileInfo(std::uint64_t identifier, std::uint32_t attributes,
+                                                std::uint32_t flags) = 0;
+};
+
+}  // namespace dayvane::platform

@@ -1,0 +1,20 @@
+#include "shell/FSplash.h"
+
+#include "shell/MResourceConstants.h"
+
+namespace dayvane {
+
+FSplash::FSplash(const Application& application) {
+  const ProgramInfo& info = application.info;
+  form.SetCaption(info.title);
+  imgLogo.SetPicture(kLogoPicture);
+  lblProductName.SetCaption(info.title);
+  lblVersion.SetCaption(info.VersionText());
+  lblCompany.SetCaption(info.company);
+  lblCopyright.SetCaption(info.copyright);
+  lblWarning.SetCaption(info.comments);
+  imgLogo.Click.Connect([this] { Click(); });
+  form.KeyUp.Connect([this](int, int) { Unload(); });
+}
+
+}  // namespace dayvane

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <string>
+
+#include "app/Application.h"
+#include "controls/Form.h"
+#include "controls/SimpleControls.h"
+
+namespace dayvane {
+
+/// The window that shows the product's identity while the program starts. Any click or key press closes it.
+class FSplash {
+ public:
+  static constexpr const char* kName = "FSplash";
+
+  explicit FSplash(const Application& application);
+  FSplash(const FSplash&) = delete;
+  FSplash& operator=(const FSplash&) = delete;
+
+  void Show() { form.SetVisible(true); }
+  void Unload() { form.RequestUnload(controls::UnloadMode::Code); }
+
+  controls::Form form;
+  controls::Image imgLogo;
+  controls::Label lblProductName;
+  controls::Label lblVersion;
+  controls::Label lblCompany;
+  controls::Label lblCopyright;
+  controls::Label lblWarning;
+
+  /// What a click anywhere on the window does.
+  void Click() { Unload(); }
+};
+
+}  // namespace dayvane

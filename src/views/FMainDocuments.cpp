@@ -1,0 +1,121 @@
+// The document behind a row of either list: opened, its link removed, its folder shown, its day purged.
+
+#include <limits>
+
+#include "app/IgnoreErrors.h"
+#include "app/ReportErrors.h"
+#include "base/Error.h"
+#include "base/Text.h"
+#include "capture/CShortcut.h"
+#include "shell/FMain.h"
+
+namespace dayvane {
+
+namespace {
+
+// Results of the shell's opening (ShellExecute).
+constexpr int kSeFileNotFound = 2;
+constexpr int kSePathNotFound = 3;
+constexpr int kSeNoAssociation = 31;
+
+/// The results for which the user is told of an operating system error.
+bool IsSystemError(int result) {
+  return result == 0 || result == 11 || (result >= 26 && result <= 30);
+}
+
+std::string PathOf(const controls::ListItem& item) {
+  return item.key.substr(1);
+}
+
+template <class Object>
+const Object& Set(const Object* object) {
+  if (object == nullptr) throw Error(kObjectNotSet, "Object variable not set");
+  return *object;
+}
+
+}  // namespace
+
+void FMain::OpenDocument(const controls::ListItem* item) {
+  ReportErrors(m_application, kOpeningDocument, kName, "OpenDocument", [&] {
+    Assert(item != nullptr, ".OpenDocument: Item is Nothing");
+    Assert(!text::Trim(m_recentFolder).empty(), ".OpenDocument: Recent folder is missing");
+    const std::string path = PathOf(Set(item));
+    CShortcut shortcut(m_application);
+    shortcut.SetFile(path);
+    const ShellServices& shell = m_application.shellServices;
+    const int result = shortcut.OpenDocument();
+    bool remove = false;
+    if (result == kSeFileNotFound)
+      remove = AskToRemove(kTheDocument, shell.DisplayPath(shortcut.TargetFile()), kTheDocumentWasNotFound);
+    else if (result == kSePathNotFound)
+      remove =
+          AskToRemove(kThePath, shell.DisplayPath(shell.SplitPath(shortcut.TargetFile()).folder), kThePathWasNotFound);
+    else if (result == kSeNoAssociation)
+      Tell(ResourceString(kDocumentsOfThisType) + "\r\n" + ResourceString(kAreNotAssociated));
+    else if (IsSystemError(result))
+      Tell(ResourceString(kOperatingSystemError));
+    else
+      PutBackIntoRecent(path);
+    if (remove) RemoveLink(item);
+  });
+}
+
+bool FMain::AskToRemove(StringId before, const std::string& what, StringId after) {
+  const std::string question = ResourceString(before) + what + "\r\n" + ResourceString(after);
+  const auto answer = m_application.desktop.windowing.ShowMessage(
+      {question, m_application.info.title, platform::MessageButtons::YesNo, platform::MessageIcon::Question});
+  return answer == platform::MessageAnswer::Yes;
+}
+
+void FMain::PutBackIntoRecent(const std::string& shortcutPath) {
+  auto& files = m_application.desktop.files;
+  const std::string bytes = files.Read(shortcutPath, std::numeric_limits<std::size_t>::max()).bytes;
+  const std::string name = m_application.shellServices.SplitPath(shortcutPath).fileName;
+  files.Replace(m_recentFolder + "\\" + name, bytes);
+}
+
+void FMain::RemoveLink(const controls::ListItem* item) {
+  ReportErrors(m_application, kOpeningDocument, kName, "RemoveLink", [&] {
+    Assert(item != nullptr, ".RemoveLink: Item is nothing");
+    Assert(m_oDaily != nullptr, ".RemoveLink: Daily object is nothing");
+    Assert(m_oFavorites != nullptr, ".RemoveLink: Favorites object is nothing");
+    Assert(!text::Trim(m_recentFolder).empty(), ".RemoveLink: Recent folder is missing");
+    auto& files = m_application.desktop.files;
+    const std::string key = Set(item).key;
+    const std::string path = PathOf(*item);
+    IgnoreErrors([&] { files.Delete(path); });
+    IgnoreErrors([&] { files.Delete(m_recentFolder + "\\" + m_application.shellServices.SplitPath(path).fileName); });
+    // From the Favorites view the day that is shown need not be the document's.
+    if (lvwDaily.Find(key) != nullptr) m_oDaily->RemoveDocument(key);
+    if (m_oFavorites->RemoveDocument(key)) {
+      m_oFavorites->RebuildFavorites();
+      RefreshFavorites();
+    }
+    if (m_repository.PurgeEmptyFolders()) RefreshDaily();
+  });
+}
+
+void FMain::PurgeDay(const controls::TreeNode* node) {
+  Assert(node != nullptr, ".PurgeDay: Node is nothing");
+  Assert(m_oFavorites != nullptr, ".PurgeDay: Favorites object is nothing");
+  m_repository.PurgeDay(Set(node).key.substr(1));
+  RefreshDaily();
+  m_oFavorites->RebuildFavorites();
+  RefreshFavorites();
+}
+
+void FMain::Explore() {
+  ReportErrors(m_application, kExploringFolder, kName, "Explore", [this] {
+    Assert(m_oDaily != nullptr, ".Explore: Daily object is nothing");
+    Set(m_oDaily.get()).Explore();
+  });
+}
+
+void FMain::OpenFolder() {
+  ReportErrors(m_application, kOpeningFolder, kName, "OpenFolder", [this] {
+    Assert(m_oDaily != nullptr, ".OpenFolder: Daily object is nothing");
+    Set(m_oDaily.get()).OpenFolder();
+  });
+}
+
+}  // namespace dayvane

@@ -6,14 +6,14 @@
 
 namespace dayvane::testing {
 
-/// While it lives, no file of this process can grow, as on a full disk.
+/// While it lives, no file of this process can grow beyond `room` bytes, as on a full disk.
 class FullDisk {
  public:
-  FullDisk() : m_signal(std::signal(SIGXFSZ, SIG_IGN)) {
+  explicit FullDisk(rlim_t room = 0) : m_signal(std::signal(SIGXFSZ, SIG_IGN)) {
     if (getrlimit(RLIMIT_FSIZE, &m_limit) != 0) throw std::runtime_error("no limit of file size");
-    rlimit none = m_limit;
-    none.rlim_cur = 0;
-    setrlimit(RLIMIT_FSIZE, &none);
+    rlimit full = m_limit;
+    full.rlim_cur = room;
+    setrlimit(RLIMIT_FSIZE, &full);
   }
   FullDisk(const FullDisk&) = delete;
   FullDisk& operator=(const FullDisk&) = delete;

@@ -1,14 +1,13 @@
-#include <csignal>
 #include <filesystem>
 #include <fstream>
 #include <gmock/gmock.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 #include "base/Error.h"
 #include "linux/files/PosixFileSystem.h"
+#include "tests/support/FullDisk.h"
 #include "tests/support/TemporaryFolder.h"
+#include "tests/support/UnprivilegedUser.h"
 
 namespace dayvane::files {
 namespace {
@@ -47,43 +46,6 @@ int ErrorOf(const std::string& path, Action action) {
   }
   return 0;
 }
-
-/// No file of this process may grow beyond a few bytes, as on a full disk.
-class FullDisk {
- public:
-  explicit FullDisk(rlim_t bytes) : m_handler(std::signal(SIGXFSZ, SIG_IGN)) {
-    getrlimit(RLIMIT_FSIZE, &m_before);
-    const struct rlimit limit { bytes, m_before.rlim_max };
-    setrlimit(RLIMIT_FSIZE, &limit);
-  }
-  FullDisk(const FullDisk&) = delete;
-  FullDisk& operator=(const FullDisk&) = delete;
-  ~FullDisk() {
-    setrlimit(RLIMIT_FSIZE, &m_before);
-    std::signal(SIGXFSZ, m_handler);
-  }
-
- private:
-  void (*m_handler)(int);
-  struct rlimit m_before {};
-};
-
-/// The superuser may read everything; nobody may not.
-class UnprivilegedUser {
- public:
-  UnprivilegedUser() {
-    constexpr uid_t kNobody = 65534;
-    if (m_before == 0 && seteuid(kNobody) != 0) throw std::runtime_error("cannot become an unprivileged user");
-  }
-  UnprivilegedUser(const UnprivilegedUser&) = delete;
-  UnprivilegedUser& operator=(const UnprivilegedUser&) = delete;
-  ~UnprivilegedUser() {
-    if (seteuid(m_before) != 0) std::abort();
-  }
-
- private:
-  uid_t m_before = geteuid();
-};
 
 TEST_F(PosixFileSystemTest, AReplacedFileIsANewOneSoThatWhoReadsTheOldOneReadsItWhole) {
   const std::string native = m_folder.Write("a.dat", "old");
@@ -233,7 +195,7 @@ TEST_F(PosixFileSystemTest, AFullDiskLeavesTheOldFileWholeAndNoUnfinishedOne) {
   m_folder.Write("a.dat", "old");
   m_folder.Write("source", std::string(1000, 's'));
   {
-    const FullDisk disk(100);
+    const testing::FullDisk disk(100);
     const std::string bytes(1000, 'x');
     EXPECT_EQ(ErrorOf(Path("a.dat"), [&] { m_files.Replace(Path("a.dat"), bytes); }), kDiskFull);
     EXPECT_EQ(ErrorOf(Path("a.dat"), [&] { ReplaceUnflushed(Path("a.dat"), bytes); }), kDiskFull);
@@ -247,7 +209,7 @@ TEST_F(PosixFileSystemTest, AnUnreadableFolderIsNotAnEmptyOne) {
   fs::permissions(m_folder.Native(), fs::perms::all);
   fs::create_directory(m_folder / "private");
   fs::permissions(m_folder / "private", fs::perms::none);
-  const UnprivilegedUser user;
+  const testing::UnprivilegedUser user;
   EXPECT_EQ(ErrorOf(Path("private"), [&] { m_files.List(Path("private")); }), kPermissionDenied);
 }
 
@@ -256,7 +218,7 @@ TEST_F(PosixFileSystemTest, AFolderThatMayNotBeWrittenRefusesEveryChange) {
   fs::permissions(m_folder.Native(), fs::perms(0555));
   fs::permissions(m_folder / "a.dat", fs::perms(0644));
   {
-    const UnprivilegedUser user;
+    const testing::UnprivilegedUser user;
     EXPECT_EQ(ErrorOf(Path("a.dat"), [&] { m_files.Replace(Path("a.dat"), "new"); }), kPermissionDenied);
     EXPECT_EQ(ErrorOf(Path("a.dat"), [&] { m_files.Delete(Path("a.dat")); }), kPermissionDenied);
     EXPECT_EQ(ErrorOf(Path("day"), [&] { m_files.CreateFolder(Path("day")); }), kPermissionDenied);

@@ -29,7 +29,7 @@ struct Piece {
 QString TakeQuoted(const QString& pattern, int& position) {
   const int start = ++position;
   while (position < pattern.size() && pattern[position] != u'\'') ++position;
-  const QString text = position == start ? QStringLiteral("'") : pattern.mid(start, position - start);
+  QString text = position == start ? QStringLiteral("'") : pattern.mid(start, position - start);
   ++position;
   return text;
 }

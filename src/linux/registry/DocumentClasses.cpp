@@ -1,5 +1,7 @@
 #include "linux/registry/DocumentClasses.h"
 
+#include <algorithm>
+#include <ctime>
 #include <utility>
 
 #include "base/Text.h"
@@ -71,7 +73,18 @@ DocumentClasses::DocumentClasses(Clock clock)
     : m_clock(std::move(clock)),
       m_monitor(g_app_info_monitor_get()),
       m_connection(g_signal_connect(m_monitor.get(), "changed", G_CALLBACK(ApplicationsChanged), this)),
-      m_keptSince(m_clock()) {}
+      m_keptSince(m_clock()) {
+  // GIO looks for the folders of its content types when it is first asked for a description, and then forgets, without
+  // freeing it, whatever it has read before. Asked for them first, it reads once.
+  g_content_type_get_mime_dirs();
+}
+
+std::chrono::steady_clock::time_point DocumentClasses::CoarseTime() {
+  struct timespec now {};
+  clock_gettime(CLOCK_MONOTONIC_COARSE, &now);
+  return std::chrono::steady_clock::time_point(std::chrono::seconds(now.tv_sec) +
+                                               std::chrono::nanoseconds(now.tv_nsec));
+}
 
 DocumentClasses::~DocumentClasses() {
   g_signal_handler_disconnect(m_monitor.get(), m_connection);

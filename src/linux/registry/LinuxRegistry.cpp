@@ -114,8 +114,8 @@ class ClassKey : public RegistryKey {
 /// What follows the root in a path, or nothing when the path is below another root.
 std::optional<std::string_view> PathBelow(std::string_view root, std::string_view path) {
   if (path.ends_with('\\')) path.remove_suffix(1);
-  if (path.size() < root.size() || text::CompareIgnoringCase(path.substr(0, root.size()), root) != 0)
-    return std::nullopt;
+  const std::string_view start = path.substr(0, root.size());
+  if (start != root && text::CompareIgnoringCase(start, root) != 0) return std::nullopt;
   path.remove_prefix(root.size());
   if (path.empty()) return path;
   if (path[0] != '\\') return std::nullopt;

@@ -16,7 +16,7 @@ class LinuxRegistry : public platform::Registry {
  public:
   /// `report` is told what the event log should say about a damaged settings file.
   LinuxRegistry(std::string settingsFile, registry::SettingsFile::Reporter report,
-                registry::DocumentClasses::Clock clock = std::chrono::steady_clock::now);
+                registry::DocumentClasses::Clock clock = registry::DocumentClasses::CoarseTime);
 
   std::unique_ptr<platform::RegistryKey> KeyFromRoot(std::uint32_t root) override;
   std::unique_ptr<platform::RegistryKey> KeyFromPath(const std::string& path) override;

@@ -75,17 +75,20 @@ TEST(SettingsText, ValuesBelowAnUnreadableKeyBelongToNoOther) {
 }
 
 TEST(SettingsText, CutAnywhereItKeepsTheValuesBeforeTheCut) {
-  const std::string whole = "[K]\nFavorites Threshold=3\nPurge Age=30\n";
-  for (std::size_t length = 0; length < whole.size(); ++length) {
-    const ParsedSettings parsed = ParseSettings(whole.substr(0, length));
-    const bool first = length >= whole.find("\nPurge");
-    EXPECT_EQ(parsed.keys.contains("K") && parsed.keys.at("K").contains("Favorites Threshold"),
-              first || length > whole.find('='))
-        << length;
-    if (first) {
-      EXPECT_EQ(parsed.keys.at("K").at("Favorites Threshold"), "3") << length;
-    }
+  const std::string first = "[K]\nFavorites Threshold=3\n";
+  const std::string second = "Purge Age=30\n[L]\nName=\\x41\n";
+  for (std::size_t length = 0; length <= second.size(); ++length) {
+    const ParsedSettings parsed = ParseSettings(first + second.substr(0, length));
+    EXPECT_EQ(parsed.keys.at("K").at("Favorites Threshold"), "3") << length;
   }
+}
+
+TEST(SettingsText, CutAnywhereNoOtherNamesAppear) {
+  const std::string whole = "[K]\nFavorites Threshold=3\n[L]\nPurge Age=30\n";
+  for (std::size_t length = 0; length <= whole.size(); ++length)
+    for (const auto& [path, values] : ParseSettings(whole.substr(0, length)).keys)
+      for (const auto& value : values)
+        EXPECT_EQ(value.first, path == "K" ? "Favorites Threshold" : "Purge Age") << length;
 }
 
 TEST(SettingsText, NothingIsNoDamage) {

@@ -14,8 +14,8 @@ namespace dayvane {
 namespace {
 
 struct PictureFile {
-  int picture;
-  const char* name;
+  int picture = kNoPicture;
+  const char* name = nullptr;
   bool drawnPerSize = false;  ///< has drawings of its own for 16 and 22 pixels
 };
 

@@ -10,7 +10,7 @@
 namespace dayvane::help {
 
 QString LocateHelpFile(const std::string& helpFile, const std::string& resourceFolder) {
-  const QString named = QString::fromStdString(files::ToNative(helpFile).value_or(helpFile));
+  QString named = QString::fromStdString(files::ToNative(helpFile).value_or(helpFile));
   if (QFileInfo(named).isFile()) return named;
   return QDir(QString::fromStdString(resourceFolder)).filePath(QFileInfo(named).fileName());
 }

@@ -10,7 +10,7 @@ namespace dayvane::help {
 
 namespace {
 
-constexpr qint64 kLargestFile = 32 * 1024 * 1024;  ///< ours has some 50 KB; a larger one is not read into memory
+constexpr qint64 kLargestFile = 32'000'000;  ///< ours has some 50 KB; a larger one is not read into memory
 
 bool HoldsEveryWord(const QString& text, const QStringList& words) {
   return std::all_of(words.begin(), words.end(),

@@ -22,7 +22,7 @@ constexpr int kLargestContext = 65535;
 
 QString Decoded(const QByteArray& utf8) {
   QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
-  const QString text = decoder(utf8);
+  QString text = decoder(utf8);
   if (decoder.hasError()) FailDamaged("a text is not UTF-8");
   return text;
 }
@@ -66,7 +66,7 @@ QByteArray HelpFileReader::TakeLine() {
   const qsizetype end = m_bytes.indexOf('\n', m_at);
   if (end < 0 && m_bytes.size() - m_at <= kLongestLine) FailCutShort();
   if (end < 0 || end - m_at > kLongestLine) FailDamaged("a line is too long");
-  const QByteArray line = m_bytes.mid(m_at, end - m_at);
+  QByteArray line = m_bytes.mid(m_at, end - m_at);
   m_at = end + 1;
   return line;
 }
@@ -77,7 +77,7 @@ QByteArray HelpFileReader::TakePayload(const QByteArray& size) {
   if (!isNumber || bytes < 0) FailDamaged("a size is no number");
   // One more for the line feed after the record; the subtraction cannot overflow where an addition could.
   if (bytes > m_bytes.size() - m_at - 1) FailCutShort();
-  const QByteArray payload = m_bytes.mid(m_at, bytes);
+  QByteArray payload = m_bytes.mid(m_at, bytes);
   m_at += bytes;
   if (m_bytes[m_at] != '\n') FailDamaged("a size is wrong");
   ++m_at;

@@ -10,11 +10,10 @@
 namespace dayvane::widgets {
 namespace {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
+using ::testing::IsEmpty;
 
 /// The program's window over a temporary folder, filled with two days of documents.
-class MainWindowTest : public testing::Test {
+class MainWindowTest : public ::testing::Test {
  protected:
   MainWindowTest() {
     m_program.desktop.OpenDocument("Z:\\home\\ana\\Old.odt", "2026-11-20 09:15:00");
@@ -35,7 +34,7 @@ class MainWindowTest : public testing::Test {
     return {widget.mapTo(m_window.centralWidget(), QPoint()), widget.size()};
   }
 
-  dayvane::testing::MainWindow m_program;
+  testing::MainWindow m_program;
   FMain& m_main = m_program.window;
   Icons m_icons;
   MainWindow m_window{m_main, m_icons, m_program.desktop.dates};

@@ -177,7 +177,9 @@ void FormPresenter::ShowPlace() {
 }
 
 void FormPresenter::ShowState() {
-  if (m_form.State() == m_shownState) return;
+  // X11 would bring a hidden window up to take its state: that waits until the window shows.
+  const bool hidden = !m_window.isVisible() && !m_form.Visible();
+  if (m_form.State() == m_shownState || hidden) return;
   m_shownState = m_form.State();
   const Qt::WindowStates others = m_window.windowState() & ~(Qt::WindowMinimized | Qt::WindowMaximized);
   m_window.setWindowState(others | (m_shownState == WindowState::Minimised   ? Qt::WindowMinimized

@@ -10,7 +10,6 @@
 namespace dayvane::widgets {
 namespace {
 
-using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
 /// The program's window over a temporary folder, filled with two days of documents.
@@ -35,7 +34,7 @@ class MainWindowTest : public ::testing::Test {
     return {widget.mapTo(m_window.centralWidget(), QPoint()), widget.size()};
   }
 
-  dayvane::testing::MainWindow m_program;
+  testing::MainWindow m_program;
   FMain& m_main = m_program.window;
   Icons m_icons;
   MainWindow m_window{m_main, m_icons, m_program.desktop.dates};

@@ -1,16 +1,13 @@
 #include "linux/recent/DocumentPath.h"
 
 #include <climits>
-#include <glib.h>
-#include <memory>
 
 #include "base/Text.h"
+#include "linux/GlibHandles.h"
 
 namespace dayvane::recent {
 
 namespace {
-
-using GText = std::unique_ptr<char, decltype(&g_free)>;
 
 bool IsThisMachine(const char* host) {
   return host == nullptr || *host == '\0' || text::CompareIgnoringCase(host, "localhost") == 0;
@@ -38,8 +35,8 @@ bool IsTrashFolder(std::string_view name) {
 std::optional<std::string> DocumentPath(const std::string& href) {
   char* host = nullptr;
   // QUrl would not keep names that are no UTF-8.
-  const GText path(g_filename_from_uri(href.c_str(), &host, nullptr), &g_free);
-  const GText ownedHost(host, &g_free);
+  const glib::Text path(g_filename_from_uri(href.c_str(), &host, nullptr));
+  const glib::Text ownedHost(host);
   if (!path || !IsThisMachine(host)) return std::nullopt;
   std::string simple = Simplified(path.get());
   if (simple.empty() || simple.size() >= PATH_MAX) return std::nullopt;

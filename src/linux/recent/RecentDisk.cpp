@@ -1,11 +1,7 @@
 #include "linux/recent/RecentDisk.h"
 
-#include <cerrno>
-#include <cstring>
-#include <glib.h>
-#include <glib/gstdio.h>
-
 #include "base/Error.h"
+#include "linux/XdgFolders.h"
 #include "linux/files/NativePath.h"
 #include "linux/files/PosixFileSystem.h"
 
@@ -21,20 +17,13 @@ std::string Spelled(const std::string& nativePath) {
   return files::FromNative(nativePath).value_or("");
 }
 
-/// Makes a folder and those above it, for the user's eyes alone, as the desktop keeps its own list.
-void MakeFolders(const std::string& native) {
-  if (g_mkdir_with_parents(native.c_str(), 0700) == 0) return;
-  const int systemError = errno;
-  throw Error(kPathNotFound, std::strerror(systemError), native);
-}
-
 }  // namespace
 
 RecentDisk::RecentDisk(const std::string& folder, const std::string& stateFile)
     : m_folder(Spelled(folder)), m_stateFile(Spelled(stateFile)), m_nativeFolder(folder) {}
 
 void RecentDisk::CreateFolder() {
-  MakeFolders(m_nativeFolder);
+  xdg::MakeFolder(m_nativeFolder);
 }
 
 void RecentDisk::WriteShortcut(const std::string& name, std::string_view bytes, Moment written) {
@@ -47,7 +36,7 @@ void RecentDisk::DeleteShortcut(const std::string& name) {
 
 void RecentDisk::WriteState(std::string_view text) {
   const auto native = files::ToNative(m_stateFile);
-  if (native) MakeFolders(native->substr(0, native->rfind('/')));
+  if (native) xdg::MakeFolder(native->substr(0, native->rfind('/')));
   files::PosixFileSystem().Replace(m_stateFile, text);
 }
 

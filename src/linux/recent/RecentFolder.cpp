@@ -1,9 +1,9 @@
 #include "linux/recent/RecentFolder.h"
 
-#include <glib.h>
 #include <utility>
 
 #include "base/Error.h"
+#include "linux/GlibHandles.h"
 
 namespace dayvane::recent {
 
@@ -14,7 +14,7 @@ constexpr std::size_t kFlood = 100;
 
 /// A path for the event log: one line of sound text, whatever bytes it has.
 std::string Shown(const std::string& nativePath) {
-  const std::unique_ptr<char, decltype(&g_free)> name(g_filename_display_name(nativePath.c_str()), &g_free);
+  const glib::Text name(g_filename_display_name(nativePath.c_str()));
   std::string shown = name.get();
   for (char& c : shown)
     if (static_cast<unsigned char>(c) < 0x20) c = '?';

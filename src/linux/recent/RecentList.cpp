@@ -3,7 +3,6 @@
 #include <QXmlStreamReader>
 #include <algorithm>
 #include <optional>
-#include <string_view>
 #include <utility>
 
 #include "linux/recent/XmlMending.h"
@@ -15,7 +14,7 @@ namespace {
 constexpr std::size_t kPiece = 65536;                ///< bytes handed to the reader at a time
 constexpr std::size_t kLongestBookmark = 1U << 20U;  ///< bytes
 constexpr int kDeepest = 64;                         ///< elements within elements
-constexpr int kMostAttributes = 256;                 ///< of one tag: Qt compares each with each
+constexpr int kMostAttributes = 64;                  ///< of one tag: Qt compares each with each
 
 /// An entry of which the end has not been read yet.
 struct OpenBookmark {
@@ -164,7 +163,8 @@ std::string_view UpToEnd(std::string_view text) {
 
 /// Reads the one bookmark that the piece starts with, if it is sound up to its end.
 void ReadPiece(std::string_view piece, std::vector<RecentEntry>& entries) {
-  if (piece.size() > kLongestBookmark || HasAbsurdTag(piece)) return;
+  const bool isTag = piece.find('>') != std::string_view::npos;
+  if (!isTag || piece.size() > kLongestBookmark || HasAbsurdTag(piece)) return;
   QXmlStreamReader xml(Unowned(piece));
   xml.setNamespaceProcessing(false);
   BookmarkCollector bookmarks;
@@ -199,8 +199,8 @@ bool ReachesEnd(std::string_view text) {
 
 }  // namespace
 
-RecentList ParseRecentList(std::string bytes) {
-  const MendedXml mended = MendXml(std::move(bytes));
+RecentList ParseRecentList(std::string_view bytes) {
+  const MendedXml mended = MendXml(bytes);
   BookmarkCollector bookmarks;
   const bool isSound = !HasAbsurdTag(mended.text) && ReadWhole(mended.text, bookmarks);
   RecentList list;

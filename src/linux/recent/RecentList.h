@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "linux/recent/Moment.h"
@@ -31,6 +32,6 @@ struct RecentList {
 /// Many programs write that file, not all with care, and other readers lose the whole list to one odd entry. Here every
 /// complete <bookmark> counts, before and after a damaged one, wherever it stands and whatever else stands there.
 /// A bookmark of more than a megabyte, or with hundreds of attributes in one tag, is passed over like a damaged one.
-RecentList ParseRecentList(std::string bytes);
+RecentList ParseRecentList(std::string_view bytes);
 
 }  // namespace dayvane::recent

@@ -2,10 +2,10 @@
 
 #include <cerrno>
 #include <fcntl.h>
-#include <glib.h>
 #include <unistd.h>
 #include <utility>
 
+#include "linux/XdgFolders.h"
 #include "linux/files/FileDescriptor.h"
 
 namespace dayvane::recent {
@@ -29,7 +29,7 @@ bool ReadUpTo(std::size_t limit, int file, std::string& bytes) {
 }  // namespace
 
 std::string DefaultListPath() {
-  return std::string(g_get_user_data_dir()) + "/recently-used.xbel";
+  return xdg::DataFolder(xdg::Environment::OfProcess()) + "/recently-used.xbel";
 }
 
 RecentListFile::RecentListFile(std::string path, std::size_t limit) : m_path(std::move(path)), m_limit(limit) {}
@@ -56,7 +56,7 @@ ListReading RecentListFile::Read() {
   ListReading reading;
   reading.condition = ReadBytes(bytes);
   if (reading.condition != ListCondition::Sound) return reading;
-  reading.list = ParseRecentList(std::move(bytes));
+  reading.list = ParseRecentList(bytes);
   if (reading.list.isWellFormed) {
     m_damaged.reset();
     return reading;

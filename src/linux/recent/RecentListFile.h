@@ -9,7 +9,7 @@
 
 namespace dayvane::recent {
 
-/// "recently-used.xbel" in the user's data folder.
+/// "recently-used.xbel" in the user's data folder, where the desktop keeps it.
 std::string DefaultListPath();
 
 enum class ListCondition { Sound, Damaged, CutShort, Missing, Unreadable, TooLarge };
@@ -24,7 +24,7 @@ class RecentListFile {
  public:
   /// A list of more than `limit` bytes is not read; a real one has half a megabyte for the thousand entries it may
   /// hold.
-  explicit RecentListFile(std::string path, std::size_t limit = 64U << 20U);
+  explicit RecentListFile(std::string path, std::size_t limit = 32U << 20U);
 
   const std::string& Path() const { return m_path; }
 

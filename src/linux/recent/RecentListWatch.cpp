@@ -3,16 +3,14 @@
 #include <chrono>
 #include <utility>
 
+#include "linux/GlibHandles.h"
+
 namespace dayvane::recent {
 
 namespace {
 
 /// A program writes the list in several steps, and one opening often means several writes.
 constexpr std::chrono::milliseconds kDelay{300};
-
-struct Release {
-  void operator()(GFile* file) const { g_object_unref(file); }
-};
 
 }  // namespace
 
@@ -25,7 +23,7 @@ RecentListWatch::RecentListWatch(const std::string& listPath, std::function<void
   m_delay.setSingleShot(true);
   m_delay.setInterval(kDelay);
   QObject::connect(&m_delay, &QTimer::timeout, &m_delay, std::move(changed));
-  const std::unique_ptr<GFile, Release> list(g_file_new_for_path(listPath.c_str()));
+  const glib::Object<GFile> list(g_file_new_for_path(listPath.c_str()));
   m_monitor.reset(g_file_monitor_file(list.get(), G_FILE_MONITOR_NONE, nullptr, nullptr));
   if (m_monitor) g_signal_connect(m_monitor.get(), "changed", G_CALLBACK(OnEvent), this);
 }

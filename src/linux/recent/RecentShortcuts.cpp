@@ -18,7 +18,7 @@ std::optional<platform::ShellLink> LinkTo(const std::string& nativePath) {
   if (!target) return std::nullopt;
   platform::ShellLink link;
   link.target = *target;
-  link.workingDirectory = target->substr(0, target->rfind('\\'));
+  // No working folder: the program then takes the document's own, in the letters that it is written with.
   return link;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 namespace dayvane::recent {
 
@@ -14,6 +15,6 @@ struct MendedXml {
 /// very same bytes; references to characters that XML forbids, as GLib writes them, likewise; an ampersand that starts
 /// no known reference stands for itself. A byte order mark and the XML declaration are taken off: the text is UTF-8
 /// whatever it says.
-MendedXml MendXml(std::string bytes);
+MendedXml MendXml(std::string_view bytes);
 
 }  // namespace dayvane::recent

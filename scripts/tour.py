@@ -1,0 +1,172 @@
+"""Dayvane at work: a made-up user opens documents over a week, and what the program makes of that is shown.
+
+    tour.py STAGE PICTURES    the folder that the program is installed in, and the folder for the pictures
+
+Everything happens on a screen of its own and in a home of its own, and is gone at the end but for the pictures.
+"""
+
+import datetime
+import pathlib
+import sys
+import time
+
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent.parent / "tests/session"))
+
+from dayvane_program import Dayvane  # noqa: E402
+from private_desktop import PrivateDesktop, need  # noqa: E402
+from recent_list import RecentList  # noqa: E402
+from waiting import wait_until  # noqa: E402
+
+SCREEN_SIZE = "1060x700"
+CAPTURE_SECONDS = 30
+PAINT_SECONDS = 10
+TWIPS = 15  # to a pixel
+THRESHOLD_DAYS = 3
+
+SETTINGS = {
+    "options": {"Favorites Threshold": THRESHOLD_DAYS},
+    "Window": {"Visible": True, "Window State": 0, "Left": 20 * TWIPS, "Top": 20 * TWIPS, "Width": 1000 * TWIPS,
+               "Height": 640 * TWIPS},
+    "Daily": {"Name Width": 200 * TWIPS, "Type Width": 160 * TWIPS, "Path Width": 270 * TWIPS,
+              "Modified Width": 70 * TWIPS, "Sort Column": 3, "Sort Order": 0},
+    "Favorites": {"Name Width": 220 * TWIPS, "Type Width": 180 * TWIPS, "Path Width": 320 * TWIPS,
+                  "Days Accessed Width": 110 * TWIPS, "Last Accessed Width": 140 * TWIPS, "Sort Column": 4,
+                  "Sort Order": 1},
+}
+VIEWS = ["daily"]
+
+# The user's programs: the types that each opens.
+PROGRAMS = {
+    "writer": ["application/vnd.oasis.opendocument.text"],
+    "calc": ["application/vnd.oasis.opendocument.spreadsheet"],
+    "reader": ["application/pdf"],
+    "photos": ["image/png"],
+    "editor": ["text/plain"],
+}
+
+BUDGET = ("Budget 2027.ods", "calc")
+MINUTES = ("Minutes of the board.odt", "writer")
+NOTES = ("Notes.txt", "editor")
+OFFER = ("Harbour/Offer to Kessler.odt", "writer")
+PLAN = ("Harbour/Site plan.png", "photos")
+SURVEY = ("Harbour/Soil survey.pdf", "reader")
+TICKET = ("Downloads/Train ticket.pdf", "reader")
+PHOTO = ("Pictures/Quay at low tide.png", "photos")
+
+# What was opened on which day, counted back from today, in the order of the day's hours.
+WEEK = {
+    6: [(9, NOTES), (10, OFFER), (14, SURVEY)],
+    5: [(9, NOTES), (11, BUDGET), (15, OFFER)],
+    4: [(8, TICKET), (16, PHOTO)],
+    3: [(9, NOTES), (10, PLAN), (13, OFFER), (17, MINUTES)],
+    2: [(10, BUDGET), (11, SURVEY), (15, OFFER)],
+    1: [(9, NOTES), (12, MINUTES), (14, PLAN), (16, BUDGET)],
+    0: [(0, SURVEY), (0, OFFER), (0, NOTES), (0, MINUTES), (0, BUDGET)],
+}
+
+
+def moments(days_ago, openings):
+    """The moments (seconds since 1970) of a day's openings: at their hours, and today's within the last minutes."""
+    now = datetime.datetime.now()
+    if days_ago == 0:
+        return [(now - datetime.timedelta(minutes=len(openings) - i)).timestamp() for i in range(len(openings))]
+    day = now - datetime.timedelta(days=days_ago)
+    return [day.replace(hour=hour, minute=7 * i + 4, second=0, microsecond=0).timestamp()
+            for i, (hour, _) in enumerate(openings)]
+
+
+def install_programs(desktop):
+    """Gives the user programs of their own, the same on every machine: each day's folder has a shortcut to those that
+    open its documents. They do nothing, because nobody starts them."""
+    applications = desktop.data / "applications"
+    programs = desktop.home / ".local/bin"
+    for folder in (applications, programs):
+        folder.mkdir(parents=True, exist_ok=True)
+    defaults = ["[Default Applications]"]
+    for name, types in PROGRAMS.items():
+        executable = programs / name
+        executable.write_text("#!/bin/sh\n", encoding="utf-8")
+        executable.chmod(0o755)
+        (applications / f"{name}.desktop").write_text(
+            f"[Desktop Entry]\nType=Application\nName={name.capitalize()}\nExec={executable} %f\n"
+            f"MimeType={';'.join(types)};\n", encoding="utf-8")
+        defaults += [f"{type}={name}.desktop" for type in types]
+    (desktop.config / "mimeapps.list").write_text("\n".join(defaults) + "\n", encoding="utf-8")
+
+
+def live_a_day(desktop, dayvane, recent, days_ago):
+    """One day's openings go into the desktop's list; ends when all are in the repository. A day at a time, because the
+    list tells only when a document was opened last."""
+    wanted = []
+    for moment, (_, (name, program)) in zip(moments(days_ago, WEEK[days_ago]), WEEK[days_ago]):
+        document = desktop.home / name
+        document.parent.mkdir(parents=True, exist_ok=True)
+        document.touch()
+        recent.opened(document, moment, PROGRAMS[program][0], program)
+        wanted.append(dayvane.day_folder(moment) / f"{document.name}.lnk")
+    recent.write()
+
+    def missing():
+        return [str(path) for path in wanted if not path.exists()]
+    wait_until(lambda: not missing(), CAPTURE_SECONDS, lambda: f"{missing()} filed")
+
+
+def take_picture(desktop, view, file):
+    """A picture of the window with its frame, once two in a row are the same and so nothing is being painted."""
+    window = desktop.window(f"^Dayvane - {view.capitalize()}$")
+    last = []
+
+    def still():
+        desktop.run(["import", "-frame", "-window", window, file])
+        last.append(desktop.run(["identify", "-format", "%#", file]))
+        return len(last) > 1 and last[-1] == last[-2]
+    wait_until(still, PAINT_SECONDS, "a window at rest")
+
+
+def show_repository(dayvane):
+    print("\nDaily, a folder for every day:")
+    days = [path for path in dayvane.daily.glob("*/*/*") if path.is_dir()]
+    for day in sorted(days, key=lambda path: time.strptime("/".join(path.parts[-3:]), "%Y/%B/%d")):
+        print(f"    {'/'.join(day.parts[-3:])}")
+        for shortcut in sorted(day.iterdir()):
+            print(f"        {shortcut.name}")
+
+
+def show_favorites(dayvane):
+    print(f"\nFavorites, opened on {THRESHOLD_DAYS} days or more:")
+    for name, days in sorted(dayvane.days_accessed().items(), key=lambda row: (-row[1], row[0])):
+        if days >= THRESHOLD_DAYS:
+            print(f"    {days} days  {name}")
+
+
+def tour(stage, pictures):
+    with PrivateDesktop(SCREEN_SIZE) as desktop:
+        recent = RecentList(desktop.data)
+        dayvane = Dayvane(desktop, stage)
+        install_programs(desktop)
+        dayvane.write_settings(**SETTINGS)
+        print("A week of work begins; Dayvane runs beside it.")
+        dayvane.start()
+        for days_ago in WEEK:
+            live_a_day(desktop, dayvane, recent, days_ago)
+        dayvane.stop()
+        show_repository(dayvane)
+        show_favorites(dayvane)
+        for number, view in enumerate(VIEWS):
+            dayvane.write_settings(View={"Data": number, "ListViews": 3}, **SETTINGS)
+            dayvane.start()
+            take_picture(desktop, view, pictures / f"{view}.png")
+            dayvane.stop()
+    print("\nPictures of the main window:")
+    for view in VIEWS:
+        print(f"    {pictures / view}.png")
+
+
+def main():
+    stage, pictures = (pathlib.Path(argument).resolve() for argument in sys.argv[1:])
+    need("xdotool", "import", "identify")
+    pictures.mkdir(parents=True, exist_ok=True)
+    tour(stage, pictures)
+
+
+main()

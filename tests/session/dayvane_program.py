@@ -1,0 +1,81 @@
+"""Dayvane itself, installed into a folder and run in a private desktop."""
+
+import csv
+import pathlib
+import signal
+import subprocess
+import time
+
+from waiting import wait_until
+
+START_SECONDS = 60
+END_SECONDS = 30
+WINDOW_TITLE = "^Dayvane - "
+
+
+def install(build_folder, stage):
+    """Installs the program from a build folder, the only form in which it keeps its data in the user's own folders."""
+    subprocess.run(["cmake", "--install", str(build_folder), "--prefix", str(stage)], check=True,
+                   stdout=subprocess.DEVNULL)
+
+
+class Dayvane:
+    def __init__(self, desktop, stage):
+        self.desktop = desktop
+        self.executable = pathlib.Path(stage) / "bin/dayvane"
+        self.folder = desktop.data / "dayvane"
+        self.recent = self.folder / "Recent"
+        self.daily = self.folder / "Daily"
+        self.favorites_file = self.folder / "Favorites.dat"
+        self.process = None
+
+    def write_settings(self, options=(), **subtrees):
+        """Stores settings: subtrees by name, values by name. With the options stored, a start is no first run and asks
+        nothing. For a program that does not run: at its end it stores its own."""
+        subtrees["Options"] = {"Favorites Threshold": 3, "Purge Age": 30, "Timer Interval": 1, **dict(options)}
+        file = self.desktop.config / "dayvane/dayvane.ini"
+        file.parent.mkdir(mode=0o700, parents=True, exist_ok=True)
+        with open(file, "w", encoding="utf-8") as text:
+            for subtree, values in subtrees.items():
+                text.write(f"[Software\\Korvath\\Dayvane\\{subtree}]\n")
+                text.writelines(f"{name}={value}\n" for name, value in values.items())
+
+    def start(self):
+        """Starts the program and returns when its window is on the screen."""
+        self.process = self.desktop.start([self.executable])
+        wait_until(self._window_or_end, START_SECONDS, "Dayvane's window")
+        if self.process.poll() is not None:
+            raise AssertionError(f"Dayvane ended at its start with {self.process.returncode}")
+
+    def stop(self):
+        """Asks the program to end, as the end of the user's session does; it saves and ends well."""
+        self.process.terminate()
+        if self.process.wait(END_SECONDS) != 0:
+            raise AssertionError(f"Dayvane ended with {self.process.returncode}")
+
+    def kill(self):
+        self.process.kill()
+        if self.process.wait(END_SECONDS) != -signal.SIGKILL:
+            raise AssertionError(f"Dayvane had ended before with {self.process.returncode}")
+
+    def day_folder(self, moment):
+        """Where what was opened at a moment (seconds since 1970) is filed: "Daily/2026/November/20"."""
+        return self.daily / time.strftime("%Y/%B/%d", time.localtime(moment))
+
+    def filed(self):
+        """Every shortcut in the repository, relative to it: "2026/November/20/Report.odt.lnk"."""
+        return sorted(str(path.relative_to(self.daily)) for path in self.daily.glob("*/*/*/*"))
+
+    def favorites(self):
+        """The data file's records as lists of eight texts: days accessed, last accessed, shortcut, name, folder, …"""
+        if not self.favorites_file.exists():
+            return []
+        with open(self.favorites_file, encoding="utf-8", newline="") as file:
+            return list(csv.reader(file))
+
+    def days_accessed(self):
+        """Days accessed by document name."""
+        return {record[3]: int(record[0]) for record in self.favorites()}
+
+    def _window_or_end(self):
+        return self.process.poll() is not None or self.desktop.windows(WINDOW_TITLE)

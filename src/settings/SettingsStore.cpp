@@ -85,12 +85,12 @@ Subtree::Subtree(platform::Registry& registry, const std::string& subtree, std::
 
 template <class Result>
 Result Subtree::Converted(std::size_t value, std::optional<Result> (*convert)(std::string_view)) const {
-  const auto& [name, defaultText] = m_values.at(value);
+  const NamedText& setting = m_values.at(value);
   std::optional<Result> result;
-  IgnoreErrors([&] { result = convert(m_key->Value(name)); });
+  IgnoreErrors([&] { result = convert(m_key->Value(setting.name)); });
   if (result) return *result;
-  m_key->AddValue(name, defaultText, platform::kRegistryString);
-  return convert(defaultText).value_or(Result{});
+  m_key->AddValue(setting.name, setting.text, platform::kRegistryString);
+  return convert(setting.text).value_or(Result{});
 }
 
 std::int16_t Subtree::Number(std::size_t value) const {

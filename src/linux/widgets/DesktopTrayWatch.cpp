@@ -15,7 +15,8 @@ constexpr int kLookMilliseconds = 2000;
 constexpr int kFirstLookMilliseconds = 300;  ///< the session bus answers before
 
 struct Free {
-  void operator()(void* memory) const { std::free(memory); }
+  // What the X library gives comes from malloc.
+  void operator()(void* memory) const { std::free(memory); }  // NOLINT(cppcoreguidelines-no-malloc)
 };
 
 /// Whether a tray of the system tray protocol owns the selection of the first screen.

@@ -26,8 +26,9 @@ double Luminance(const QColor& colour) {
 }
 
 double Contrast(const QColor& a, const QColor& b) {
-  const auto [low, high] = std::minmax(Luminance(a), Luminance(b));
-  return (high + 0.05) / (low + 0.05);
+  const double first = Luminance(a);
+  const double second = Luminance(b);
+  return (std::max(first, second) + 0.05) / (std::min(first, second) + 0.05);
 }
 
 TEST(DarkPalette, TextsCanBeRead) {

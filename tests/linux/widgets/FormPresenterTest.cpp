@@ -2,8 +2,11 @@
 #include <QDialog>
 #include <QMainWindow>
 #include <QMenuBar>
+#include <QSessionManager>
 #include <QTest>
 #include <QWhatsThis>
+#include <array>
+#include <cstddef>
 #include <gmock/gmock.h>
 
 #include "linux/widgets/FormPresenter.h"
@@ -154,9 +157,10 @@ TEST_F(FormPresenterTest, TheEndOfTheSessionIsToldAsSuch) {
   Open();
   std::vector<UnloadMode> modes;
   m_form.QueryUnload.Connect([&](bool&, UnloadMode mode) { modes.push_back(mode); });
-  QSessionManager* session = nullptr;
+  // Only Qt can make a session manager; nobody looks into this one.
+  alignas(QSessionManager) std::array<std::byte, sizeof(QSessionManager)> session{};
 
-  Q_EMIT qApp->commitDataRequest(*session);
+  Q_EMIT qApp->commitDataRequest(reinterpret_cast<QSessionManager&>(session));
 
   EXPECT_THAT(modes, ElementsAre(UnloadMode::SystemSession));
 }

@@ -20,9 +20,11 @@
 #include "linux/files/PosixFileSystem.h"
 #include "linux/help/DesktopHelp.h"
 #include "linux/registry/LinuxRegistry.h"
+#include "linux/widgets/DesktopTrayWatch.h"
 #include "linux/widgets/Icons.h"
 #include "linux/widgets/LinuxWindowing.h"
 #include "linux/widgets/MainWindow.h"
+#include "linux/widgets/TrayPresenter.h"
 #include "shell/MDayvaneMain.h"
 
 namespace dayvane {
@@ -87,18 +89,23 @@ int Run(const QApplication& qt) {
 
   const widgets::Icons icons;
   std::optional<widgets::MainWindow> window;
+  widgets::DesktopTrayWatch trayWatch;
+  std::optional<widgets::TrayPresenter> tray;
   std::optional<SignalHandlers> signals;
   const auto present = [&](FMain& mainWindow, Application& application) {
     events.SetLog(&application.eventLog);
     window.emplace(mainWindow, icons, dates);
     windowing.Register(window->Presenter());
+    tray.emplace(mainWindow.tryMain, mainWindow.mnuSysTrayPopup, mainWindow.form, trayWatch);
     signals.emplace(mainWindow);
-    mainWindow.form.Unloaded.Connect([] { QCoreApplication::quit(); });
+    // Not quit(): that asks every window first, and one that only hides when it is closed would refuse.
+    mainWindow.form.Unloaded.Connect([] { QCoreApplication::exit(0); });
   };
   const Program program = Main(desktop, *programFolder, !instance, present);
   const int result = !program.mainWindow ? kFailure : program.mainWindow->form.IsUnloaded() ? 0 : QApplication::exec();
   events.SetLog(nullptr);
   signals.reset();
+  tray.reset();
   if (window) windowing.Forget(window->Presenter());
   window.reset();
   (void)qt;

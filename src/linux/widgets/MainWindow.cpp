@@ -1,6 +1,8 @@
 #include "linux/widgets/MainWindow.h"
 
 #include <QEvent>
+#include <QMenuBar>
+#include <QToolBar>
 #include <algorithm>
 
 #include "linux/Pictures.h"
@@ -24,6 +26,11 @@ constexpr QSize kUsualSize{900, 600};
 
 MainWindow::MainWindow(FMain& main, const Icons& icons, const platform::DateConventions& dates)
     : m_main(main),
+      m_fileMenu(main.mnuFilePopup),
+      m_viewMenu(main.mnuViewPopup),
+      m_toolsMenu(main.mnuToolsPopup),
+      m_helpMenu(main.mnuHelpPopup),
+      m_toolbar(main.picMain[3], main.sftToolbar, main.linToolbar),
       m_daily(main.picDaily),
       m_favorites(main.picFavorites),
       m_calendar(main.calMain, static_cast<Qt::DayOfWeek>(dates.firstDayOfWeek)),
@@ -35,6 +42,7 @@ MainWindow::MainWindow(FMain& main, const Icons& icons, const platform::DateConv
       m_timer(main.tmrMain),
       m_form(main.form, *this, m_client) {
   setWindowIcon(PictureIcon(kNormalIcon));
+  BuildMenusAndToolbar();
   BuildClient();
   NameForScreenReaders();
   Design();
@@ -49,6 +57,14 @@ void MainWindow::BuildClient() {
   m_placement.Add(m_main.picDaily, m_daily);
   m_placement.Add(m_main.picFavorites, m_favorites);
   m_placement.Add(m_main.sbrMain, m_statusBar);
+}
+
+void MainWindow::BuildMenusAndToolbar() {
+  for (MenuPresenter* menu : {&m_fileMenu, &m_viewMenu, &m_toolsMenu, &m_helpMenu}) menuBar()->addMenu(menu);
+  QToolBar* strip = addToolBar(QStringLiteral("Toolbar"));
+  strip->setMovable(false);
+  strip->setContextMenuPolicy(Qt::PreventContextMenu);
+  strip->addWidget(&m_toolbar);
 }
 
 void MainWindow::BuildDailyPane() {

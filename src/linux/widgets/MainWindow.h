@@ -7,10 +7,12 @@
 #include "linux/widgets/FormPresenter.h"
 #include "linux/widgets/Icons.h"
 #include "linux/widgets/ListPresenter.h"
+#include "linux/widgets/MenuPresenter.h"
 #include "linux/widgets/PanePresenter.h"
 #include "linux/widgets/PaneSplitter.h"
 #include "linux/widgets/StatusBarPresenter.h"
 #include "linux/widgets/TimerPresenter.h"
+#include "linux/widgets/ToolbarPresenter.h"
 #include "linux/widgets/TreePresenter.h"
 #include "platform/DateConventions.h"
 
@@ -35,6 +37,7 @@ class MainWindow : public QMainWindow {
   void BuildClient();
   void BuildDailyPane();
   void BuildFavoritesPane();
+  void BuildMenusAndToolbar();
   void NameForScreenReaders();
   void Design();
   void DesignDailyPane();
@@ -44,6 +47,11 @@ class MainWindow : public QMainWindow {
   void LayOut();
 
   FMain& m_main;
+  MenuPresenter m_fileMenu;
+  MenuPresenter m_viewMenu;
+  MenuPresenter m_toolsMenu;
+  MenuPresenter m_helpMenu;
+  ToolbarPresenter m_toolbar;
   QWidget m_client;
   PanePresenter m_daily;
   PanePresenter m_favorites;

@@ -45,6 +45,7 @@ void FMain::GetShortcuts() {
   for (const auto& entry : Dir(m_application.desktop.files, prefix + "*.lnk", DirKinds::Files)) {
     shortcut.SetFile(prefix + entry.name);
     ProcessShortcut(&shortcut);
+    m_application.desktop.windowing.ProcessPendingMessages();
   }
   m_application.shellServices.RecentFolderCaptured();
 }

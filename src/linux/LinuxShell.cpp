@@ -3,6 +3,7 @@
 #include <chrono>
 
 #include "base/Error.h"
+#include "linux/UsersTurn.h"
 #include "linux/files/NativePath.h"
 #include "linux/links/ShellLinkFormat.h"
 
@@ -24,7 +25,7 @@ LinuxShell::LinuxShell(platform::FileSystem& files, const std::string& dataFolde
       m_launcher(reportEvent),
       m_recentFolder(NanosecondsNow, {recent::DefaultListPath(), m_recentPath, dataFolder + "/Recent.state"},
                      links::WriteShellLink, reportEvent),
-      m_watch(recent::DefaultListPath(), [this] { m_recentFolder.Look(); }) {}
+      m_watch(recent::DefaultListPath(), [this] { AfterWork(m_context, [this] { m_recentFolder.Look(); }); }) {}
 
 std::string LinuxShell::SpecialFolderPath(int number) {
   if (number != platform::kRecentFolder)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QObject>
 #include <functional>
 #include <string>
 
@@ -34,6 +35,7 @@ class LinuxShell : public platform::Shell {
   links::ShellLinkReader m_links;
   launch::Launcher m_launcher;
   recent::RecentFolder m_recentFolder;
+  QObject m_context;  ///< of what waits until the program has done with its work
   recent::RecentListWatch m_watch;
 };
 

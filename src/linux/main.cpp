@@ -1,7 +1,6 @@
 // The program on a Linux desktop: its parts are put together here, and the message loop runs.
 
 #include <QApplication>
-#include <QIcon>
 #include <QMessageBox>
 #include <cstdio>
 #include <cstdlib>
@@ -20,11 +19,9 @@
 #include "linux/files/PosixFileSystem.h"
 #include "linux/help/DesktopHelp.h"
 #include "linux/registry/LinuxRegistry.h"
-#include "linux/widgets/DesktopTrayWatch.h"
-#include "linux/widgets/Icons.h"
+#include "linux/widgets/Appearance.h"
 #include "linux/widgets/LinuxWindowing.h"
-#include "linux/widgets/MainWindow.h"
-#include "linux/widgets/TrayPresenter.h"
+#include "linux/widgets/ProgramWindows.h"
 #include "shell/MDayvaneMain.h"
 
 namespace dayvane {
@@ -46,16 +43,16 @@ int Refuse(const std::string& reason) {
 }
 
 /// The session's end, a stop from the terminal: the window saves what there is to save and goes.
-int EndOnSignal(void* mainWindow) {
-  static_cast<FMain*>(mainWindow)->form.RequestUnload(controls::UnloadMode::SystemSession);
+int EndOnSignal(void* windows) {
+  static_cast<widgets::ProgramWindows*>(windows)->EndSession();
   return G_SOURCE_CONTINUE;
 }
 
 class SignalHandlers {
  public:
-  explicit SignalHandlers(FMain& mainWindow) {
+  explicit SignalHandlers(widgets::ProgramWindows& windows) {
     for (const int signal : {SIGTERM, SIGINT, SIGHUP})
-      m_sources.push_back(g_unix_signal_add(signal, EndOnSignal, &mainWindow));
+      m_sources.push_back(g_unix_signal_add(signal, EndOnSignal, &windows));
   }
   SignalHandlers(const SignalHandlers&) = delete;
   SignalHandlers& operator=(const SignalHandlers&) = delete;
@@ -67,7 +64,7 @@ class SignalHandlers {
   std::vector<guint> m_sources;
 };
 
-int Run(const QApplication& qt) {
+int Run() {
   const xdg::Environment environment = xdg::Environment::OfProcess();
   const ProgramFolders folders = FindProgramFolders(QCoreApplication::applicationFilePath().toStdString(), environment);
   MakeDataFolder(folders.data);
@@ -81,34 +78,26 @@ int Run(const QApplication& qt) {
   LinuxShell shell(files, folders.data, report);
   LinuxShellIcons shellIcons;
   LinuxRegistry registry(DefaultSettingsFile(), report);
+  const widgets::Appearance appearance;
   widgets::LinuxWindowing windowing;
   help::DesktopHelp help(folders.resources);
   SystemClock clock;
   const platform::DateConventions dates = DateConventionsOf();
   const platform::Desktop desktop{files, shell, shellIcons, registry, windowing, help, clock, dates};
 
-  const widgets::Icons icons;
-  std::optional<widgets::MainWindow> window;
-  widgets::DesktopTrayWatch trayWatch;
-  std::optional<widgets::TrayPresenter> tray;
-  std::optional<SignalHandlers> signals;
-  const auto present = [&](FMain& mainWindow, Application& application) {
-    events.SetLog(&application.eventLog);
-    window.emplace(mainWindow, icons, dates);
-    windowing.Register(window->Presenter());
-    tray.emplace(mainWindow.tryMain, mainWindow.mnuSysTrayPopup, mainWindow.form, trayWatch);
-    signals.emplace(mainWindow);
-    // Not quit(): that asks every window first, and one that only hides when it is closed would refuse.
-    mainWindow.form.Unloaded.Connect([] { QCoreApplication::exit(0); });
-  };
-  const Program program = Main(desktop, *programFolder, !instance, present);
+  const std::string helpFile = *programFolder + "\\Dayvane.hlp";
+  Program program;
+  widgets::ProgramWindows windows(windowing, dates,
+                                  [&](int contextId, QPoint at) { help.ShowPopup(helpFile, contextId, at); });
+  const SignalHandlers signals(windows);
+  program = Main(desktop, *programFolder, !instance,
+                 {[&](FSplash& splash) { windows.Present(splash); },
+                  [&](FMain& mainWindow, Application& application) {
+                    events.SetLog(&application.eventLog);
+                    windows.Present(mainWindow);
+                  }});
   const int result = !program.mainWindow ? kFailure : program.mainWindow->form.IsUnloaded() ? 0 : QApplication::exec();
   events.SetLog(nullptr);
-  signals.reset();
-  tray.reset();
-  if (window) windowing.Forget(window->Presenter());
-  window.reset();
-  (void)qt;
   return result;
 }
 
@@ -126,7 +115,7 @@ int main(int argc, char** argv) {
   QApplication::setDesktopFileName(QStringLiteral("dayvane"));
   QApplication::setQuitOnLastWindowClosed(false);
   try {
-    return dayvane::Run(qt);
+    return dayvane::Run();
   } catch (const std::exception& error) {
     return dayvane::Refuse(error.what());
   }

@@ -46,6 +46,7 @@ void CRepository::m_oPurgeWalker_ItemFound(const std::string& path, const std::s
   }
   PurgeDay(path + fileName);
   m_purged = true;
+  m_application.desktop.windowing.ProcessPendingMessages();
 }
 
 bool CRepository::ConfirmPurge() const {

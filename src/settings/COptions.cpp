@@ -57,6 +57,7 @@ bool COptions::ChangeValues() {
   dialog.SetFavoritesThreshold(m_favoritesThreshold);
   dialog.SetPurgeAge(m_purgeAge);
   dialog.SetTimerInterval(m_timerInterval);
+  DialogLoaded.Raise(dialog);
   if (!dialog.GetValues()) return false;
   m_favoritesThreshold = dialog.FavoritesThreshold();
   m_purgeAge = dialog.PurgeAge();

@@ -3,8 +3,11 @@
 #include <cstdint>
 
 #include "app/Application.h"
+#include "controls/Signal.h"
 
 namespace dayvane {
+
+class FOptions;
 
 /// Reads and changes the user's three options. It keeps nothing between uses: the registry is the only lasting copy.
 /// Values are taken from it as they stand; only the options dialog checks their ranges.
@@ -27,6 +30,8 @@ class COptions {
   std::int32_t FavoritesThreshold() const { return m_favoritesThreshold; }  ///< days; 0 before a read
   std::int32_t PurgeAge() const { return m_purgeAge; }                      ///< days; 0 before a read
   std::int32_t TimerInterval() const { return m_timerInterval; }            ///< seconds; 0 before a read
+
+  controls::Signal<FOptions&> DialogLoaded;  ///< for presenters: the dialog holds the values and is shown next
 
  private:
   void CreateOptionRegistryKeys();

@@ -33,6 +33,10 @@ FOptions::FOptions(Application& application) : m_application(application) {
   ConnectControls();
 }
 
+FOptions::~FOptions() {
+  form.RequestUnload(controls::UnloadMode::Code);
+}
+
 void FOptions::Form_Load() {
   form.SetCaption(m_application.info.title + " Options");
   for (std::size_t i = 0; i < kFields; ++i) {
@@ -47,6 +51,13 @@ void FOptions::Form_Load() {
   cmdOptions[kHelp].SetCaption("&Help");
 }
 
+void FOptions::Form_QueryUnload(bool& cancel, controls::UnloadMode mode) {
+  // Whoever closes the dialog has cancelled it; it goes when its owner is done with it.
+  if (mode == controls::UnloadMode::Code) return;
+  cancel = true;
+  cmdOptions[kCancel].Press();
+}
+
 void FOptions::ConnectControls() {
   for (std::size_t i = 0; i < kFields; ++i) {
     txtOptions[i].GotFocus.Connect([this, i] { txtOptions_GotFocus(i); });
@@ -55,6 +66,7 @@ void FOptions::ConnectControls() {
     udOptions[i].DownClick.Connect([this, i] { udOptions_DownClick(i); });
   }
   for (std::size_t i = 0; i < cmdOptions.size(); ++i) cmdOptions[i].Click.Connect([this, i] { cmdOptions_Click(i); });
+  form.QueryUnload.Connect([this](bool& cancel, controls::UnloadMode mode) { Form_QueryUnload(cancel, mode); });
   form.KeyUp.Connect([this](int keyCode, int) {
     if (keyCode == kF1Key) DisplayHelp();
   });

@@ -23,6 +23,7 @@ class FOptions {
   explicit FOptions(Application& application);
   FOptions(const FOptions&) = delete;
   FOptions& operator=(const FOptions&) = delete;
+  ~FOptions();  ///< unloads the dialog
 
   /// Reading converts the field's text and fails with kTypeMismatch when it is no number.
   std::int32_t FavoritesThreshold() const { return Number(0); }
@@ -46,6 +47,7 @@ class FOptions {
 
  private:
   void Form_Load();
+  void Form_QueryUnload(bool& cancel, controls::UnloadMode mode);
   void ConnectControls();
   void cmdOptions_Click(std::size_t index);
   void txtOptions_GotFocus(std::size_t index);

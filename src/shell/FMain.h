@@ -25,6 +25,8 @@
 
 namespace dayvane {
 
+class FOptions;
+
 /// The program's only main window: its controls and its procedures. The procedures of capture and of the views lie in
 /// the rooms of their concern (capture/FMainCapture.cpp, views/FMain*.cpp); what can be said without a window is a
 /// class or function of its room. A desktop presents the controls and calls their events.
@@ -87,6 +89,8 @@ class FMain {
   void RefreshStatusBar(std::unique_ptr<CWaitCursor> waitCursor = nullptr);
 
   CFavorites* Favorites() const { return m_oFavorites.get(); }
+
+  controls::Signal<FOptions&> OptionsLoaded;  ///< for presenters: the options dialog is shown next
 
   // The window and its controls.
   controls::Form form;

@@ -184,6 +184,7 @@ void FMain::SetOptions() {
     const std::int32_t threshold = m_favoritesThreshold;
     const std::int32_t interval = m_timerInterval;
     COptions options(m_application);
+    options.DialogLoaded.Connect([this](FOptions& dialog) { OptionsLoaded.Raise(dialog); });
     if (!options.ChangeValues()) return;
     m_favoritesThreshold = options.FavoritesThreshold();
     m_purgeAge = options.PurgeAge();

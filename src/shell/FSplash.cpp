@@ -4,8 +4,7 @@
 
 namespace dayvane {
 
-FSplash::FSplash(const Application& application) {
-  const ProgramInfo& info = application.info;
+FSplash::FSplash(const ProgramInfo& info) {
   form.SetCaption(info.title);
   imgLogo.SetPicture(kLogoPicture);
   lblProductName.SetCaption(info.title);

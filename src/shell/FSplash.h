@@ -13,12 +13,17 @@ class FSplash {
  public:
   static constexpr const char* kName = "FSplash";
 
-  explicit FSplash(const Application& application);
+  explicit FSplash(const ProgramInfo& info);
   FSplash(const FSplash&) = delete;
   FSplash& operator=(const FSplash&) = delete;
 
+  /// Shows the window and returns at once.
   void Show() { form.SetVisible(true); }
+
   void Unload() { form.RequestUnload(controls::UnloadMode::Code); }
+
+  /// What a click anywhere on the window does.
+  void Click() { Unload(); }
 
   controls::Form form;
   controls::Image imgLogo;
@@ -27,9 +32,6 @@ class FSplash {
   controls::Label lblCompany;
   controls::Label lblCopyright;
   controls::Label lblWarning;
-
-  /// What a click anywhere on the window does.
-  void Click() { Unload(); }
 };
 
 }  // namespace dayvane

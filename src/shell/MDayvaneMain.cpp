@@ -6,7 +6,7 @@
 namespace dayvane {
 
 Program Main(const platform::Desktop& desktop, const std::string& programFolder, bool alreadyRunning,
-             const Present& present) {
+             const Presentation& presentation) {
   Program program;
   if (alreadyRunning) {
     IgnoreErrors([&] {
@@ -15,15 +15,23 @@ Program Main(const platform::Desktop& desktop, const std::string& programFolder,
     });
     return program;
   }
+  program.splash = std::make_unique<FSplash>(ThisProgram());
+  FSplash& splash = *program.splash;
+  IgnoreErrors([&] {
+    presentation.splash(splash);
+    splash.Show();
+    desktop.windowing.ProcessPendingMessages();
+  });
   program.application = std::make_unique<Application>(desktop, programFolder);
   Application& application = *program.application;
   ReportErrors(application, kStartingTheProgram, "MDayvane", "Main", [&] {
     program.repository = std::make_unique<CRepository>(application);
     desktop.windowing.ProcessPendingMessages();
     program.mainWindow = std::make_unique<FMain>(application, *program.repository);
-    present(*program.mainWindow, application);
-    program.mainWindow->Form_Load();
+    presentation.mainWindow(*program.mainWindow, application);
+    program.mainWindow->Form_Load([&splash] { splash.Unload(); });
   });
+  splash.Unload();
   return program;
 }
 

@@ -137,6 +137,7 @@ void CFavorites::m_oDirectoryWalker_ItemFound(CShortcut& shortcut, const std::st
                                               const std::string& fileName) {
   shortcut.SetFile(path + fileName);
   ProcessShortcut(&shortcut);
+  m_application.desktop.windowing.ProcessPendingMessages();
 }
 
 }  // namespace dayvane

@@ -19,17 +19,25 @@ DesktopHelp::DesktopHelp(std::string resourceFolder) : m_resourceFolder(std::mov
 DesktopHelp::~DesktopHelp() = default;
 
 void DesktopHelp::ShowHelp(const std::string& helpFile, int command, int contextId) {
-  if (!m_viewer) m_viewer = std::make_unique<HelpViewer>(LocateHelpFile(helpFile, m_resourceFolder));
   switch (command) {
     case platform::kHelpContext:
-      m_viewer->ShowTopic(contextId);
+      Viewer(helpFile).ShowTopic(contextId);
       break;
     case platform::kHelpContextPopup:
-      m_viewer->ShowPopup(contextId, QCursor::pos());
+      ShowPopup(helpFile, contextId, QCursor::pos());
       break;
     default:
-      m_viewer->ShowContents();
+      Viewer(helpFile).ShowContents();
   }
+}
+
+void DesktopHelp::ShowPopup(const std::string& helpFile, int contextId, const QPoint& at) {
+  Viewer(helpFile).ShowPopup(contextId, at);
+}
+
+HelpViewer& DesktopHelp::Viewer(const std::string& helpFile) {
+  if (!m_viewer) m_viewer = std::make_unique<HelpViewer>(LocateHelpFile(helpFile, m_resourceFolder));
+  return *m_viewer;
 }
 
 }  // namespace dayvane::help

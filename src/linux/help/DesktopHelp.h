@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPoint>
 #include <QString>
 #include <memory>
 #include <string>
@@ -24,7 +25,12 @@ class DesktopHelp : public platform::Help {
   /// A command other than those of platform/Help.h shows the contents.
   void ShowHelp(const std::string& helpFile, int command, int contextId) override;
 
+  /// Explains a control in a small window at a point of the screen.
+  void ShowPopup(const std::string& helpFile, int contextId, const QPoint& at);
+
  private:
+  HelpViewer& Viewer(const std::string& helpFile);
+
   std::string m_resourceFolder;
   std::unique_ptr<HelpViewer> m_viewer;
 };

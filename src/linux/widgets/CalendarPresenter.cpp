@@ -5,6 +5,8 @@
 #include <QScopedValueRollback>
 #include <QTextCharFormat>
 
+#include "linux/UsersTurn.h"
+
 namespace dayvane::widgets {
 
 namespace {
@@ -91,8 +93,10 @@ void CalendarPresenter::ShowMonth(int year, int month) {
 
 void CalendarPresenter::Choose(QDate date) {
   if (m_showing || ToDay(date) == m_control.CurrentDate()) return;
-  m_control.SetCurrentDate(ToDay(date));
-  Show();  // the program may have refused
+  AfterWork(*this, [this, date] {
+    m_control.SetCurrentDate(ToDay(date));
+    Show();  // the program may have refused
+  });
 }
 
 }  // namespace dayvane::widgets

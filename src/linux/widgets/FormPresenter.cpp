@@ -8,6 +8,7 @@
 #include <QWhatsThis>
 #include <QWidget>
 
+#include "linux/UsersTurn.h"
 #include "linux/widgets/ControlLink.h"
 #include "linux/widgets/Keys.h"
 #include "linux/widgets/Lengths.h"
@@ -23,10 +24,18 @@ namespace {
 // A window that is maximised first moves and then says why: its place is told when it has come to rest.
 constexpr int kRestMilliseconds = 200;
 
+constexpr int kLookAgainMilliseconds = 50;
+
 constexpr QSize kUsualFrame{10, 36};  ///< logical pixels, before the real one is known
 
 QRectF PlaceOf(const controls::Form& form) {
   return {form.Left(), form.Top(), form.Width(), form.Height()};
+}
+
+/// The help context of a widget or of what it is a part of; 0 for none.
+int HelpIdAt(const QWidget* widget) {
+  while (widget != nullptr && widget->property(kHelpIdProperty).toInt() == 0) widget = widget->parentWidget();
+  return widget == nullptr ? 0 : widget->property(kHelpIdProperty).toInt();
 }
 
 QSize FrameOf(const QWidget& window) {
@@ -41,7 +50,7 @@ FormPresenter::FormPresenter(controls::Form& form, QWidget& window, QWidget& ins
   m_placeTimer.setSingleShot(true);
   m_placeTimer.setInterval(kRestMilliseconds);
   connect(&m_placeTimer, &QTimer::timeout, this, [this] { TellPlace(); });
-  connect(qApp, &QGuiApplication::commitDataRequest, this, [this] { RequestUnload(UnloadMode::SystemSession); });
+  connect(qApp, &QGuiApplication::commitDataRequest, this, [this] { EndSession(); });
   m_connections.push_back(form.Changed.ConnectScoped([this] { Show(); }));
   m_connections.push_back(form.WhatsThisWanted.ConnectScoped([] { QWhatsThis::enterWhatsThisMode(); }));
   m_connections.push_back(form.RefreshWanted.ConnectScoped([this] { m_window.repaint(); }));
@@ -59,8 +68,18 @@ bool FormPresenter::RequestUnload(UnloadMode mode) {
   return m_form.RequestUnload(mode);
 }
 
+void FormPresenter::EndSession() {
+  if (!IsAsking() && !IsAtWork()) {
+    RequestUnload(UnloadMode::SystemSession);
+    return;
+  }
+  if (QWidget* asking = QApplication::activeModalWidget()) asking->close();
+  QTimer::singleShot(kLookAgainMilliseconds, this, [this] { EndSession(); });
+}
+
 void FormPresenter::ShowModal() {
-  m_window.setWindowModality(Qt::ApplicationModal);
+  // Help can be read beside a dialog, so only its owner is closed to the user.
+  m_window.setWindowModality(m_window.parentWidget() != nullptr ? Qt::WindowModal : Qt::ApplicationModal);
   m_form.SetVisible(true);
   QEventLoop loop;
   const auto hidden = m_form.Changed.ConnectScoped([&] {
@@ -96,7 +115,7 @@ bool FormPresenter::WindowEvent(QEvent* event) {
     case QEvent::Close:
       return Close(event);
     case QEvent::KeyPress:
-      return EscapeCloses(*static_cast<QKeyEvent*>(event));
+      return KeyDown(*static_cast<QKeyEvent*>(event));
     case QEvent::KeyRelease:
       KeyUp(*static_cast<QKeyEvent*>(event));
       return false;
@@ -109,8 +128,13 @@ bool FormPresenter::WindowEvent(QEvent* event) {
 }
 
 bool FormPresenter::Close(QEvent* event) {
-  event->setAccepted(RequestUnload(UnloadMode::ControlMenu));
+  event->setAccepted(!IsAtWork() && RequestUnload(UnloadMode::ControlMenu));
   return true;
+}
+
+bool FormPresenter::KeyDown(const QKeyEvent& event) {
+  if (event.key() == Qt::Key_F1 && event.modifiers() == Qt::ShiftModifier) return ExplainFocus();
+  return EscapeCloses(event);
 }
 
 bool FormPresenter::EscapeCloses(const QKeyEvent& event) {
@@ -121,12 +145,20 @@ bool FormPresenter::EscapeCloses(const QKeyEvent& event) {
 }
 
 bool FormPresenter::WhatsThis(const QHelpEvent& event, bool show) {
-  const QWidget* widget = QApplication::widgetAt(event.globalPos());
-  while (widget != nullptr && widget->property(kHelpIdProperty).toInt() == 0) widget = widget->parentWidget();
-  if (widget == nullptr) return false;
+  const int id = HelpIdAt(QApplication::widgetAt(event.globalPos()));
+  if (id == 0) return false;
   if (!show) return true;
   QWhatsThis::leaveWhatsThisMode();
-  if (m_showTopic) m_showTopic(widget->property(kHelpIdProperty).toInt());
+  if (m_showTopic) m_showTopic(id, event.globalPos());
+  return true;
+}
+
+bool FormPresenter::ExplainFocus() {
+  const QWidget* widget = m_window.focusWidget();
+  if (const int id = HelpIdAt(widget); id != 0 && m_showTopic)
+    m_showTopic(id, widget->mapToGlobal(widget->rect().center()));
+  else
+    QWhatsThis::enterWhatsThisMode();
   return true;
 }
 

@@ -31,14 +31,18 @@ class FormPresenter : public QObject {
   /// Asks the form to go, after it was told where its window is.
   bool RequestUnload(controls::UnloadMode mode);
 
+  /// The user's session ends: what the program still asks is closed, and the form goes as soon as it can.
+  void EndSession();
+
   /// Shows the form and returns when it is hidden again.
   void ShowModal();
 
   /// In front of the other windows, with the keyboard.
   void BringToFront();
 
-  /// What shows the help topic of a control that was clicked in What's-This mode.
-  void SetTopicHelp(std::function<void(int id)> show) { m_showTopic = std::move(show); }
+  /// What shows the help topic of a control, at a point of the screen: in What's-This mode that of the control that is
+  /// clicked, at Shift+F1 that of the control with the keyboard.
+  void SetTopicHelp(std::function<void(int id, QPoint at)> show) { m_showTopic = std::move(show); }
 
   bool eventFilter(QObject* object, QEvent* event) override;
 
@@ -46,7 +50,9 @@ class FormPresenter : public QObject {
   bool WindowEvent(QEvent* event);
   bool Close(QEvent* event);
   bool EscapeCloses(const QKeyEvent& event);
+  bool KeyDown(const QKeyEvent& event);
   bool WhatsThis(const QHelpEvent& event, bool show);
+  bool ExplainFocus();
   void KeyUp(const QKeyEvent& event);
   void TellScale();
   void TellState();
@@ -61,7 +67,7 @@ class FormPresenter : public QObject {
   controls::Form& m_form;
   QWidget& m_window;
   QWidget& m_inside;
-  std::function<void(int)> m_showTopic;
+  std::function<void(int, QPoint)> m_showTopic;
   QTimer m_placeTimer;
   QRectF m_shownPlace;  ///< twips
   controls::WindowState m_shownState = controls::WindowState::Normal;

@@ -2,11 +2,14 @@
 
 #include <QApplication>
 #include <QCursor>
+#include <QDeadlineTimer>
 #include <QMessageBox>
 #include <QWindow>
+#include <algorithm>
 #include <glib.h>
 
 #include "linux/Pictures.h"
+#include "linux/UsersTurn.h"
 #include "linux/widgets/FormPresenter.h"
 #include "linux/widgets/Lengths.h"
 #include "shell/MResourceConstants.h"
@@ -18,6 +21,9 @@ using platform::MessageAnswer;
 
 namespace {
 
+constexpr int kBetweenPaintsMilliseconds = 50;
+constexpr int kLongestWaitMilliseconds = 300;
+
 /// The arrow for as long as the user has something to answer, also in the middle of work under the hourglass.
 class ArrowPointer {
  public:
@@ -25,7 +31,18 @@ class ArrowPointer {
   ArrowPointer(const ArrowPointer&) = delete;
   ArrowPointer& operator=(const ArrowPointer&) = delete;
   ~ArrowPointer() { QGuiApplication::restoreOverrideCursor(); }
+
+ private:
+  QuestionScope m_question;
 };
+
+/// A window that was just shown is on the screen only when the window manager has put it there.
+void WaitUntilPainted(const QWidget& window) {
+  const QDeadlineTimer late(kLongestWaitMilliseconds);
+  do QCoreApplication::processEvents(QEventLoop::AllEvents, kBetweenPaintsMilliseconds);
+  while (!window.windowHandle()->isExposed() && !late.hasExpired());
+  QCoreApplication::processEvents();
+}
 
 QMessageBox::Icon IconOf(const Message& message) {
   switch (message.icon) {
@@ -93,18 +110,36 @@ void LinuxWindowing::Beep() {
 }
 
 void LinuxWindowing::ProcessPendingMessages() {
-  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+  if (m_sinceEvents.isValid() && m_sinceEvents.elapsed() < kBetweenPaintsMilliseconds) return;
+  const WorkScope work;
+  if (const QWidget* splash = ShownSplash(); splash != nullptr && !m_sinceEvents.isValid())
+    WaitUntilPainted(*splash);
+  else
+    QCoreApplication::processEvents(splash != nullptr ? QEventLoop::AllEvents : QEventLoop::ExcludeUserInputEvents);
+  m_sinceEvents.start();
+}
+
+QWidget* LinuxWindowing::ShownSplash() const {
+  const auto found = std::find_if(m_presenters.begin(), m_presenters.end(), [](const auto& presenter) {
+    const QWidget& window = presenter.second->Window();
+    return window.windowType() == Qt::SplashScreen && window.isVisible();
+  });
+  return found == m_presenters.end() ? nullptr : &found->second->Window();
 }
 
 void LinuxWindowing::ShowModal(controls::Form& form) {
-  if (FormPresenter* presenter = Find(form)) presenter->ShowModal();
+  FormPresenter* presenter = Find(form);
+  if (presenter == nullptr) return;
+  const ArrowPointer arrow;
+  presenter->ShowModal();
 }
 
 void LinuxWindowing::PostMessage(controls::Form& form, int message) {
   FormPresenter* presenter = Find(form);
   if (presenter == nullptr || message != platform::kWmClose) return;
   const auto close = [presenter] { presenter->RequestUnload(controls::UnloadMode::Code); };
-  QMetaObject::invokeMethod(presenter, close, Qt::QueuedConnection);
+  QMetaObject::invokeMethod(
+      presenter, [presenter, close] { OnUsersTurn(*presenter, close); }, Qt::QueuedConnection);
 }
 
 void LinuxWindowing::SetForegroundWindow(controls::Form& form) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QElapsedTimer>
 #include <map>
 #include <memory>
 
@@ -22,7 +23,7 @@ class LinuxWindowing : public platform::Windowing {
   void Beep() override;
   void ShowAbout(const platform::About& about) override;
 
-  /// Paints and timers run; what the user does meanwhile waits, or it would meet a program in the middle of its work.
+  /// Runs waiting events now and then. A splash window is the one that the user can get rid of meanwhile.
   void ProcessPendingMessages() override;
 
   void ShowModal(controls::Form& form) override;
@@ -35,10 +36,12 @@ class LinuxWindowing : public platform::Windowing {
 
  private:
   FormPresenter* Find(const controls::Form& form) const;
+  QWidget* ShownSplash() const;
   void Popup(FormPresenter* presenter, controls::Menu& menu, int defaultItem, QPoint at);
 
   std::map<const controls::Form*, FormPresenter*> m_presenters;
   std::unique_ptr<MenuPresenter> m_popup;  ///< the menu popped up last
+  QElapsedTimer m_sinceEvents;             ///< since pending messages were run last
 };
 
 }  // namespace dayvane::widgets

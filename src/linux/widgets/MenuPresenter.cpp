@@ -1,5 +1,7 @@
 #include "linux/widgets/MenuPresenter.h"
 
+#include "linux/UsersTurn.h"
+
 namespace dayvane::widgets {
 
 MenuPresenter::MenuPresenter(controls::Menu& menu, QWidget* parent)
@@ -53,7 +55,7 @@ void MenuPresenter::ShowItem(int index) {
 
 void MenuPresenter::Choose(int index) {
   ShowItem(index);  // the widget has turned the check mark by itself
-  m_menu.Choose(index);
+  OnUsersTurn(*this, [this, index] { m_menu.Choose(index); });
 }
 
 }  // namespace dayvane::widgets

@@ -1,9 +1,13 @@
 #include "linux/widgets/TimerPresenter.h"
 
+#include "linux/UsersTurn.h"
+
 namespace dayvane::widgets {
 
 TimerPresenter::TimerPresenter(controls::Timer& control) : m_control(control) {
-  QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this] { m_control.Fire(); });
+  QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this] {
+    if (!IsAtWork()) m_control.Fire();
+  });
   m_changed = control.Changed.ConnectScoped([this] { Show(); });
   Show();
 }

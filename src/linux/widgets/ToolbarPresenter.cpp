@@ -4,6 +4,7 @@
 #include <array>
 
 #include "linux/Pictures.h"
+#include "linux/UsersTurn.h"
 #include "linux/widgets/Lengths.h"
 #include "shell/MResourceConstants.h"
 
@@ -54,7 +55,8 @@ void ToolbarPresenter::AddButton(controls::Button& button, int index) {
   widget.setFocusPolicy(Qt::TabFocus);
   m_layout.addWidget(&widget);
   connect(
-      &widget, &QToolButton::clicked, this, [&button] { button.Press(); }, Qt::QueuedConnection);
+      &widget, &QToolButton::clicked, this, [this, &button] { OnUsersTurn(*this, [&button] { button.Press(); }); },
+      Qt::QueuedConnection);
   m_buttons.back().link = std::make_unique<ControlLink>(button, widget, [&button, &widget] {
     widget.setToolTip(QString::fromStdString(button.ToolTipText()));
     widget.setAccessibleName(widget.toolTip());

@@ -1,6 +1,9 @@
 #include "linux/widgets/TrayPresenter.h"
 
+#include <QApplication>
+
 #include "linux/Pictures.h"
+#include "linux/UsersTurn.h"
 
 namespace dayvane::widgets {
 
@@ -29,7 +32,15 @@ TrayPresenter::TrayPresenter(controls::SystemTray& control, controls::Menu& menu
 
 void TrayPresenter::Activate(QSystemTrayIcon::ActivationReason reason) {
   constexpr int kId = 0;
-  if (const int button = ButtonOf(reason); button != 0) m_control.MouseUp.Raise(button, kId);
+  const int button = ButtonOf(reason);
+  if (button == 0) return;
+  // An open box or dialog must be answered first; the user may have lost sight of it.
+  if (QWidget* asking = QApplication::activeModalWidget()) {
+    asking->raise();
+    asking->activateWindow();
+    return;
+  }
+  AfterWork(m_menu, [this, button] { m_control.MouseUp.Raise(button, kId); });
 }
 
 void TrayPresenter::Show() {

@@ -3,6 +3,7 @@
 #include <QScopedValueRollback>
 #include <QScrollBar>
 
+#include "linux/UsersTurn.h"
 #include "linux/widgets/Lengths.h"
 
 namespace dayvane::widgets {
@@ -43,9 +44,7 @@ void TreePresenter::ListenToUser() {
                // Who has no mouse gets at the node's menu by the keyboard.
                if (key == kKeyF10 && modifiers == kAltMask) RaiseMouseUp(2, visualRect(currentIndex()).center());
              }});
-  connect(&m_selection, &QItemSelectionModel::selectionChanged, this, [this](const QItemSelection& selected) {
-    if (!m_showing && !IsPressing() && !selected.isEmpty()) Click(selected.indexes().first());
-  });
+  connect(&m_selection, &QItemSelectionModel::selectionChanged, this, [this] { SelectionMoved(); });
   connect(this, &QTreeView::expanded, this, [this](const QModelIndex& index) {
     if (const controls::TreeNode* node = m_model.NodeAt(index)) m_open.insert(node->key);
   });
@@ -105,6 +104,13 @@ void TreePresenter::OpenAgain() {
 
 void TreePresenter::OpenPathTo(const QModelIndex& index) {
   for (QModelIndex parent = index.parent(); parent.isValid(); parent = parent.parent()) expand(parent);
+}
+
+void TreePresenter::SelectionMoved() {
+  if (m_showing || IsPressing()) return;
+  if (IsAtWork()) return AfterWork(*this, [this] { SelectionMoved(); });
+  const QModelIndexList selected = m_selection.selectedIndexes();
+  if (!selected.isEmpty()) Click(selected.first());
 }
 
 void TreePresenter::Click(const QModelIndex& index) {

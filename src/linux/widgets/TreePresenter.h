@@ -36,6 +36,7 @@ class TreePresenter : public ClassicView<QTreeView> {
   void OpenAgain();
   void OpenPathTo(const QModelIndex& index);
 
+  void SelectionMoved();
   void Click(const QModelIndex& index);
   void RaiseMouseUp(int button, QPoint at);
 

@@ -220,7 +220,7 @@ TEST_F(FormPresenterTest, AClickInWhatsThisModeShowsTheControlsTopic) {
   control.setGeometry(0, 0, 100, 100);
   Open();
   std::vector<int> topics;
-  m_presenter.SetTopicHelp([&](int id) { topics.push_back(id); });
+  m_presenter.SetTopicHelp([&](int id, QPoint) { topics.push_back(id); });
 
   m_form.WhatsThisMode();
   QTest::mouseClick(&control, Qt::LeftButton, {}, {50, 50});

@@ -1,0 +1,81 @@
+#include "linux/widgets/NumberFieldPresenter.h"
+
+#include <QAccessible>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <algorithm>
+#include <cstdlib>
+
+namespace dayvane::widgets {
+
+namespace {
+
+constexpr int kBackspace = 8;
+constexpr int kWidestDigits = 12;
+
+}  // namespace
+
+NumberFieldPresenter::NumberFieldPresenter(controls::TextBox& text, controls::UpDown& arrows, QWidget* parent)
+    : QAbstractSpinBox(parent), m_text(text), m_arrows(arrows), m_link(text, *this, [this] { ShowText(); }) {
+  lineEdit()->setMinimumWidth(fontMetrics().horizontalAdvance(QString(kWidestDigits, QLatin1Char('0'))));
+  connect(lineEdit(), &QLineEdit::textChanged, this, [this](const QString& now) { m_text.SetText(now.toStdString()); });
+  m_selectionWanted = text.SelectionWanted.ConnectScoped([this] { ShowSelection(); });
+  m_link.Show();
+}
+
+void NumberFieldPresenter::stepBy(int steps) {
+  controls::Signal<>& click = steps > 0 ? m_arrows.UpClick : m_arrows.DownClick;
+  for (int i = 0; i < std::abs(steps); ++i) {
+    const std::string before = m_text.Text();
+    click.Raise();
+    if (m_text.Text() == before) return;  // the end is reached, which is beeped once and not for every step
+  }
+}
+
+QAbstractSpinBox::StepEnabled NumberFieldPresenter::stepEnabled() const {
+  return StepUpEnabled | StepDownEnabled;
+}
+
+void NumberFieldPresenter::focusInEvent(QFocusEvent* event) {
+  QAbstractSpinBox::focusInEvent(event);
+  m_text.GotFocus.Raise();
+}
+
+void NumberFieldPresenter::keyPressEvent(QKeyEvent* event) {
+  const bool isCommand = event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+  if (isCommand || Types(event->text())) QAbstractSpinBox::keyPressEvent(event);
+}
+
+void NumberFieldPresenter::inputMethodEvent(QInputMethodEvent* event) {
+  if (Types(event->commitString())) QAbstractSpinBox::inputMethodEvent(event);
+}
+
+bool NumberFieldPresenter::Types(const QString& typed) {
+  // Keys without a character of their own, such as Enter, are the dialog's.
+  return std::all_of(typed.begin(), typed.end(), [this](QChar character) {
+    return (!character.isPrint() && character.unicode() != kBackspace) || m_text.Type(character.unicode());
+  });
+}
+
+int NumberFieldPresenter::Value() const {
+  return text().toInt();
+}
+
+void NumberFieldPresenter::SetValue(int value) {
+  m_text.SetText(std::to_string(value));
+}
+
+void NumberFieldPresenter::ShowText() {
+  const QString shown = QString::fromStdString(m_text.Text());
+  if (shown == text()) return;
+  lineEdit()->setText(shown);
+  QAccessibleValueChangeEvent changed(this, Value());
+  QAccessible::updateAccessibility(&changed);
+}
+
+void NumberFieldPresenter::ShowSelection() {
+  lineEdit()->setSelection(m_text.SelStart(), m_text.SelLength());
+}
+
+}  // namespace dayvane::widgets

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QAbstractSpinBox>
+#include <vector>
+
+#include "controls/TextControls.h"
+#include "linux/widgets/ControlLink.h"
+
+namespace dayvane::widgets {
+
+/// Shows a text box and the pair of arrows beside it as one field. What may be typed and how far the arrows go is the
+/// program's business.
+class NumberFieldPresenter : public QAbstractSpinBox {
+  Q_OBJECT
+  Q_PROPERTY(int value READ Value WRITE SetValue)  // for screen readers, which set it as if typed
+
+ public:
+  NumberFieldPresenter(controls::TextBox& text, controls::UpDown& arrows, QWidget* parent = nullptr);
+
+  void stepBy(int steps) override;
+
+ protected:
+  StepEnabled stepEnabled() const override;
+  void focusInEvent(QFocusEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void inputMethodEvent(QInputMethodEvent* event) override;
+
+ private:
+  int Value() const;
+  void SetValue(int value);
+  void ShowText();
+  void ShowSelection();
+
+  /// Whether the program takes every character of what was typed.
+  bool Types(const QString& typed);
+
+  controls::TextBox& m_text;
+  controls::UpDown& m_arrows;
+  ControlLink m_link;
+  controls::Connection m_selectionWanted;
+};
+
+}  // namespace dayvane::widgets

@@ -156,7 +156,7 @@ bool FormPresenter::WhatsThis(const QHelpEvent& event, bool show) {
 bool FormPresenter::ExplainFocus() {
   const QWidget* widget = m_window.focusWidget();
   if (const int id = HelpIdAt(widget); id != 0 && m_showTopic)
-    m_showTopic(id, widget->mapToGlobal(widget->rect().center()));
+    m_showTopic(id, widget->mapToGlobal(widget->rect().bottomLeft()));
   else
     QWhatsThis::enterWhatsThisMode();
   return true;

@@ -4,6 +4,7 @@
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QStyleOptionSpinBox>
 #include <algorithm>
 #include <cstdlib>
 
@@ -12,16 +13,22 @@ namespace dayvane::widgets {
 namespace {
 
 constexpr int kBackspace = 8;
-constexpr int kWidestDigits = 12;
+constexpr int kUsualDigits = 8;
 
 }  // namespace
 
 NumberFieldPresenter::NumberFieldPresenter(controls::TextBox& text, controls::UpDown& arrows, QWidget* parent)
     : QAbstractSpinBox(parent), m_text(text), m_arrows(arrows), m_link(text, *this, [this] { ShowText(); }) {
-  lineEdit()->setMinimumWidth(fontMetrics().horizontalAdvance(QString(kWidestDigits, QLatin1Char('0'))));
   connect(lineEdit(), &QLineEdit::textChanged, this, [this](const QString& now) { m_text.SetText(now.toStdString()); });
   m_selectionWanted = text.SelectionWanted.ConnectScoped([this] { ShowSelection(); });
   m_link.Show();
+}
+
+QSize NumberFieldPresenter::sizeHint() const {
+  QStyleOptionSpinBox option;
+  initStyleOption(&option);
+  const int digits = fontMetrics().horizontalAdvance(QString(kUsualDigits, QLatin1Char('0')));
+  return style()->sizeFromContents(QStyle::CT_SpinBox, &option, {digits, lineEdit()->sizeHint().height()}, this);
 }
 
 void NumberFieldPresenter::stepBy(int steps) {
@@ -47,8 +54,15 @@ void NumberFieldPresenter::keyPressEvent(QKeyEvent* event) {
   if (isCommand || Types(event->text())) QAbstractSpinBox::keyPressEvent(event);
 }
 
-void NumberFieldPresenter::inputMethodEvent(QInputMethodEvent* event) {
-  if (Types(event->commitString())) QAbstractSpinBox::inputMethodEvent(event);
+void NumberFieldPresenter::keyReleaseEvent(QKeyEvent* event) {
+  QAbstractSpinBox::keyReleaseEvent(event);
+  event->ignore();  // the dialog has keys of its own, of which this base would let it hear nothing
+}
+
+bool NumberFieldPresenter::event(QEvent* event) {
+  const bool composed = event->type() == QEvent::InputMethod;
+  if (composed && !Types(static_cast<QInputMethodEvent*>(event)->commitString())) return true;
+  return QAbstractSpinBox::event(event);
 }
 
 bool NumberFieldPresenter::Types(const QString& typed) {

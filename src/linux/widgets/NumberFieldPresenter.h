@@ -17,13 +17,16 @@ class NumberFieldPresenter : public QAbstractSpinBox {
  public:
   NumberFieldPresenter(controls::TextBox& text, controls::UpDown& arrows, QWidget* parent = nullptr);
 
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override { return sizeHint(); }
   void stepBy(int steps) override;
 
  protected:
+  bool event(QEvent* event) override;
   StepEnabled stepEnabled() const override;
   void focusInEvent(QFocusEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
-  void inputMethodEvent(QInputMethodEvent* event) override;
+  void keyReleaseEvent(QKeyEvent* event) override;
 
  private:
   int Value() const;

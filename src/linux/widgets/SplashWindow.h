@@ -35,8 +35,8 @@ class SplashWindow : public QFrame {
   LabelPresenter m_company;
   LabelPresenter m_copyright;
   LabelPresenter m_warning;
+  QHBoxLayout m_layout;  // before the layout in it, which it would delete
   QVBoxLayout m_texts;
-  QHBoxLayout m_layout;
   FormPresenter m_form;
 };
 

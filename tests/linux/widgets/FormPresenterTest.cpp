@@ -2,13 +2,16 @@
 #include <QDialog>
 #include <QMainWindow>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QSessionManager>
 #include <QTest>
 #include <QWhatsThis>
 #include <array>
 #include <cstddef>
 #include <gmock/gmock.h>
+#include <optional>
 
+#include "linux/UsersTurn.h"
 #include "linux/widgets/FormPresenter.h"
 #include "linux/widgets/Lengths.h"
 
@@ -212,6 +215,62 @@ TEST(FormPresenter, EscapeInADialogAsksItsFormToGo) {
 
   EXPECT_TRUE(form.IsUnloaded());
   EXPECT_FALSE(dialog.isVisible());
+}
+
+TEST_F(FormPresenterTest, ClosingInTheMiddleOfWorkDoesNothing) {
+  Open();
+  const WorkScope work;
+
+  EXPECT_FALSE(m_window.close());
+  EXPECT_FALSE(m_form.IsUnloaded());
+}
+
+TEST_F(FormPresenterTest, TheSessionsEndWaitsForTheEndOfTheWork) {
+  Open();
+  std::optional<WorkScope> work(std::in_place);
+  m_presenter.EndSession();
+  EXPECT_FALSE(m_form.IsUnloaded());
+
+  work.reset();
+  EXPECT_TRUE(QTest::qWaitFor([this] { return m_form.IsUnloaded(); }));
+}
+
+TEST_F(FormPresenterTest, TheSessionsEndClosesWhatIsStillAsked) {
+  Open();
+  QMessageBox box(QMessageBox::Question, "Dayvane", "Remove?", QMessageBox::Yes | QMessageBox::No);
+  bool wasAsking = true;
+  m_form.Unload.Connect([&] { wasAsking = IsAsking(); });
+  {
+    const QuestionScope question;
+    QTimer::singleShot(0, &m_presenter, [this] { m_presenter.EndSession(); });
+    EXPECT_EQ(box.exec(), QMessageBox::No);
+    EXPECT_FALSE(m_form.IsUnloaded());
+  }
+  EXPECT_TRUE(QTest::qWaitFor([this] { return m_form.IsUnloaded(); }));
+  EXPECT_FALSE(wasAsking);
+}
+
+TEST_F(FormPresenterTest, ShiftF1ExplainsTheControlWithTheKeyboard) {
+  QWidget control(m_inside);
+  control.setProperty("helpContextId", 25);
+  control.setFocusPolicy(Qt::StrongFocus);
+  Open();
+  control.setFocus();
+  std::vector<int> topics;
+  m_presenter.SetTopicHelp([&](int id, QPoint) { topics.push_back(id); });
+
+  QTest::keyClick(&control, Qt::Key_F1, Qt::ShiftModifier);
+
+  EXPECT_THAT(topics, ElementsAre(25));
+}
+
+TEST_F(FormPresenterTest, ShiftF1OnAControlWithoutHelpAsksForAnother) {
+  Open();
+
+  QTest::keyClick(&m_window, Qt::Key_F1, Qt::ShiftModifier);
+
+  EXPECT_TRUE(QWhatsThis::inWhatsThisMode());
+  QWhatsThis::leaveWhatsThisMode();
 }
 
 TEST_F(FormPresenterTest, AClickInWhatsThisModeShowsTheControlsTopic) {

@@ -6,6 +6,7 @@
 #include <QTimer>
 #include <gmock/gmock.h>
 
+#include "linux/UsersTurn.h"
 #include "linux/widgets/FormPresenter.h"
 #include "linux/widgets/LinuxWindowing.h"
 
@@ -108,6 +109,48 @@ TEST_F(LinuxWindowingTest, PendingMessagesRunTimers) {
   m_windowing.ProcessPendingMessages();
 
   EXPECT_TRUE(ran);
+}
+
+TEST_F(LinuxWindowingTest, PendingMessagesRunInTheMiddleOfWork) {
+  bool wasAtWork = false;
+  QTimer::singleShot(0, qApp, [&] { wasAtWork = IsAtWork(); });
+
+  m_windowing.ProcessPendingMessages();
+
+  EXPECT_TRUE(wasAtWork);
+  EXPECT_FALSE(IsAtWork());
+}
+
+TEST_F(LinuxWindowingTest, PendingMessagesAreNotRunForEveryItemOfLongWork) {
+  m_windowing.ProcessPendingMessages();
+  bool ran = false;
+  QTimer::singleShot(0, qApp, [&] { ran = true; });
+
+  m_windowing.ProcessPendingMessages();
+  EXPECT_FALSE(ran);
+
+  EXPECT_TRUE(QTest::qWaitFor([&] { return ran; }));
+}
+
+TEST_F(LinuxWindowingTest, ASplashIsPaintedAtOnce) {
+  class Splash : public QWidget {
+   public:
+    Splash() : QWidget(nullptr, Qt::SplashScreen) {}
+    bool isPainted = false;
+
+   protected:
+    void paintEvent(QPaintEvent*) override { isPainted = true; }
+  };
+  Splash splash;
+  controls::Form form;
+  FormPresenter presenter(form, splash, splash);
+  m_windowing.Register(presenter);
+  form.SetVisible(true);
+
+  m_windowing.ProcessPendingMessages();
+
+  EXPECT_TRUE(splash.isPainted);
+  m_windowing.Forget(presenter);
 }
 
 TEST_F(LinuxWindowingTest, APostedCloseArrivesLaterAsTheProgramsOwn) {

@@ -1,6 +1,8 @@
 #include <QTest>
 #include <gtest/gtest.h>
+#include <optional>
 
+#include "linux/UsersTurn.h"
 #include "linux/widgets/TimerPresenter.h"
 
 namespace dayvane::widgets {
@@ -38,6 +40,24 @@ TEST(TimerPresenter, ATimerDisabledByItsTickTicksOnce) {
 
   EXPECT_TRUE(QTest::qWaitFor([&] { return laterTicked; }));
   EXPECT_EQ(ticks, 1);
+}
+
+TEST(TimerPresenter, NothingTicksInTheMiddleOfWork) {
+  controls::Timer timer;
+  const TimerPresenter presenter(timer);
+  int ticks = 0;
+  timer.Tick.Connect([&] { ++ticks; });
+  timer.SetInterval(1);
+  timer.SetEnabled(true);
+  std::optional<WorkScope> work(std::in_place);
+  QTimer later;
+  later.setSingleShot(true);
+  later.start(20);
+
+  ASSERT_TRUE(QTest::qWaitFor([&] { return !later.isActive(); }));
+  EXPECT_EQ(ticks, 0);
+  work.reset();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return ticks > 0; }));
 }
 
 }  // namespace

@@ -1,13 +1,17 @@
+#include <QDialog>
 #include <QTest>
 #include <QToolButton>
 #include <gmock/gmock.h>
+#include <optional>
 
+#include "linux/UsersTurn.h"
 #include "linux/widgets/TrayPresenter.h"
 
 namespace dayvane::widgets {
 namespace {
 
 using testing::ElementsAre;
+using testing::IsEmpty;
 
 /// A desktop that has a tray when the test says so.
 class TestTray : public TrayWatch {
@@ -49,6 +53,33 @@ TEST_F(TrayPresenterTest, OneClickIsOneReleaseOfItsButton) {
   m_presenter.Activate(QSystemTrayIcon::Context);
 
   EXPECT_THAT(m_buttons, ElementsAre(1, 4));
+}
+
+TEST_F(TrayPresenterTest, AClickInTheMiddleOfWorkWaits) {
+  std::optional<WorkScope> work(std::in_place);
+  m_presenter.Activate(QSystemTrayIcon::Trigger);
+  EXPECT_THAT(m_buttons, IsEmpty());
+
+  work.reset();
+  EXPECT_TRUE(QTest::qWaitFor([this] { return m_buttons.size() == 1; }));
+}
+
+TEST_F(TrayPresenterTest, AClickBringsAnOpenBoxToTheFrontInsteadOfTheWindow) {
+  m_form.SetVisible(true);
+  QWidget owner;
+  owner.show();
+  QDialog box(&owner);
+  box.setWindowModality(Qt::WindowModal);
+  box.show();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&box));
+  QWidget help;
+  help.show();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&help));
+
+  m_presenter.Activate(QSystemTrayIcon::Trigger);
+
+  EXPECT_THAT(m_buttons, IsEmpty());
+  EXPECT_TRUE(QTest::qWaitForWindowActive(&box));
 }
 
 TEST_F(TrayPresenterTest, TheFirstVisibleItemIsTheDefault) {

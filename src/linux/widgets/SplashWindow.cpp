@@ -14,7 +14,7 @@ namespace {
 constexpr QSize kLogo{168, 128};
 constexpr int kMargin = 24;
 constexpr int kTextWidth = 300;
-constexpr int kSmallGap = 4;
+constexpr int kGap = 12;  ///< between groups of texts
 
 constexpr double kTitleSize = 2.4;  ///< times the usual font
 constexpr double kSmallSize = 0.9;
@@ -53,14 +53,14 @@ void SplashWindow::SetFonts() {
 
 void SplashWindow::LayOut() {
   m_logo.setPixmap(PictureIcon(m_splash.imgLogo.Picture()).pixmap(kLogo, devicePixelRatioF()));
-  m_texts.addStretch();
+  m_texts.addStretch(1);
   for (QWidget* text : {static_cast<QWidget*>(&m_product), static_cast<QWidget*>(&m_version)}) m_texts.addWidget(text);
-  m_texts.addSpacing(kMargin);
+  m_texts.addSpacing(kGap);
   m_texts.addWidget(&m_company);
   m_texts.addWidget(&m_copyright);
-  m_texts.addSpacing(kSmallGap);
+  m_texts.addSpacing(kGap);
   m_texts.addWidget(&m_warning);
-  m_texts.addStretch();
+  m_texts.addStretch(1);
   m_warning.setFixedWidth(kTextWidth);
   m_layout.setContentsMargins(kMargin, kMargin, kMargin, kMargin);
   m_layout.setSpacing(kMargin);

@@ -14,6 +14,7 @@ namespace {
 constexpr QSize kLogo{168, 128};
 constexpr int kMargin = 24;
 constexpr int kTextWidth = 300;
+constexpr int kLineGap = 4;
 constexpr int kGap = 12;  ///< between groups of texts
 
 constexpr double kTitleSize = 2.4;  ///< times the usual font
@@ -52,6 +53,7 @@ void SplashWindow::SetFonts() {
 }
 
 void SplashWindow::LayOut() {
+  m_texts.setSpacing(kLineGap);
   m_logo.setPixmap(PictureIcon(m_splash.imgLogo.Picture()).pixmap(kLogo, devicePixelRatioF()));
   m_texts.addStretch(1);
   for (QWidget* text : {static_cast<QWidget*>(&m_product), static_cast<QWidget*>(&m_version)}) m_texts.addWidget(text);

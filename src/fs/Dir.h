@@ -10,8 +10,8 @@ namespace dayvane {
 /// Which entries a listing gives. Hidden and system entries and symbolic links are never among them.
 enum class DirKinds { Files, FilesAndFolders };
 
-/// The entries of a folder whose names fit the last part of the pattern ("…\Recent\*.lnk"), in the order the disk gives
-/// them. Empty when there is no such folder; an Error when it cannot be read.
+/// The entries of a folder whose names fit the last part of the pattern ("…\Recent\*.lnk"), in the order of their
+/// names. Empty when there is no such folder; an Error when it cannot be read.
 std::vector<platform::DirectoryEntry> Dir(platform::FileSystem& files, const std::string& pattern, DirKinds kinds);
 
 /// Whether a folder, not a link to one, lies at the path.

@@ -48,7 +48,7 @@ class FileSystem {
   /// What lies at the path, or nothing when nothing does. A symbolic link is reported, not followed.
   virtual std::optional<FileStatus> Status(const std::string& path) = 0;
 
-  /// Everything in the folder but "." and "..", in the order the disk gives it. Empty when there is no such folder;
+  /// Everything in the folder but "." and "..", in the order of the names' bytes. Empty when there is no such folder;
   /// an error when it cannot be read.
   virtual std::vector<DirectoryEntry> List(const std::string& folder) = 0;
 

@@ -178,7 +178,9 @@ std::optional<FileStatus> PosixFileSystem::Status(const std::string& path) {
   return FileStatus{KindOf(status.st_mode), static_cast<std::uint64_t>(status.st_size), MomentOf(status)};
 }
 
-std::vector<DirectoryEntry> PosixFileSystem::List(const std::string& folder) {
+namespace {
+
+std::vector<DirectoryEntry> ListAsStored(const std::string& folder) {
   std::vector<DirectoryEntry> entries;
   const auto native = ToNative(folder);
   if (!native) return entries;
@@ -195,6 +197,15 @@ std::vector<DirectoryEntry> PosixFileSystem::List(const std::string& folder) {
     if (auto spelled = NameFromNative(name))
       entries.push_back({std::move(*spelled), KindOf(*native, *entry), name.starts_with('.')});
   }
+}
+
+}  // namespace
+
+std::vector<DirectoryEntry> PosixFileSystem::List(const std::string& folder) {
+  std::vector<DirectoryEntry> entries = ListAsStored(folder);
+  // As the disks of other systems list them: users see years in the order of the listing.
+  std::ranges::sort(entries, {}, &DirectoryEntry::name);
+  return entries;
 }
 
 FileContents PosixFileSystem::Read(const std::string& path, std::size_t limit) {

@@ -4,6 +4,7 @@
 #include <QStyle>
 #include <QStyleFactory>
 #include <cstring>
+#include <utility>
 
 namespace dayvane::widgets {
 
@@ -11,9 +12,15 @@ namespace {
 
 constexpr const char* kInterface = "org.freedesktop.portal.Settings";
 constexpr BusObject::Address kPortal{"org.freedesktop.portal.Desktop", "/org/freedesktop/portal/desktop", kInterface};
-constexpr const char* kNamespace = "org.freedesktop.appearance";
-constexpr const char* kKey = "color-scheme";
 constexpr guint32 kPreferDark = 1;
+constexpr guint32 kHigherContrast = 1;
+
+/// Where desktops tell the user's wishes. GNOME tells of contrast by its own setting only.
+constexpr const char* kAppearance = "org.freedesktop.appearance";
+constexpr const char* kColorScheme = "color-scheme";
+constexpr const char* kContrast = "contrast";
+constexpr const char* kGnomeInterface = "org.gnome.desktop.a11y.interface";
+constexpr const char* kGnomeContrast = "high-contrast";
 
 /// What is inside any number of variants in one another; the portal's Read wraps twice, its signal once.
 glib::Variant Unwrap(GVariant* boxed) {
@@ -27,6 +34,26 @@ bool IsDark(const QPalette& palette) {
 }
 
 }  // namespace
+
+QPalette HighContrastPalette(bool dark) {
+  constexpr QColor kNavy(0x00, 0x00, 0x80);
+  const QColor paper = dark ? Qt::black : Qt::white;
+  const QColor ink = dark ? Qt::white : Qt::black;
+  const QColor accent = dark ? QColor(Qt::yellow) : kNavy;
+  const QColor onAccent = dark ? Qt::black : Qt::white;
+  QPalette palette(ink, paper, ink, ink, ink, ink, ink, paper, paper);
+  palette.setColor(QPalette::AlternateBase, paper);
+  palette.setColor(QPalette::ToolTipBase, paper);
+  palette.setColor(QPalette::ToolTipText, ink);
+  palette.setColor(QPalette::PlaceholderText, ink);
+  palette.setColor(QPalette::Highlight, accent);
+  palette.setColor(QPalette::HighlightedText, onAccent);
+  palette.setColor(QPalette::Link, accent);
+  palette.setColor(QPalette::LinkVisited, accent);
+  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+    palette.setColor(QPalette::Disabled, role, dark ? Qt::lightGray : Qt::darkGray);
+  return palette;
+}
 
 QPalette DarkPalette() {
   constexpr QColor kWindow(0x2d, 0x2d, 0x30);
@@ -64,29 +91,48 @@ Appearance::Appearance()
                     GVariant* value = nullptr;
                     g_variant_get(arguments, "(&s&sv)", &space, &key, &value);
                     const glib::Variant held(value);
-                    if (std::strcmp(space, kNamespace) == 0 && std::strcmp(key, kKey) == 0) Read(value);
+                    Read(space, key, value);
                   }}) {}
 
 void Appearance::SetDark(bool dark) {
-  if (dark == m_dark || IsDark(m_usualPalette)) return;
-  m_dark = dark;
+  if (std::exchange(m_dark, dark) != dark) Show();
+}
+
+void Appearance::SetHighContrast(bool highContrast) {
+  if (std::exchange(m_highContrast, highContrast) != highContrast) Show();
+}
+
+void Appearance::Show() {
+  const bool themeIsDark = IsDark(m_usualPalette);
+  const bool usual = !m_highContrast && (!m_dark || themeIsDark);
   // Other styles draw parts of their own and would mix light and dark.
-  QApplication::setStyle(QStyleFactory::create(dark ? QStringLiteral("Fusion") : m_usualStyle));
-  QApplication::setPalette(dark ? DarkPalette() : m_usualPalette);
+  QApplication::setStyle(QStyleFactory::create(usual ? m_usualStyle : QStringLiteral("Fusion")));
+  QApplication::setPalette(usual            ? m_usualPalette
+                           : m_highContrast ? HighContrastPalette(m_dark || themeIsDark)
+                                            : DarkPalette());
 }
 
 void Appearance::Ask() {
-  m_settings.Call(kInterface, "Read", g_variant_new("(ss)", kNamespace, kKey), [this](GVariant* answer) {
-    if (answer == nullptr || !g_variant_is_of_type(answer, G_VARIANT_TYPE("(v)"))) return;
-    const glib::Variant boxed(g_variant_get_child_value(answer, 0));
-    Read(boxed.get());
-  });
+  for (const auto& [space, key] : {std::pair(kAppearance, kColorScheme), std::pair(kAppearance, kContrast),
+                                   std::pair(kGnomeInterface, kGnomeContrast)}) {
+    m_settings.Call(kInterface, "Read", g_variant_new("(ss)", space, key), [this, space, key](GVariant* answer) {
+      if (answer == nullptr || !g_variant_is_of_type(answer, G_VARIANT_TYPE("(v)"))) return;
+      const glib::Variant boxed(g_variant_get_child_value(answer, 0));
+      Read(space, key, boxed.get());
+    });
+  }
 }
 
-void Appearance::Read(GVariant* setting) {
+void Appearance::Read(const std::string& space, const std::string& key, GVariant* setting) {
   const glib::Variant value = Unwrap(setting);
-  if (g_variant_is_of_type(value.get(), G_VARIANT_TYPE_UINT32))
+  const bool isNumber = g_variant_is_of_type(value.get(), G_VARIANT_TYPE_UINT32);
+  const bool isFlag = g_variant_is_of_type(value.get(), G_VARIANT_TYPE_BOOLEAN);
+  if (space == kAppearance && key == kColorScheme && isNumber)
     SetDark(g_variant_get_uint32(value.get()) == kPreferDark);
+  else if (space == kAppearance && key == kContrast && isNumber)
+    SetHighContrast(g_variant_get_uint32(value.get()) == kHigherContrast);
+  else if (space == kGnomeInterface && key == kGnomeContrast && isFlag)
+    SetHighContrast(g_variant_get_boolean(value.get()) != FALSE);
 }
 
 }  // namespace dayvane::widgets

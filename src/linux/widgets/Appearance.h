@@ -2,6 +2,7 @@
 
 #include <QPalette>
 #include <QString>
+#include <string>
 
 #include "linux/widgets/BusObject.h"
 
@@ -10,21 +11,28 @@ namespace dayvane::widgets {
 /// The palette of a dark window, for the Fusion style.
 QPalette DarkPalette();
 
-/// Lets the program's windows be dark when the user wants dark windows, at once when that wish changes. The wish is
-/// the desktop portal's (org.freedesktop.appearance, color-scheme); a desktop whose own Qt theme is dark is left alone.
+/// The palette of a window that is easy to read for weak eyes: two colours and one accent.
+QPalette HighContrastPalette(bool dark);
+
+/// Lets the program's windows be dark, or of high contrast, when the user wants such windows, at once when that wish
+/// changes. The wish is the desktop portal's (org.freedesktop.portal.Settings); a desktop whose own Qt theme is dark is
+/// left alone.
 class Appearance {
  public:
   Appearance();
 
   void SetDark(bool dark);
+  void SetHighContrast(bool highContrast);
 
  private:
   void Ask();
-  void Read(GVariant* setting);
+  void Read(const std::string& space, const std::string& key, GVariant* setting);
+  void Show();
 
   QPalette m_usualPalette;
   QString m_usualStyle;
   bool m_dark = false;
+  bool m_highContrast = false;
   BusObject m_settings;
 };
 

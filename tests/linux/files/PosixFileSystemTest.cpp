@@ -234,6 +234,13 @@ TEST_F(PosixFileSystemTest, AFolderThatIsNotThereListsNothing) {
   EXPECT_THAT(m_files.List("1:\\missing"), IsEmpty());
 }
 
+TEST_F(PosixFileSystemTest, AListingIsInTheOrderOfTheNames) {
+  for (const char* year : {"2026", "2019", "2024", "1999"}) m_files.CreateFolder(Path(year));
+  std::vector<std::string> names;
+  for (const auto& entry : m_files.List(m_folder.Path())) names.push_back(entry.name);
+  EXPECT_THAT(names, ElementsAre("1999", "2019", "2024", "2026"));
+}
+
 TEST_F(PosixFileSystemTest, AListingTellsHiddenFilesAndFolders) {
   m_folder.Write(".hidden", "");
   fs::create_directory(m_folder / "folder");

@@ -31,6 +31,29 @@ double Contrast(const QColor& a, const QColor& b) {
   return (std::max(first, second) + 0.05) / (std::min(first, second) + 0.05);
 }
 
+TEST(Appearance, HighContrastIsKeptWhenTheUserChangesBetweenLightAndDark) {
+  const QPalette usual = QApplication::palette();
+  Appearance appearance;
+
+  appearance.SetHighContrast(true);
+  EXPECT_EQ(QApplication::palette().color(QPalette::Window), QColor(Qt::white));
+  appearance.SetDark(true);
+  EXPECT_EQ(QApplication::palette().color(QPalette::Window), QColor(Qt::black));
+
+  appearance.SetDark(false);
+  appearance.SetHighContrast(false);
+  EXPECT_EQ(QApplication::palette().color(QPalette::Window), usual.color(QPalette::Window));
+}
+
+TEST(HighContrastPalette, TextsStandOutAsMuchAsTheyCan) {
+  for (const bool dark : {false, true}) {
+    const QPalette palette = HighContrastPalette(dark);
+    EXPECT_EQ(Contrast(palette.color(QPalette::Text), palette.color(QPalette::Base)), 21);
+    EXPECT_GE(Contrast(palette.color(QPalette::HighlightedText), palette.color(QPalette::Highlight)), 10);
+    EXPECT_GE(Contrast(palette.color(QPalette::Link), palette.color(QPalette::Base)), 10);
+  }
+}
+
 TEST(DarkPalette, TextsCanBeRead) {
   const QPalette palette = DarkPalette();
 

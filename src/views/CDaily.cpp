@@ -55,14 +55,14 @@ void CDaily::Container_Resize() {
 }
 
 void CDaily::Explore() const {
-  ShowFolder("\\EXPLORER.EXE /n,/e,/root,");
+  ShowFolder(List("Explore"), "\\EXPLORER.EXE /n,/e,/root,");
 }
 void CDaily::OpenFolder() const {
-  ShowFolder("\\EXPLORER.EXE /n,");
+  ShowFolder(List("OpenFolder"), "\\EXPLORER.EXE /n,");
 }
 
-void CDaily::ShowFolder(const std::string& explorerArguments) const {
-  const controls::ListItem* document = SelectedDocument();
+void CDaily::ShowFolder(const controls::ListView& list, const std::string& explorerArguments) const {
+  const controls::ListItem* document = list.SelectedItem();
   if (document == nullptr) {
     m_application.desktop.windowing.Beep();
     return;

@@ -38,7 +38,7 @@ class CDaily : public DocumentListView {
 
  private:
   void Container_Resize() override;
-  void ShowFolder(const std::string& explorerArguments) const;
+  void ShowFolder(const controls::ListView& list, const std::string& explorerArguments) const;
   controls::TreeView& Tree(const std::string& procedure) const;
 
   controls::TreeView* m_treeView = nullptr;

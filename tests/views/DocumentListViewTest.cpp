@@ -1,0 +1,122 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "tests/support/TestDesktop.h"
+#include "views/CDaily.h"
+#include "views/CFavorites.h"
+#include "views/DocumentListView.h"
+
+namespace dayvane {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+constexpr int kEnter = 13;
+constexpr int kF10 = 121;
+constexpr int kShift = 1;
+constexpr int kCtrl = 2;
+constexpr int kAlt = 4;
+constexpr int kLeftButton = 1;
+constexpr int kRightButton = 2;
+
+/// What the user does in either list, and what its owner hears of it.
+class DocumentListViewTest : public ::testing::Test {
+ protected:
+  DocumentListViewTest() {
+    list.Add("Ka", "a", 1);
+    pane.Move(100, 200, 0, 0);
+    list.SetSelectedPosition(10, 20);
+    view.SetListControls(&list, &pane);
+    view.DblClick.Connect([this](controls::ListItem& item) { heard.push_back("double click " + item.text); });
+    view.ItemClick.Connect([this] { heard.emplace_back("click"); });
+    view.PopupMenu.Connect([this](double x, double y) {
+      heard.push_back("menu " + std::to_string(static_cast<int>(x)) + " " + std::to_string(static_cast<int>(y)));
+    });
+  }
+
+  void Select() { list.SetSelectedItem(&list.Item("Ka")); }
+
+  testing::TestDesktop desktop;
+  Application application{desktop.desktop, desktop.Folder()};
+  controls::ListView list;
+  controls::PictureBox pane;
+  CFavorites view{application};
+  std::vector<std::string> heard;
+};
+
+TEST_F(DocumentListViewTest, AClickOnARowIsPassedOn) {
+  list.Click(list.Item("Ka"));
+  EXPECT_THAT(heard, ElementsAre("click"));
+}
+
+TEST_F(DocumentListViewTest, ADoubleClickOpensTheSelectedDocument) {
+  Select();
+  list.DblClick.Raise();
+  EXPECT_THAT(heard, ElementsAre("double click a"));
+}
+
+TEST_F(DocumentListViewTest, EnterOpensTheSelectedDocument) {
+  Select();
+  list.KeyUp.Raise(kEnter, 0);
+  EXPECT_THAT(heard, ElementsAre("double click a"));
+}
+
+TEST_F(DocumentListViewTest, AltF10ShowsTheMenuAtTheSelectedRow) {
+  Select();
+  list.KeyUp.Raise(kF10, kAlt);
+  list.KeyUp.Raise(kF10, kAlt + kShift);
+  EXPECT_THAT(heard, ElementsAre("menu 110 220", "menu 110 220"));
+}
+
+TEST_F(DocumentListViewTest, F10WithoutAltDoesNothing) {
+  Select();
+  list.KeyUp.Raise(kF10, 0);
+  list.KeyUp.Raise(kF10, kShift);
+  list.KeyUp.Raise(kF10, kCtrl);
+  EXPECT_THAT(heard, IsEmpty());
+}
+
+TEST_F(DocumentListViewTest, TheRightButtonShowsTheMenuWhereItWasReleased) {
+  Select();
+  list.MouseUp.Raise(kRightButton, 5, 7);
+  EXPECT_THAT(heard, ElementsAre("menu 105 207"));
+}
+
+TEST_F(DocumentListViewTest, TheLeftButtonShowsNoMenu) {
+  Select();
+  list.MouseUp.Raise(kLeftButton, 5, 7);
+  EXPECT_THAT(heard, IsEmpty());
+}
+
+TEST_F(DocumentListViewTest, WithoutASelectedRowNothingIsOpenedAndNoMenuShown) {
+  list.DblClick.Raise();
+  list.KeyUp.Raise(kEnter, 0);
+  list.KeyUp.Raise(kF10, kAlt);
+  list.MouseUp.Raise(kRightButton, 5, 7);
+  EXPECT_THAT(heard, IsEmpty());
+}
+
+TEST_F(DocumentListViewTest, AMissingPaneIsLoggedUnderTheNameOfTheView) {
+  CDaily daily(application);
+  for (DocumentListView* either : {static_cast<DocumentListView*>(&view), static_cast<DocumentListView*>(&daily)}) {
+    view.SetListControls(nullptr, nullptr);
+    either->SetListControls(&list, nullptr);
+    EXPECT_ANY_THROW(list.KeyUp.Raise(kF10, kAlt));
+    EXPECT_ANY_THROW(list.MouseUp.Raise(kRightButton, 5, 7));
+  }
+  EXPECT_THAT(desktop.LogLines("EventLog.txt"), ElementsAre("2\tCFavorites.ListView_KeyUp: Container is Nothing",
+                                                            "2\tCFavorites.ListView_MouseUp: Container is Nothing",
+                                                            "2\tCDaily.ListView_KeyUp: Container is Nothing",
+                                                            "2\tCDaily.ListView_MouseUp: Container is Nothing"));
+}
+
+TEST_F(DocumentListViewTest, ControlsThatWereTakenAwayAreNotListenedTo) {
+  Select();
+  view.SetListControls(nullptr, nullptr);
+  list.DblClick.Raise();
+  EXPECT_THAT(heard, IsEmpty());
+}
+
+}  // namespace
+}  // namespace dayvane

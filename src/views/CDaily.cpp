@@ -1,5 +1,7 @@
 #include "views/CDaily.h"
 
+#include <cstdint>
+
 #include "base/Error.h"
 #include "settings/SettingsStore.h"
 
@@ -94,7 +96,8 @@ void CDaily::SaveSettings() const {
   const auto key = settings::OpenSubtree(m_application.desktop.registry, kSubtree);
   for (std::size_t column = 0; column < list.Columns().size(); ++column)
     key->SetValue(Defaults()[kFirstWidth + column].name, settings::NumberText(list.Columns()[column].width));
-  key->SetValue("Sort Column", std::to_string(list.SortKey()));
+  // Through the stored type, so that a column that is none goes back as it came.
+  key->SetValue("Sort Column", std::to_string(static_cast<std::int16_t>(list.SortKey())));
   key->SetValue("Sort Order", std::to_string(static_cast<int>(list.Order())));
 }
 

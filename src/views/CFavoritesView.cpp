@@ -61,7 +61,8 @@ void CFavorites::SaveSettings() const {
   const auto key = settings::OpenSubtree(m_application.desktop.registry, kSubtree);
   for (std::size_t column = 0; column < list.Columns().size(); ++column)
     key->SetValue(Defaults()[kFirstWidth + column].name, settings::NumberText(list.Columns()[column].width));
-  key->SetValue("Sort Column", std::to_string(m_sortColumn));
+  // Through the stored type, so that a column that is none goes back as it came.
+  key->SetValue("Sort Column", std::to_string(static_cast<std::int16_t>(m_sortColumn)));
   key->SetValue("Sort Order", std::to_string(static_cast<int>(m_sortOrder)));
 }
 

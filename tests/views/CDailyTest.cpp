@@ -82,6 +82,16 @@ TEST_F(CDailyTest, WidthsAndSortAreSavedAsDecimalTexts) {
   EXPECT_EQ(Stored(), expected);
 }
 
+TEST_F(CDailyTest, AStoredSortColumnThatIsNoneIsSavedAsItWas) {
+  for (const char* column : {"-1", "9"}) {
+    Stored() = kDefaults;
+    Stored()["Sort Column"] = column;
+    daily.RestoreSettings();
+    daily.SaveSettings();
+    EXPECT_EQ(Stored()["Sort Column"], column);
+  }
+}
+
 TEST_F(CDailyTest, TheFirstClickOnAnyColumnSortsAscending) {
   Stored() = kDefaults;
   Stored()["Sort Order"] = "1";

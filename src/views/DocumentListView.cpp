@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "base/Error.h"
+#include "base/Required.h"
 
 namespace dayvane {
 
@@ -18,12 +18,6 @@ constexpr int kF10Key = 121;
 constexpr int kAltModifier = 4;
 constexpr int kRightButton = 2;
 
-template <class Object>
-Object& Set(Object* object) {
-  if (object == nullptr) throw Error(kObjectNotSet, "Object variable not set");
-  return *object;
-}
-
 }  // namespace
 
 DocumentListView::DocumentListView(Application& application, std::string className)
@@ -35,12 +29,12 @@ void DocumentListView::Assert(bool condition, std::string_view message) const {
 
 controls::ListView& DocumentListView::List(const std::string& procedure) const {
   Assert(m_listView != nullptr, "." + procedure + ": ListView is Nothing");
-  return Set(m_listView);
+  return Required(m_listView);
 }
 
 controls::PictureBox& DocumentListView::Container(const std::string& procedure) const {
   Assert(m_container != nullptr, "." + procedure + ": Container is Nothing");
-  return Set(m_container);
+  return Required(m_container);
 }
 
 void DocumentListView::SetListControls(controls::ListView* listView, controls::PictureBox* container) {

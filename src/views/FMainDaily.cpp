@@ -4,6 +4,7 @@
 #include "app/MDayvane.h"
 #include "app/ReportErrors.h"
 #include "base/Error.h"
+#include "base/Required.h"
 #include "base/Text.h"
 #include "capture/CFileInfo.h"
 #include "capture/CShortcut.h"
@@ -38,7 +39,7 @@ void FMain::FindLatestDay() {
   ReportErrors(m_application, kFindingLatestDay, kName, "FindLatestDay", [this] {
     Assert(m_oCalendar != nullptr, ".FindLatestDay: Calendar object is nothing");
     const Date latest = m_repository.FindLatestDay();
-    if (!latest.IsZero()) m_oCalendar->SetValue(latest);
+    if (!latest.IsZero()) Required(m_oCalendar).SetValue(latest);
   });
 }
 

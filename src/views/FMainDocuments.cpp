@@ -4,7 +4,7 @@
 
 #include "app/IgnoreErrors.h"
 #include "app/ReportErrors.h"
-#include "base/Error.h"
+#include "base/Required.h"
 #include "base/Text.h"
 #include "capture/CShortcut.h"
 #include "shell/FMain.h"
@@ -27,19 +27,13 @@ std::string PathOf(const controls::ListItem& item) {
   return item.key.substr(1);
 }
 
-template <class Object>
-const Object& Set(const Object* object) {
-  if (object == nullptr) throw Error(kObjectNotSet, "Object variable not set");
-  return *object;
-}
-
 }  // namespace
 
 void FMain::OpenDocument(const controls::ListItem* item) {
   ReportErrors(m_application, kOpeningDocument, kName, "OpenDocument", [&] {
     Assert(item != nullptr, ".OpenDocument: Item is Nothing");
     Assert(!text::Trim(m_recentFolder).empty(), ".OpenDocument: Recent folder is missing");
-    const std::string path = PathOf(Set(item));
+    const std::string path = PathOf(Required(item));
     CShortcut shortcut(m_application);
     shortcut.SetFile(path);
     const ShellServices& shell = m_application.shellServices;
@@ -81,13 +75,13 @@ void FMain::RemoveLink(const controls::ListItem* item) {
     Assert(m_oFavorites != nullptr, ".RemoveLink: Favorites object is nothing");
     Assert(!text::Trim(m_recentFolder).empty(), ".RemoveLink: Recent folder is missing");
     auto& files = m_application.desktop.files;
-    const std::string key = Set(item).key;
+    const std::string key = Required(item).key;
     const std::string path = PathOf(*item);
     IgnoreErrors([&] { files.Delete(path); });
     IgnoreErrors([&] { files.Delete(m_recentFolder + "\\" + m_application.shellServices.SplitPath(path).fileName); });
     // From the Favorites view the day that is shown need not be the document's.
-    if (lvwDaily.Find(key) != nullptr) m_oDaily->RemoveDocument(key);
-    if (m_oFavorites->RemoveDocument(key)) {
+    if (lvwDaily.Find(key) != nullptr) Required(m_oDaily).RemoveDocument(key);
+    if (Required(m_oFavorites).RemoveDocument(key)) {
       m_oFavorites->RebuildFavorites();
       RefreshFavorites();
     }
@@ -98,23 +92,23 @@ void FMain::RemoveLink(const controls::ListItem* item) {
 void FMain::PurgeDay(const controls::TreeNode* node) {
   Assert(node != nullptr, ".PurgeDay: Node is nothing");
   Assert(m_oFavorites != nullptr, ".PurgeDay: Favorites object is nothing");
-  m_repository.PurgeDay(Set(node).key.substr(1));
+  m_repository.PurgeDay(Required(node).key.substr(1));
   RefreshDaily();
-  m_oFavorites->RebuildFavorites();
+  Required(m_oFavorites).RebuildFavorites();
   RefreshFavorites();
 }
 
 void FMain::Explore() {
   ReportErrors(m_application, kExploringFolder, kName, "Explore", [this] {
     Assert(m_oDaily != nullptr, ".Explore: Daily object is nothing");
-    Set(m_oDaily.get()).Explore();
+    Required(m_oDaily).Explore();
   });
 }
 
 void FMain::OpenFolder() {
   ReportErrors(m_application, kOpeningFolder, kName, "OpenFolder", [this] {
     Assert(m_oDaily != nullptr, ".OpenFolder: Daily object is nothing");
-    Set(m_oDaily.get()).OpenFolder();
+    Required(m_oDaily).OpenFolder();
   });
 }
 

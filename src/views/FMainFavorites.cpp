@@ -1,6 +1,7 @@
 // The Favorites view: the documents that were filed on enough days.
 
 #include "app/ReportErrors.h"
+#include "base/Required.h"
 #include "base/Text.h"
 #include "shell/FMain.h"
 #include "views/FavoritesTable.h"
@@ -29,7 +30,7 @@ void FMain::RefreshFavorites() {
   const auto* selected = lvwFavorites.SelectedItem();
   const std::string selectedKey = selected == nullptr ? std::string() : selected->key;
   lvwFavorites.Clear();
-  for (const favorites::Record& record : m_oFavorites->GetFavorites()) {
+  for (const favorites::Record& record : Required(m_oFavorites).GetFavorites()) {
     if (favorites::NumberOf(record[favorites::kDaysAccessed]) < m_favoritesThreshold) continue;
     const std::string shortcutFile = favorites::TextOf(record[favorites::kShortcutFile]);
     const std::string name = favorites::TextOf(record[favorites::kTargetFileName]);

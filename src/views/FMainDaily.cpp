@@ -26,6 +26,11 @@ std::string PathOf(const std::string& key) {
   return key.substr(1);
 }
 
+/// A node's picture tells its level.
+bool IsDay(const controls::TreeNode& node) {
+  return node.image == kDayPicture;
+}
+
 std::string KeyOfItem(const controls::ListItem* item) {
   return item == nullptr ? std::string() : item->key;
 }
@@ -147,8 +152,8 @@ void FMain::m_oDaily_ListViewPopupMenu(double x, double y) {
 void FMain::tvwMain_MouseUp(int button, double x, double y) {
   constexpr int kRightButton = 2;
   if (button != kRightButton || tvwMain.SelectedItem() == nullptr) return;
-  // Only a day can be purged.
-  if (!tvwMain.SelectedItem()->children.empty()) return;
+  // Only a day can be purged. That a node has no children does not make it one: the repository itself may be empty.
+  if (!IsDay(*tvwMain.SelectedItem())) return;
   ReportErrors(m_application, kDisplayingContextMenu, kName, "tvwMain_MouseUp", [&] {
     m_application.desktop.windowing.PopupMenu(form, mnuTreeViewPopup, picDaily.Left() + tvwMain.Left() + x,
                                               picDaily.Top() + tvwMain.Top() + y);

@@ -133,6 +133,25 @@ TEST_F(PurgeTest, TheMenuOfADayShowsAtTheMouse) {
   EXPECT_EQ(desktop.windowing.popupY, 249);
 }
 
+TEST_F(PurgeTest, OnlyADayHasAMenu) {
+  FileOnThreeDays();
+  Load();
+  fs::create_directories(Daily("2026/December"));
+  window.RefreshDaily();
+  window.tvwMain.MouseUp.Raise(kRightButton, 30, 40);
+  RightClick(*window.tvwMain.Roots()[0]);
+  for (const char* path : {"2026", "2026\\November", "2026\\December"}) RightClick(Node(path));
+  window.tvwMain.Click(Node("2026\\November\\19"));
+  window.tvwMain.MouseUp.Raise(1, 30, 40);
+  EXPECT_EQ(desktop.windowing.popupMenu, nullptr);
+}
+
+TEST_F(PurgeTest, TheRootOfAnEmptyRepositoryCannotBePurged) {
+  Load();
+  RightClick(*window.tvwMain.Roots()[0]);
+  EXPECT_EQ(desktop.windowing.popupMenu, nullptr);
+}
+
 TEST_F(PurgeTest, PurgingWithoutASelectedDayIsLoggedAndReported) {
   Load();
   window.mnuTreeViewPopup.Choose(0);

@@ -1,6 +1,5 @@
 // The Daily view: the repository as a tree, the selected day's documents as a list.
 
-#include "app/IgnoreErrors.h"
 #include "app/MDayvane.h"
 #include "app/ReportErrors.h"
 #include "base/Error.h"
@@ -25,6 +24,18 @@ std::string KeyOf(const std::string& path) {
 std::string PathOf(const std::string& key) {
   return key.substr(1);
 }
+
+/// A flag that is up as long as this lives, also when an error ends that.
+class Raised {
+ public:
+  explicit Raised(bool& flag) : m_flag(flag) { m_flag = true; }
+  Raised(const Raised&) = delete;
+  Raised& operator=(const Raised&) = delete;
+  ~Raised() { m_flag = false; }
+
+ private:
+  bool& m_flag;
+};
 
 /// A node's picture tells its level.
 bool IsDay(const controls::TreeNode& node) {
@@ -161,25 +172,27 @@ void FMain::tvwMain_MouseUp(int button, double x, double y) {
 }
 
 void FMain::m_oCalendar_DateChange(const Date& newDate) {
-  if (!m_inTreeClick) SelectDate(newDate);
+  if (m_inTreeClick) return;
+  SelectDate(newDate);
   RefreshStatusBar();
 }
 
 void FMain::m_oDaily_TreeViewNodeClick(const controls::TreeNode& node) {
   ReportErrors(m_application, kProcessingSelection, kName, "m_oDaily_TreeViewNodeClick", [&] {
     Assert(m_oCalendar != nullptr, ".m_oDaily_TreeViewNodeClick: Calendar object is nothing");
-    if (!node.children.empty()) {
+    // A repository, year or month has no date of its own, with or without days.
+    if (!IsDay(node)) {
       LoadDailyListView(&node);
       RefreshStatusBar();
       return;
     }
     auto waitCursor = ShowWait();
     LoadDailyListView(&node);
-    m_inTreeClick = true;
-    const bool moved = IgnoreErrors([&] { m_oCalendar->SetValue(PathToDate(m_application, node.key)); });
-    m_inTreeClick = false;
+    {
+      const Raised inTreeClick(m_inTreeClick);
+      Required(m_oCalendar).SetValue(PathToDate(m_application, node.key));
+    }
     RefreshStatusBar(std::move(waitCursor));
-    (void)moved;
   });
 }
 

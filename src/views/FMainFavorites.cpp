@@ -1,6 +1,6 @@
 // The Favorites view: the documents that were filed on enough days.
 
-#include "app/ReportErrors.h"
+#include "app/IgnoreErrors.h"
 #include "base/Required.h"
 #include "base/Text.h"
 #include "shell/FMain.h"
@@ -9,6 +9,13 @@
 namespace dayvane {
 
 namespace {
+
+/// A count that is no number, from a damaged data file, reaches no threshold: the other documents are still listed.
+bool Reaches(const favorites::Value& days, std::int32_t threshold) {
+  bool reaches = false;
+  IgnoreErrors([&] { reaches = favorites::NumberOf(days) >= threshold; });
+  return reaches;
+}
 
 /// Right-aligned in five characters, so that the order of the texts is the order of the counts.
 std::string DaysText(const favorites::Value& days) {
@@ -31,7 +38,7 @@ void FMain::RefreshFavorites() {
   const std::string selectedKey = selected == nullptr ? std::string() : selected->key;
   lvwFavorites.Clear();
   for (const favorites::Record& record : Required(m_oFavorites).GetFavorites()) {
-    if (favorites::NumberOf(record[favorites::kDaysAccessed]) < m_favoritesThreshold) continue;
+    if (!Reaches(record[favorites::kDaysAccessed], m_favoritesThreshold)) continue;
     const std::string shortcutFile = favorites::TextOf(record[favorites::kShortcutFile]);
     const std::string name = favorites::TextOf(record[favorites::kTargetFileName]);
     // A damaged data file may hold one shortcut twice; the first record is the one that counts go to.

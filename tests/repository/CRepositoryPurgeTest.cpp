@@ -91,6 +91,12 @@ TEST_F(CRepositoryPurgeTest, NoKeepsEveryDay) {
   EXPECT_TRUE(Exists("1998/May/01/a.odt.lnk"));
 }
 
+TEST_F(CRepositoryPurgeTest, AfterNoNothingMoreIsLookedAt) {
+  File("1997/May/01/no month/99");
+  desktop.windowing.answer = MessageAnswer::No;
+  EXPECT_NO_THROW(repository.PurgeOldShortcuts(30));
+}
+
 TEST_F(CRepositoryPurgeTest, AfterNoTheQuestionIsNotAskedAgainUntilTheNextStart) {
   File("1998/May/01");
   desktop.windowing.answer = MessageAnswer::No;

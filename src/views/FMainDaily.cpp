@@ -28,7 +28,7 @@ std::string PathOf(const std::string& key) {
 /// A flag that is up as long as this lives, also when an error ends that.
 class Raised {
  public:
-  explicit Raised(bool& flag) : m_flag(flag) { m_flag = true; }
+  explicit Raised(bool& flag) : m_flag(flag) { flag = true; }
   Raised(const Raised&) = delete;
   Raised& operator=(const Raised&) = delete;
   ~Raised() { m_flag = false; }

@@ -26,6 +26,22 @@ constexpr std::array<Field, FOptions::kFields> kFieldTable{{
     {"&Timer Interval (1 to 60 seconds):", kTimerIntervalRange, 6},
 }};
 
+/// Makes a form the one whose pointer a wait cursor changes, for as long as it lives.
+class ActiveForm {
+ public:
+  ActiveForm(Application& application, controls::Form& form)
+      : m_application(application), m_before(application.activeForm) {
+    application.activeForm = &form;
+  }
+  ActiveForm(const ActiveForm&) = delete;
+  ActiveForm& operator=(const ActiveForm&) = delete;
+  ~ActiveForm() { m_application.activeForm = m_before; }
+
+ private:
+  Application& m_application;
+  controls::Form* m_before;
+};
+
 }  // namespace
 
 FOptions::FOptions(Application& application) : m_application(application) {
@@ -85,10 +101,8 @@ void FOptions::SetNumber(std::size_t index, std::int32_t number) {
 
 bool FOptions::GetValues() {
   m_accepted = false;
-  controls::Form* const owner = m_application.activeForm;
-  m_application.activeForm = &form;
+  const ActiveForm active(m_application, form);
   m_application.desktop.windowing.ShowModal(form);
-  m_application.activeForm = owner;
   return m_accepted;
 }
 

@@ -309,5 +309,12 @@ TEST_F(FOptionsTest, WhileTheDialogIsShownTheHourglassIsItsOwn) {
   EXPECT_EQ(application.activeForm, &owner);
 }
 
+TEST_F(FOptionsTest, ADialogThatCannotBeShownGivesTheHourglassBack) {
+  controls::Form owner;
+  application.activeForm = &owner;
+  EXPECT_THROW(Show([] { throw Error(kDeviceIoError, "The dialog cannot be shown"); }), Error);
+  EXPECT_EQ(application.activeForm, &owner);
+}
+
 }  // namespace
 }  // namespace dayvane

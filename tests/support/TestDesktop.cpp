@@ -86,6 +86,11 @@ std::vector<std::string> TestWindowing::Texts() const {
   return texts;
 }
 
+void TestWindowing::ShowAbout(const platform::About& about) {
+  if (noAbout) throw Error(kDeviceIoError, "No about box");
+  abouts.push_back(about);
+}
+
 void TestWindowing::PostMessage(controls::Form& form, int message) {
   happenings.emplace_back("post");
   posted.push_back(message);
@@ -119,8 +124,14 @@ void TestShell::CreateShellLink(const std::string& path, const platform::ShellLi
 }
 
 int TestShell::Open(const std::string& target, const std::string& workingDirectory, std::int32_t showCommand) {
+  if (cannotLaunch) throw Error(kDeviceIoError, "Cannot launch");
   opened.push_back(target + "|" + workingDirectory + "|" + std::to_string(showCommand));
   return openResult;
+}
+
+void TestShell::Run(const std::string& commandLine) {
+  if (cannotLaunch) throw Error(kDeviceIoError, "Cannot launch");
+  commandLines.push_back(commandLine);
 }
 
 std::optional<platform::ShellFileInfo> TestIcons::FileInfo(const std::string& path, std::uint32_t attributes,
@@ -140,6 +151,7 @@ std::optional<platform::ShellFileInfo> TestIcons::FileInfo(std::uint64_t identif
 }
 
 void TestHelp::ShowHelp(const std::string& helpFile, int command, int contextId) {
+  if (noViewer) throw Error(kDeviceIoError, "No help viewer");
   shown.push_back(helpFile + "|" + std::to_string(command) + "|" + std::to_string(contextId));
 }
 

@@ -46,7 +46,7 @@ class TestWindowing : public platform::Windowing {
   void Beep() override { ++beeps; }
   void ProcessPendingMessages() override { pending(); }
   void ShowModal(controls::Form& form) override { showModal(form); }
-  void ShowAbout(const platform::About& about) override { abouts.push_back(about); }
+  void ShowAbout(const platform::About& about) override;
   void PostMessage(controls::Form& form, int message) override;
   void SetForegroundWindow(controls::Form&) override { happenings.emplace_back("foreground"); }
   void PopupMenu(controls::Form&, controls::Menu& menu, double x, double y) override;
@@ -59,6 +59,7 @@ class TestWindowing : public platform::Windowing {
   platform::MessageAnswer answer = platform::MessageAnswer::Yes;
   int beeps = 0;
   std::vector<platform::About> abouts;
+  bool noAbout = false;                 ///< the about box cannot be shown
   std::vector<std::string> happenings;  ///< what was asked of the desktop, one word each, in order
   std::vector<int> posted;
   controls::Menu* popupMenu = nullptr;
@@ -80,7 +81,7 @@ class TestShell : public platform::Shell {
   platform::ReadLink ReadShellLink(const std::string& path) override { return m_reader.Read(path); }
   void CreateShellLink(const std::string& path, const platform::ShellLink& link) override;
   int Open(const std::string& target, const std::string& workingDirectory, std::int32_t showCommand) override;
-  void Run(const std::string& commandLine) override { commandLines.push_back(commandLine); }
+  void Run(const std::string& commandLine) override;
   std::string WindowsFolder() override { return "C:\\WINDOWS"; }
   std::string DisplayPath(const std::string& path) override { return displayPath(path); }
 
@@ -89,6 +90,7 @@ class TestShell : public platform::Shell {
   std::function<std::string(const std::string&)> displayPath = [](const std::string& path) { return path; };
   int captured = 0;
   int openResult = 42;
+  bool cannotLaunch = false;        ///< opening and running fail
   std::vector<std::string> opened;  ///< "target|working folder|show command"
   std::vector<std::string> commandLines;
   std::vector<std::string> reported;  ///< what the reader had to tell the event log
@@ -115,6 +117,7 @@ class TestHelp : public platform::Help {
   void ShowHelp(const std::string& helpFile, int command, int contextId) override;
 
   std::vector<std::string> shown;  ///< "file|command|context"
+  bool noViewer = false;           ///< there is nothing to show help with
 };
 
 /// A desktop over a temporary folder: real files and shortcuts, scripted message boxes, clock and shell. The clock

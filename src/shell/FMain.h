@@ -9,6 +9,7 @@
 
 #include "app/Application.h"
 #include "app/CWaitCursor.h"
+#include "base/Held.h"
 #include "controls/Calendar.h"
 #include "controls/Form.h"
 #include "controls/ImageList.h"
@@ -181,9 +182,9 @@ class FMain {
 
   Application& m_application;
   CRepository& m_repository;
-  std::unique_ptr<CCalendar> m_oCalendar;
-  std::unique_ptr<CDaily> m_oDaily;
-  std::unique_ptr<CFavorites> m_oFavorites;
+  Held<CCalendar> m_oCalendar;
+  Held<CDaily> m_oDaily;
+  Held<CFavorites> m_oFavorites;
   bool m_exiting = false;
   std::int16_t m_activeView = kDailyView;
   std::int32_t m_favoritesThreshold = 0;

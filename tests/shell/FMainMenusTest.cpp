@@ -310,5 +310,24 @@ TEST_F(MenusTest, OpenInTheListsMenuOpensTheSelectedDocument) {
   EXPECT_THAT(status, ElementsAre("Please wait...", "2 objects"));
 }
 
+TEST_F(MenusTest, BeforeTheWindowHasLoadedTheCommandsLogWhatIsMissingAndReportThat) {
+  testing::MainWindow fresh;
+  fresh.window.mnuToolsPopup.Click.Raise(2);
+  fresh.window.mnuToolsPopup.Click.Raise(5);
+  fresh.window.mnuTreeViewPopup.Click.Raise(0);
+  fresh.window.mnuListViewPopup.Click.Raise(0);
+  EXPECT_THAT(fresh.desktop.LogLines("EventLog.txt"),
+              ElementsAre("2\tFMain.mnuToolsPopup_Click: Daily object is nothing",
+                          "2\tFMain.mnuToolsPopup_Click: Favorites object is nothing",
+                          "2\tFMain.mnuToolsPopup_Click: Daily object is nothing",
+                          "2\tFMain.mnuToolsPopup_Click: Favorites object is nothing",
+                          "2\tFMain.mnuTreeViewPopup_Click: Daily object is nothing",
+                          "2\tFMain.mnuListViewPopup_Click: Daily object is nothing"));
+  EXPECT_THAT(fresh.desktop.windowing.Texts(),
+              ElementsAre("An error occurred Exploring the document's folder.",
+                          "An error occurred rebuilding the Favorites list.", "An error occurred purging a day.",
+                          "An error occurred opening a document."));
+}
+
 }  // namespace
 }  // namespace dayvane

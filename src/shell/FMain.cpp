@@ -45,6 +45,7 @@ FMain::FMain(Application& application, CRepository& repository)
       m_application(application),
       m_repository(repository) {
   application.activeForm = &form;
+  picFavorites.SetVisible(false);  // One pane at a time, also when the settings name no view that exists.
   BuildLists();
   BuildToolbar();
   ConnectControls();

@@ -153,6 +153,14 @@ TEST_F(SettingsTest, APlacementThatDoesNotConvertIsTheWindowsOwn) {
   EXPECT_EQ(Stored("Window")["Left"], "100") << "so that a later save finds it";
 }
 
+TEST_F(SettingsTest, AStoredViewThatDoesNotExistShowsTheDailyPaneAlone) {
+  Stored("View") = {{"Data", "7"}, {"ListViews", "3"}};
+  Load();
+  EXPECT_EQ(window.form.Caption(), "Dayvane - Daily");
+  EXPECT_TRUE(window.picDaily.Visible());
+  EXPECT_FALSE(window.picFavorites.Visible());
+}
+
 TEST_F(SettingsTest, WhatOneRunLeavesTheNextTakesUp) {
   Load();
   window.form.Move(1000, 1100, 5000, 6000);

@@ -2,6 +2,7 @@
 
 #include "base/Error.h"
 #include "settings/COptions.h"
+#include "settings/FOptions.h"
 #include "settings/SettingsStore.h"
 #include "tests/support/TestDesktop.h"
 
@@ -13,6 +14,14 @@ const std::string kProduct = "\\HKEY_CURRENT_USER\\Software\\Korvath\\Dayvane";
 class COptionsTest : public ::testing::Test {
  protected:
   std::map<std::string, std::string>& Stored() { return desktop.registry.keys[kProduct + "\\Options"]; }
+
+  /// Changes the options with a user who does this in the dialog.
+  bool Change(const std::function<void(FOptions&)>& user) {
+    FOptions* shown = nullptr;
+    const auto loaded = options.DialogLoaded.ConnectScoped([&](FOptions& dialog) { shown = &dialog; });
+    desktop.windowing.showModal = [&](controls::Form&) { user(*shown); };
+    return options.ChangeValues();
+  }
 
   testing::TestDesktop desktop;
   Application application{desktop.desktop, desktop.Folder()};
@@ -78,6 +87,66 @@ TEST_F(COptionsTest, AKeyThatCannotBeCreatedIsAnErrorForTheCaller) {
 
 TEST_F(COptionsTest, BeforeAReadAllValuesAreZero) {
   EXPECT_EQ(options.FavoritesThreshold() + options.PurgeAge() + options.TimerInterval(), 0);
+}
+
+TEST_F(COptionsTest, TheDefaultsOnceUsedStayUsed) {
+  options.ReadValues();
+  options.ReadValues();
+  EXPECT_TRUE(options.DefaultOptionsUsed());
+}
+
+TEST_F(COptionsTest, TheDialogStartsFromTheStoredValues) {
+  Stored() = {{"Favorites Threshold", "5"}, {"Purge Age", "90"}, {"Timer Interval", "600"}};
+  std::vector<std::string> texts;
+  Change([&](FOptions& dialog) {
+    for (const auto& box : dialog.txtOptions) texts.push_back(box.Text());
+  });
+  EXPECT_EQ(texts, (std::vector<std::string>{"5", "90", "600"}));
+}
+
+TEST_F(COptionsTest, AcceptedValuesAreStoredAsTexts) {
+  EXPECT_TRUE(Change([](FOptions& dialog) {
+    dialog.txtOptions[0].SetText("7");
+    dialog.txtOptions[1].SetText("5000");
+    dialog.txtOptions[2].SetText("0015");
+    dialog.cmdOptions[FOptions::kOk].Press();
+  }));
+  const std::map<std::string, std::string> expected{
+      {"Favorites Threshold", "7"}, {"Purge Age", "5000"}, {"Timer Interval", "15"}};
+  EXPECT_EQ(Stored(), expected);
+  EXPECT_EQ(options.FavoritesThreshold(), 7);
+  EXPECT_EQ(options.PurgeAge(), 5000);
+  EXPECT_EQ(options.TimerInterval(), 15);
+}
+
+TEST_F(COptionsTest, ACancelledDialogChangesNothing) {
+  Stored() = {{"Favorites Threshold", "5"}, {"Purge Age", "90"}, {"Timer Interval", "10"}};
+  const auto before = Stored();
+  EXPECT_FALSE(Change([](FOptions& dialog) {
+    dialog.txtOptions[0].SetText("7");
+    dialog.cmdOptions[FOptions::kCancel].Press();
+  }));
+  EXPECT_EQ(Stored(), before);
+  EXPECT_EQ(options.FavoritesThreshold(), 5);
+}
+
+TEST_F(COptionsTest, TheDialogIsUnloadedHoweverItEnded) {
+  for (const auto command : {FOptions::kOk, FOptions::kCancel}) {
+    bool unloaded = false;
+    Change([&](FOptions& dialog) {
+      dialog.form.Unloaded.Connect([&] { unloaded = true; });
+      dialog.cmdOptions[command].Press();
+    });
+    EXPECT_TRUE(unloaded);
+  }
+}
+
+TEST_F(COptionsTest, OptionsThatCannotBeStoredAreAnErrorForTheCaller) {
+  EXPECT_THROW(Change([this](FOptions& dialog) {
+                 dialog.cmdOptions[FOptions::kOk].Press();
+                 desktop.registry.keys.erase(kProduct + "\\Options");
+               }),
+               Error);
 }
 
 TEST(SettingsStore, NumbersAreStoredInTheirShortestDecimalForm) {

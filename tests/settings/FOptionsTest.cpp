@@ -192,8 +192,10 @@ TEST_F(FOptionsTest, CancelRefusesWhateverWasEdited) {
   EXPECT_THAT(desktop.windowing.Texts(), IsEmpty());
 }
 
-TEST_F(FOptionsTest, ClosingTheDialogRefuses) {
+TEST_F(FOptionsTest, ClosingTheDialogCancelsAndLeavesItToItsOwner) {
   EXPECT_FALSE(Show([this] { dialog.form.RequestUnload(controls::UnloadMode::ControlMenu); }));
+  EXPECT_FALSE(dialog.form.Visible());
+  EXPECT_FALSE(dialog.form.IsUnloaded());
 }
 
 TEST_F(FOptionsTest, ADialogShownAgainHasNotBeenAcceptedYet) {

@@ -1,5 +1,8 @@
 #include "shell/FMain.h"
 
+#include <algorithm>
+#include <limits>
+
 #include "app/ReportErrors.h"
 #include "settings/COptions.h"
 #include "shell/MHelpConstants.h"
@@ -8,8 +11,6 @@
 namespace dayvane {
 
 namespace {
-
-constexpr int kMillisecondsPerSecond = 1000;
 
 controls::Picture ResourcePicture(int resource) {
   return {{}, resource};
@@ -212,8 +213,16 @@ void FMain::LoadFavorites() {
   m_justCounted.clear();
 }
 
+void FMain::SetTimerInterval() {
+  // Only the dialog keeps to a minute: a stored option may be any number of seconds.
+  constexpr std::int64_t kMillisecondsPerSecond = 1000;
+  constexpr std::int64_t kLongest = std::numeric_limits<int>::max();
+  const std::int64_t milliseconds = m_timerInterval * kMillisecondsPerSecond;
+  tmrMain.SetInterval(static_cast<int>(std::clamp<std::int64_t>(milliseconds, 0, kLongest)));
+}
+
 void FMain::StartCapture() {
-  tmrMain.SetInterval(m_timerInterval * kMillisecondsPerSecond);
+  SetTimerInterval();
   tmrMain.SetEnabled(true);
 }
 

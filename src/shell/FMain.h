@@ -143,6 +143,7 @@ class FMain {
   void LoadFavorites();
   void RestoreWindow();
   void RestoreViews();
+  void SetTimerInterval();
   void StartCapture();
 
   // Handlers.

@@ -180,7 +180,6 @@ void FMain::SetExploreOpen(bool enabled) {
 
 void FMain::SetOptions() {
   ReportErrors(m_application, kSettingOptions, kName, "SetOptions", [this] {
-    constexpr int kMillisecondsPerSecond = 1000;
     const std::int32_t threshold = m_favoritesThreshold;
     const std::int32_t interval = m_timerInterval;
     COptions options(m_application);
@@ -193,7 +192,7 @@ void FMain::SetOptions() {
       RefreshFavorites();
       RefreshStatusBar();
     }
-    if (m_timerInterval != interval) tmrMain.SetInterval(m_timerInterval * kMillisecondsPerSecond);
+    if (m_timerInterval != interval) SetTimerInterval();
   });
 }
 

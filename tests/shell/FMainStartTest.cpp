@@ -130,6 +130,18 @@ TEST_F(StartTest, TheTimersIntervalIsTheStoredSeconds) {
   EXPECT_EQ(window.tmrMain.Interval(), 600000);
 }
 
+TEST_F(StartTest, AnIntervalBeyondTheTimersReachIsTheLongestThereIs) {
+  Option("Timer Interval") = "2147483647";
+  Load();
+  EXPECT_EQ(window.tmrMain.Interval(), 2147483647);
+}
+
+TEST_F(StartTest, AnIntervalBelowZeroNeverTicks) {
+  Option("Timer Interval") = "-2147483648";
+  Load();
+  EXPECT_EQ(window.tmrMain.Interval(), 0);
+}
+
 TEST_F(StartTest, WhatWasOpenedBeforeTheStartIsListedWhenTheWindowShows) {
   desktop.OpenDocument("Z:\\home\\ana\\a.odt", "2026-11-20 09:15:00");
   std::vector<std::string> tree;

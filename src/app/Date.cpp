@@ -149,7 +149,7 @@ unsigned Date::Month() const {
 unsigned Date::Day() const {
   return static_cast<unsigned>(Calendar().day());
 }
-Date Date::AddDays(int count) const {
+Date Date::AddDays(std::int64_t count) const {
   return Date(m_seconds + count * kSecondsPerDay);
 }
 Date Date::Midnight() const {

@@ -31,7 +31,7 @@ class Date {
   int Minute() const { return SecondOfDay() / 60 % 60; }
   int Second() const { return SecondOfDay() % 60; }
 
-  Date AddDays(int count) const;
+  Date AddDays(std::int64_t count) const;
   Date Midnight() const;
 
   std::int64_t SecondsSinceDayZero() const { return m_seconds; }

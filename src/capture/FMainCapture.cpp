@@ -54,7 +54,7 @@ void FMain::ProcessShortcut(CShortcut* shortcut) {
   Assert(shortcut != nullptr, ".ProcessShortcut: Shortcut is nothing");
   Assert(m_oFavorites != nullptr, ".ProcessShortcut: Favorites object is nothing");
   if (shortcut == nullptr || m_oFavorites == nullptr) throw Error(kObjectNotSet, "Object variable not set");
-  const Date cutOff = m_application.Now().AddDays(-m_purgeAge);
+  const Date cutOff = m_application.Now().AddDays(-std::int64_t{m_purgeAge});
   const std::string destination = filing::DayFolder(m_repository.DailyPath(), *shortcut) + "\\" + shortcut->FileName();
   switch (filing::Decide(m_application.desktop.files, *shortcut, destination, cutOff)) {
     case filing::Decision::TooOld:

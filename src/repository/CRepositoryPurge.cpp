@@ -26,7 +26,7 @@ bool CRepository::PurgeOldShortcuts(int purgeAge) {
   Assert(!text::Trim(m_dailyPath).empty(), ".PurgeOldShortcuts: Daily path is missing");
   // A folder's date is its midnight and this limit has a time of day: the extra day keeps a day whole until it lies
   // more than the purge age back.
-  m_purgeDate = m_application.Now().AddDays(-purgeAge).AddDays(-1);
+  m_purgeDate = m_application.Now().AddDays(-std::int64_t{purgeAge}).AddDays(-1);
   m_purged = false;
   m_oPurgeWalker.WalkDirectoryTree(m_dailyPath + "\\", "*.*", kWalkReportFolders);
   return m_purged;

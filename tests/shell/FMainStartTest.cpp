@@ -142,6 +142,18 @@ TEST_F(StartTest, AnIntervalBelowZeroNeverTicks) {
   EXPECT_EQ(window.tmrMain.Interval(), 0);
 }
 
+TEST_F(StartTest, APurgeAgeOfAnySizeIsTakenAsItStands) {
+  desktop.OpenDocument("Z:\\home\\ana\\a.odt", "2026-11-20 09:15:00");
+  Option("Purge Age") = "-2147483648";
+  Load();
+  EXPECT_FALSE(fs::exists(Daily("2026"))) << "a limit that lies ahead makes every shortcut too old";
+  Option("Purge Age") = "2147483647";
+  FMain next(application, repository);
+  next.Form_Load();
+  EXPECT_TRUE(fs::exists(Daily("2026/November/20/a.odt.lnk")));
+  EXPECT_THAT(desktop.windowing.Texts(), IsEmpty());
+}
+
 TEST_F(StartTest, WhatWasOpenedBeforeTheStartIsListedWhenTheWindowShows) {
   desktop.OpenDocument("Z:\\home\\ana\\a.odt", "2026-11-20 09:15:00");
   std::vector<std::string> tree;

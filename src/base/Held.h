@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "base/Error.h"
+#include "base/Required.h"
 
 namespace dayvane {
 
@@ -13,10 +13,7 @@ class Held : public std::unique_ptr<Object> {
   using std::unique_ptr<Object>::unique_ptr;
   using std::unique_ptr<Object>::operator=;
 
-  Object* operator->() const {
-    if (!*this) throw Error(kObjectNotSet, "Object variable not set");
-    return this->get();
-  }
+  Object* operator->() const { return &Required(this->get()); }
 };
 
 }  // namespace dayvane

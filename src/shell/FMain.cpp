@@ -181,8 +181,11 @@ void FMain::Welcome() {
 }
 
 void FMain::PurgeAtStart() {
-  if (m_repository.PurgeOldShortcuts(m_purgeAge)) m_oFavorites->RebuildFavorites();
-  m_repository.PurgeEmptyFolders();
+  // Reported apart: a folder that cannot be purged must not keep the program from capturing.
+  ReportErrors(m_application, kPurgingDay, kName, "PurgeAtStart", [this] {
+    if (m_repository.PurgeOldShortcuts(m_purgeAge)) m_oFavorites->RebuildFavorites();
+    m_repository.PurgeEmptyFolders();
+  });
 }
 
 void FMain::ReadOptions() {

@@ -2,7 +2,6 @@
 
 #include "app/IgnoreErrors.h"
 #include "app/ReportErrors.h"
-#include "base/Required.h"
 #include "controls/ListView.h"
 #include "shell/FMain.h"
 #include "shell/MHelpConstants.h"
@@ -98,7 +97,7 @@ void FMain::mnuTreeViewPopup_Click(int index) {
   ReportErrors(m_application, kPurgingDay, kName, "mnuTreeViewPopup_Click", [&] {
     Assert(m_oDaily != nullptr, ".mnuTreeViewPopup_Click: Daily object is nothing");
     auto waitCursor = ShowWait();
-    PurgeDay(Required(m_oDaily).SelectedDay());
+    PurgeDay(m_oDaily->SelectedDay());
     RefreshStatusBar(std::move(waitCursor));
   });
 }

@@ -3,7 +3,6 @@
 #include "app/MDayvane.h"
 #include "app/ReportErrors.h"
 #include "base/Error.h"
-#include "base/Required.h"
 #include "base/Text.h"
 #include "capture/CFileInfo.h"
 #include "capture/CShortcut.h"
@@ -55,7 +54,7 @@ void FMain::FindLatestDay() {
   ReportErrors(m_application, kFindingLatestDay, kName, "FindLatestDay", [this] {
     Assert(m_oCalendar != nullptr, ".FindLatestDay: Calendar object is nothing");
     const Date latest = m_repository.FindLatestDay();
-    if (!latest.IsZero()) Required(m_oCalendar).SetValue(latest);
+    if (!latest.IsZero()) m_oCalendar->SetValue(latest);
   });
 }
 
@@ -190,7 +189,7 @@ void FMain::m_oDaily_TreeViewNodeClick(const controls::TreeNode& node) {
     LoadDailyListView(&node);
     {
       const Raised inTreeClick(m_inTreeClick);
-      Required(m_oCalendar).SetValue(PathToDate(m_application, node.key));
+      m_oCalendar->SetValue(PathToDate(m_application, node.key));
     }
     RefreshStatusBar(std::move(waitCursor));
   });

@@ -33,7 +33,9 @@ void FMain::OpenDocument(const controls::ListItem* item) {
   ReportErrors(m_application, kOpeningDocument, kName, "OpenDocument", [&] {
     Assert(item != nullptr, ".OpenDocument: Item is Nothing");
     Assert(!text::Trim(m_recentFolder).empty(), ".OpenDocument: Recent folder is missing");
-    const std::string path = PathOf(Required(item));
+    // A copy: while a question waits, the next capture may fill the lists anew.
+    const controls::ListItem document = Required(item);
+    const std::string path = PathOf(document);
     CShortcut shortcut(m_application);
     shortcut.SetFile(path);
     const ShellServices& shell = m_application.shellServices;
@@ -50,7 +52,7 @@ void FMain::OpenDocument(const controls::ListItem* item) {
       Tell(ResourceString(kOperatingSystemError));
     else
       PutBackIntoRecent(path);
-    if (remove) RemoveLink(item);
+    if (remove) RemoveLink(&document);
   });
 }
 
@@ -80,8 +82,8 @@ void FMain::RemoveLink(const controls::ListItem* item) {
     IgnoreErrors([&] { files.Delete(path); });
     IgnoreErrors([&] { files.Delete(m_recentFolder + "\\" + m_application.shellServices.SplitPath(path).fileName); });
     // From the Favorites view the day that is shown need not be the document's.
-    if (lvwDaily.Find(key) != nullptr) Required(m_oDaily).RemoveDocument(key);
-    if (Required(m_oFavorites).RemoveDocument(key)) {
+    if (lvwDaily.Find(key) != nullptr) m_oDaily->RemoveDocument(key);
+    if (m_oFavorites->RemoveDocument(key)) {
       m_oFavorites->RebuildFavorites();
       RefreshFavorites();
     }
@@ -94,21 +96,21 @@ void FMain::PurgeDay(const controls::TreeNode* node) {
   Assert(m_oFavorites != nullptr, ".PurgeDay: Favorites object is nothing");
   m_repository.PurgeDay(Required(node).key.substr(1));
   RefreshDaily();
-  Required(m_oFavorites).RebuildFavorites();
+  m_oFavorites->RebuildFavorites();
   RefreshFavorites();
 }
 
 void FMain::Explore() {
   ReportErrors(m_application, kExploringFolder, kName, "Explore", [this] {
     Assert(m_oDaily != nullptr, ".Explore: Daily object is nothing");
-    Required(m_oDaily).Explore();
+    m_oDaily->Explore();
   });
 }
 
 void FMain::OpenFolder() {
   ReportErrors(m_application, kOpeningFolder, kName, "OpenFolder", [this] {
     Assert(m_oDaily != nullptr, ".OpenFolder: Daily object is nothing");
-    Required(m_oDaily).OpenFolder();
+    m_oDaily->OpenFolder();
   });
 }
 

@@ -1,7 +1,6 @@
 // The Favorites view: the documents that were filed on enough days.
 
 #include "app/IgnoreErrors.h"
-#include "base/Required.h"
 #include "base/Text.h"
 #include "shell/FMain.h"
 #include "views/FavoritesTable.h"
@@ -37,7 +36,7 @@ void FMain::RefreshFavorites() {
   const auto* selected = lvwFavorites.SelectedItem();
   const std::string selectedKey = selected == nullptr ? std::string() : selected->key;
   lvwFavorites.Clear();
-  for (const favorites::Record& record : Required(m_oFavorites).GetFavorites()) {
+  for (const favorites::Record& record : m_oFavorites->GetFavorites()) {
     if (!Reaches(record[favorites::kDaysAccessed], m_favoritesThreshold)) continue;
     const std::string shortcutFile = favorites::TextOf(record[favorites::kShortcutFile]);
     const std::string name = favorites::TextOf(record[favorites::kTargetFileName]);

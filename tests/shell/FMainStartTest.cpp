@@ -221,5 +221,14 @@ TEST_F(StartTest, TheTreeHasAPictureForEachOfItsLevels) {
   EXPECT_EQ(window.imlMain.Count(), 4);
 }
 
+TEST_F(StartTest, AFolderThatCannotBePurgedIsReportedAndCaptureRunsAllTheSame) {
+  desktop.folder.Write("program/Daily/2026/November/20/.directory", "");
+  desktop.OpenDocument("Z:\\home\\ana\\new.odt", "2026-11-21 09:00:00");
+  Load();
+  EXPECT_THAT(desktop.windowing.Texts(), ElementsAre("An error occurred purging a day."));
+  EXPECT_TRUE(fs::exists(Daily("2026/November/21/new.odt.lnk")));
+  EXPECT_TRUE(window.tmrMain.Enabled());
+}
+
 }  // namespace
 }  // namespace dayvane

@@ -77,6 +77,7 @@ void TestRegistry::AddClass(const std::string& extension, const std::string& des
 
 platform::MessageAnswer TestWindowing::ShowMessage(const platform::Message& message) {
   messages.push_back(message);
+  whileAsked();
   return message.buttons == platform::MessageButtons::Ok ? platform::MessageAnswer::Ok : answer;
 }
 

@@ -57,6 +57,7 @@ class TestWindowing : public platform::Windowing {
 
   std::vector<platform::Message> messages;
   platform::MessageAnswer answer = platform::MessageAnswer::Yes;
+  std::function<void()> whileAsked = [] {};  ///< what happens while a message box waits
   int beeps = 0;
   std::vector<platform::About> abouts;
   bool noAbout = false;                 ///< the about box cannot be shown

@@ -179,6 +179,17 @@ TEST_F(DocumentActionsTest, YesRemovesTheLinkOfADocumentWhoseFolderIsGoneToo) {
   EXPECT_FALSE(fs::exists(Filed("20", "a.odt")));
 }
 
+TEST_F(DocumentActionsTest, TheLinkIsRemovedThoughACaptureFilledTheListAnewMeanwhile) {
+  LoadDay();
+  desktop.windowing.whileAsked = [this] {
+    desktop.OpenDocument("Z:\\home\\ana\\b.odt", "2026-11-20 11:00:00");
+    Tick();
+  };
+  OpenWith(2);
+  EXPECT_THAT(ColumnOf(window.lvwDaily, 0), ElementsAre("b.odt"));
+  EXPECT_FALSE(fs::exists(Filed("20", "a.odt")));
+}
+
 TEST_F(DocumentActionsTest, FilesThatAreGoneAlreadyDoNotKeepALinkFromBeingRemoved) {
   File("20", "b.odt");
   LoadDay();

@@ -49,6 +49,7 @@ FMain::FMain(Application& application, CRepository& repository)
   picFavorites.SetVisible(false);  // One pane at a time, also when the settings name no view that exists.
   BuildLists();
   BuildToolbar();
+  ShowSuspendOrResume(true);
   ConnectControls();
 }
 

@@ -133,6 +133,10 @@ void FMain::SetActive(bool active) {
     tmrMain.SetEnabled(false);
     tryMain.SetPicture(kSuspendedIcon);
   }
+  ShowSuspendOrResume(active);
+}
+
+void FMain::ShowSuspendOrResume(bool active) {
   mnuFilePopup[0].SetVisible(active);
   mnuFilePopup[1].SetVisible(!active);
   mnuSysTrayPopup[2].SetVisible(active);

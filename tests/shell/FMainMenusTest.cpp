@@ -88,6 +88,14 @@ TEST_F(MenusTest, SuspendStopsTheTimerAndShowsItInTheTray) {
   EXPECT_EQ(window.tryMain.Picture(), 104);
 }
 
+TEST_F(MenusTest, ACapturingProgramOffersOnlyToSuspendFromItsStartOn) {
+  Load();
+  EXPECT_TRUE(window.mnuFilePopup[0].Visible());
+  EXPECT_FALSE(window.mnuFilePopup[1].Visible());
+  EXPECT_TRUE(window.mnuSysTrayPopup[2].Visible());
+  EXPECT_FALSE(window.mnuSysTrayPopup[3].Visible());
+}
+
 TEST_F(MenusTest, SuspendAndResumeTakeEachOthersPlaceInBothMenus) {
   const auto visible = [this] {
     return std::vector<bool>{window.mnuFilePopup[0].Visible(), window.mnuFilePopup[1].Visible(),

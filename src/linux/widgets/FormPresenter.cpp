@@ -38,6 +38,11 @@ int HelpIdAt(const QWidget* widget) {
   return widget == nullptr ? 0 : widget->property(kHelpIdProperty).toInt();
 }
 
+/// On Wayland nobody but the compositor does: what the form was told on another desktop stays.
+bool KnowsWhereWindowsAre() {
+  return !QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
+}
+
 QSize FrameOf(const QWidget& window) {
   const QSize frame = window.frameGeometry().size() - window.size();
   return frame.isNull() ? kUsualFrame : frame;
@@ -182,7 +187,9 @@ void FormPresenter::TellState() {
 void FormPresenter::TellPlace() {
   m_placeTimer.stop();
   if (!m_window.isVisible() || m_window.windowState() != Qt::WindowNoState) return;
-  const QRect place(m_window.pos(), m_window.size());
+  QRect place = PixelRect(m_form, m_window);
+  place.setSize(m_window.size());
+  if (KnowsWhereWindowsAre()) place.moveTo(m_window.pos());
   m_shownPlace = {ToTwips(place.x(), m_window), ToTwips(place.y(), m_window), ToTwips(place.width(), m_window),
                   ToTwips(place.height(), m_window)};
   MoveControl(m_form, place, m_window);

@@ -36,8 +36,11 @@ void MenuPresenter::AddItem(int index) {
     connect(
         m_shown.back(), &QAction::triggered, this, [this, index] { Choose(index); }, Qt::QueuedConnection);
   }
-  m_shown.back()->setText(QString::fromStdString(item.Caption()));
-  m_shown.back()->setSeparator(item.IsSeparator());
+  // Some styles would draw a separator's caption as a heading.
+  if (item.IsSeparator())
+    m_shown.back()->setSeparator(true);
+  else
+    m_shown.back()->setText(QString::fromStdString(item.Caption()));
   addAction(m_shown.back());
   m_connections.push_back(item.Changed.ConnectScoped([this, index] { ShowItem(index); }));
   ShowItem(index);

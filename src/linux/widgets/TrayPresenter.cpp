@@ -44,7 +44,7 @@ void TrayPresenter::Activate(QSystemTrayIcon::ActivationReason reason) {
 }
 
 void TrayPresenter::Show() {
-  if (m_watch.IsThere()) ShowIcon();
+  if (m_watch.IsThere() && m_control.Picture() != 0) ShowIcon();
   const bool needed = !m_watch.IsThere() && !m_form.Visible() && !m_form.IsUnloaded();
   if (!needed) {
     m_patience.stop();

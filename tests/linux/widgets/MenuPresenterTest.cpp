@@ -36,6 +36,10 @@ TEST_F(MenuPresenterTest, ShowsTheEntriesInOrder) {
   EXPECT_EQ(actions[2]->menu()->actions().at(1)->text(), "by &Type");
 }
 
+TEST_F(MenuPresenterTest, ASeparatorIsALineWithoutWords) {
+  EXPECT_EQ(m_presenter.actions().at(1)->text(), "");
+}
+
 TEST_F(MenuPresenterTest, AChoiceIsToldWithItsIndex) {
   Trigger(3);
 

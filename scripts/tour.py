@@ -33,7 +33,7 @@ SETTINGS = {
                   "Days Accessed Width": 110 * TWIPS, "Last Accessed Width": 140 * TWIPS, "Sort Column": 4,
                   "Sort Order": 1},
 }
-VIEWS = ["daily"]
+VIEWS = ["daily", "favorites"]
 
 # The user's programs: the types that each opens.
 PROGRAMS = {

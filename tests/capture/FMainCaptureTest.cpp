@@ -317,5 +317,20 @@ TEST_F(CaptureTest, APollThatFailedDoesNotTellThatItCaptured) {
   EXPECT_EQ(desktop.shell.captured, before);
 }
 
+TEST_F(CaptureTest, WindowsArePaintedWhileManyDocumentsAreFiled) {
+  for (const char* name : {"a", "b", "c"})
+    desktop.OpenDocument(std::string("Z:\\home\\ana\\") + name + ".odt", "2026-11-21 09:15:00");
+  Load();
+  int paints = 0;
+  desktop.windowing.pending = [&] {
+    ++paints;
+    EXPECT_EQ(window.tryMain.Picture(), 103);
+    EXPECT_EQ(window.sbrMain.Text(), "Please wait...");
+    EXPECT_EQ(window.form.Pointer(), controls::MousePointer::Hourglass);
+  };
+  Tick();
+  EXPECT_EQ(paints, 3);
+}
+
 }  // namespace
 }  // namespace dayvane

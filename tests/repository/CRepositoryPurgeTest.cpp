@@ -249,5 +249,13 @@ TEST_F(CRepositoryPurgeTest, AnEmptyRepositoryHasNothingToSweep) {
   EXPECT_TRUE(Exists(""));
 }
 
+TEST_F(CRepositoryPurgeTest, WindowsArePaintedWhileManyDaysArePurged) {
+  for (const char* day : {"01", "02", "03"}) MakeFolder(std::string("1997/May/") + day);
+  int paints = 0;
+  desktop.windowing.pending = [&] { ++paints; };
+  repository.PurgeOldShortcuts(30);
+  EXPECT_EQ(paints, 3);
+}
+
 }  // namespace
 }  // namespace dayvane

@@ -286,5 +286,14 @@ TEST_F(CFavoritesTest, AMissingAppPathIsLoggedByRead) {
   EXPECT_EQ(desktop.LogLines("EventLog.txt").at(0), "2\tCFavorites.Read: App path is missing");
 }
 
+TEST_F(CFavoritesTest, WindowsArePaintedWhileTheFavoritesAreRebuilt) {
+  int paints = 0;
+  desktop.windowing.pending = [&] { ++paints; };
+  File("2026/May/05", "Z:\\home\\ana\\a.odt", "2026-05-05 10:00:00");
+  File("2026/May/06", "Z:\\home\\ana\\a.odt", "2026-05-06 10:00:00");
+  favorites.RebuildFavorites();
+  EXPECT_EQ(paints, 2);
+}
+
 }  // namespace
 }  // namespace dayvane

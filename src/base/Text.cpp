@@ -5,6 +5,8 @@
 #include <cwctype>
 #include <locale>
 
+#include "base/Utf8.h"
+
 namespace dayvane::text {
 
 namespace {
@@ -36,36 +38,6 @@ char AsciiLower(char c) {
   return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
 }
 
-/// Length of the UTF-8 sequence that starts here and its code point, or 0 where the bytes are none.
-std::size_t Decode(std::string_view text, char32_t& codePoint) {
-  const auto lead = static_cast<unsigned char>(text[0]);
-  const std::size_t length = lead < 0x80   ? 1
-                             : lead < 0xC2 ? 0
-                             : lead < 0xE0 ? 2
-                             : lead < 0xF0 ? 3
-                             : lead < 0xF5 ? 4
-                                           : 0;
-  if (length == 0 || length > text.size()) return 0;
-  codePoint = length == 1 ? lead : lead & (0x7FU >> length);
-  for (std::size_t i = 1; i < length; ++i) {
-    const auto byte = static_cast<unsigned char>(text[i]);
-    if ((byte & 0xC0U) != 0x80U) return 0;
-    codePoint = (codePoint << 6) | (byte & 0x3FU);
-  }
-  return length;
-}
-
-void Encode(char32_t codePoint, std::string& out) {
-  if (codePoint < 0x80) {
-    out += static_cast<char>(codePoint);
-    return;
-  }
-  const int continuations = codePoint < 0x800 ? 1 : codePoint < 0x10000 ? 2 : 3;
-  static constexpr unsigned kLeads[] = {0, 0xC0, 0xE0, 0xF0};
-  out += static_cast<char>(kLeads[continuations] | (codePoint >> (6 * continuations)));
-  for (int i = continuations - 1; i >= 0; --i) out += static_cast<char>(0x80U | ((codePoint >> (6 * i)) & 0x3FU));
-}
-
 template <class Ascii, class Wide>
 std::string MapCase(std::string_view text, Ascii ascii, Wide wide) {
   std::string out;
@@ -75,8 +47,7 @@ std::string MapCase(std::string_view text, Ascii ascii, Wide wide) {
     return out;
   }
   while (!text.empty()) {
-    char32_t codePoint = 0;
-    const std::size_t length = Decode(text, codePoint);
+    const auto [codePoint, length] = utf8::First(text);
     if (length == 0) {
       out += text[0];
       text.remove_prefix(1);
@@ -84,7 +55,7 @@ std::string MapCase(std::string_view text, Ascii ascii, Wide wide) {
     }
     // A platform whose wide characters have 16 bits has no mapping for what lies beyond them.
     const bool mappable = codePoint <= static_cast<char32_t>(WCHAR_MAX);
-    Encode(mappable ? static_cast<char32_t>(wide(static_cast<wchar_t>(codePoint))) : codePoint, out);
+    utf8::Append(out, mappable ? static_cast<char32_t>(wide(static_cast<wchar_t>(codePoint))) : codePoint);
     text.remove_prefix(length);
   }
   return out;

@@ -8,6 +8,7 @@
 #include <unistd.h>
 
 #include "base/Text.h"
+#include "base/Utf8.h"
 
 namespace dayvane::files {
 
@@ -104,7 +105,7 @@ std::optional<std::string> ResolveNative(std::string_view path) {
 std::optional<std::string> NameFromNative(std::string_view nativeName) {
   const bool ambiguous = nativeName.find(kQuoteStandIn) != std::string_view::npos ||
                          nativeName.find(kBackslashStandIn) != std::string_view::npos;
-  if (ambiguous || !IsValidUtf8(nativeName)) return std::nullopt;
+  if (ambiguous || !utf8::IsValid(nativeName)) return std::nullopt;
   std::string name(nativeName);
   ReplaceAll(name, "\\", kBackslashStandIn);
   ReplaceAll(name, "\"", kQuoteStandIn);
@@ -118,26 +119,6 @@ std::optional<std::string> FromNative(std::string_view nativePath) {
   for (char& c : *path)
     if (c == '/') c = '\\';
   return "Z:" + *path;
-}
-
-bool IsValidUtf8(std::string_view bytes) {
-  for (std::size_t i = 0; i < bytes.size();) {
-    const auto byte = [&](std::size_t k) { return static_cast<unsigned char>(bytes[k]); };
-    const unsigned lead = byte(i);
-    const std::size_t length = lead < 0x80   ? 1
-                               : lead < 0xC2 ? 0
-                               : lead < 0xE0 ? 2
-                               : lead < 0xF0 ? 3
-                               : lead < 0xF5 ? 4
-                                             : 0;
-    if (length == 0 || i + length > bytes.size()) return false;
-    for (std::size_t k = 1; k < length; ++k)
-      if ((byte(i + k) & 0xC0U) != 0x80U) return false;
-    if (length == 3 && ((lead == 0xE0 && byte(i + 1) < 0xA0) || (lead == 0xED && byte(i + 1) >= 0xA0))) return false;
-    if (length == 4 && ((lead == 0xF0 && byte(i + 1) < 0x90) || (lead == 0xF4 && byte(i + 1) >= 0x90))) return false;
-    i += length;
-  }
-  return true;
 }
 
 }  // namespace dayvane::files

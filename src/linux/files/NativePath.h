@@ -27,7 +27,4 @@ std::optional<std::string> FromNative(std::string_view nativePath);
 /// The same for one bare name.
 std::optional<std::string> NameFromNative(std::string_view nativeName);
 
-/// Whether the bytes are UTF-8: no stray, overlong or surrogate sequence.
-bool IsValidUtf8(std::string_view bytes);
-
 }  // namespace dayvane::files

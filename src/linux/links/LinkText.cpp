@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <iterator>
 
+#include "base/Utf8.h"
 #include "linux/links/ByteView.h"
 #include "linux/links/ByteWriter.h"
 
@@ -27,48 +28,11 @@ bool IsLowSurrogate(char32_t unit) {
   return unit >= 0xDC00 && unit < 0xE000;
 }
 
-void AppendUtf8(std::string& text, char32_t codePoint) {
-  const auto add = [&](unsigned lead, unsigned shift, unsigned mask) {
-    text += static_cast<char>(lead | (codePoint >> shift & mask));
-  };
-  if (codePoint < 0x80) {
-    add(0, 0, 0x7F);
-  } else if (codePoint < 0x800) {
-    add(0xC0, 6, 0x1F);
-    add(0x80, 0, 0x3F);
-  } else if (codePoint < 0x10000) {
-    add(0xE0, 12, 0x0F);
-    add(0x80, 6, 0x3F);
-    add(0x80, 0, 0x3F);
-  } else {
-    add(0xF0, 18, 0x07);
-    add(0x80, 12, 0x3F);
-    add(0x80, 6, 0x3F);
-    add(0x80, 0, 0x3F);
-  }
-}
-
 /// Takes one code point off the front of a text that is not empty; U+FFFD for one byte that is no UTF-8.
 char32_t NextCodePoint(std::string_view& text) {
-  const auto lead = static_cast<unsigned char>(text[0]);
-  const std::size_t length = lead < 0x80   ? 1
-                             : lead < 0xC2 ? 0
-                             : lead < 0xE0 ? 2
-                             : lead < 0xF0 ? 3
-                             : lead < 0xF5 ? 4
-                                           : 0;
-  char32_t codePoint = length == 1 ? lead : lead & (0x7FU >> length);
-  bool good = length != 0 && length <= text.size();
-  for (std::size_t i = 1; good && i < length; ++i) {
-    const auto byte = static_cast<unsigned char>(text[i]);
-    good = (byte & 0xC0U) == 0x80U;
-    codePoint = codePoint << 6U | (byte & 0x3FU);
-  }
-  constexpr std::array<char32_t, 5> kSmallest = {0, 0, 0x80, 0x800, 0x10000};
-  const bool surrogate = codePoint >= 0xD800 && codePoint < 0xE000;
-  good = good && codePoint >= kSmallest[length] && codePoint < 0x110000 && !surrogate;
-  text.remove_prefix(good ? length : 1);
-  return good ? codePoint : kReplacement;
+  const auto [codePoint, length] = utf8::First(text);
+  text.remove_prefix(length != 0 ? length : 1);
+  return length != 0 ? codePoint : kReplacement;
 }
 
 std::string_view UpToNull(std::string_view text) {
@@ -95,7 +59,7 @@ void AppendUtf16(std::string& text, std::string_view utf16) {
     } else if (IsHighSurrogate(codePoint) || IsLowSurrogate(codePoint)) {
       codePoint = kReplacement;
     }
-    AppendUtf8(text, codePoint);
+    utf8::Append(text, codePoint);
   }
 }
 
@@ -104,7 +68,7 @@ void AppendAnsi(std::string& text, std::string_view ansi) {
   text.reserve(text.size() + ansi.size());
   for (const char c : ansi) {
     const auto byte = static_cast<unsigned char>(c);
-    AppendUtf8(text, byte >= 0x80 && byte < 0xA0 ? kWindows1252[byte - 0x80U] : byte);
+    utf8::Append(text, byte >= 0x80 && byte < 0xA0 ? kWindows1252[byte - 0x80U] : byte);
   }
 }
 

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "base/Text.h"
-#include "linux/files/NativePath.h"
+#include "base/Utf8.h"
 
 namespace dayvane::recent {
 
@@ -17,7 +17,7 @@ constexpr std::string_view kNone = "-";
 
 std::string Escape(std::string_view text) {
   constexpr std::string_view kDigits = "0123456789ABCDEF";
-  const bool isUtf8 = files::IsValidUtf8(text);
+  const bool isUtf8 = utf8::IsValid(text);
   std::string escaped;
   for (const char c : text) {
     const auto byte = static_cast<unsigned char>(c);

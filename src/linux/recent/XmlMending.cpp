@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <optional>
 
-#include "linux/files/NativePath.h"
+#include "base/Utf8.h"
 
 namespace dayvane::recent {
 
@@ -73,7 +73,7 @@ std::size_t CharacterLength(std::string_view text) {
   const auto lead = static_cast<unsigned char>(text[0]);
   if (lead < 0x80) return 1;
   const std::size_t length = lead < 0xC0 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
-  return files::IsValidUtf8(text.substr(0, length)) ? std::min(length, text.size()) : 1;
+  return utf8::IsValid(text.substr(0, length)) ? std::min(length, text.size()) : 1;
 }
 
 std::optional<Fault> FaultyCharacter(std::string_view character) {

@@ -4,7 +4,7 @@
 #include <charconv>
 #include <optional>
 
-#include "linux/files/NativePath.h"
+#include "base/Utf8.h"
 
 namespace dayvane::registry {
 
@@ -49,7 +49,7 @@ void AppendEscaped(char c, std::string& out) {
 }
 
 std::string Escaped(std::string_view text, std::string_view special = {}) {
-  const bool utf8 = files::IsValidUtf8(text);
+  const bool utf8 = utf8::IsValid(text);
   std::string out;
   for (std::size_t i = 0; i < text.size(); ++i) {
     const char c = text[i];
@@ -123,7 +123,7 @@ class Parser {
     if (line.empty() || line[0] == ';' || line[0] == '#') return true;
     if (line[0] == '[') m_values = nullptr;
     const bool raw = std::any_of(line.begin(), line.end(), [](char c) { return IsControl(c) && c != '\t'; });
-    if (raw || !files::IsValidUtf8(line)) return false;
+    if (raw || !utf8::IsValid(line)) return false;
     return line[0] == '[' ? ParseKey(line) : ParseValue(line);
   }
 

@@ -74,14 +74,6 @@ TEST(NativePath, ANameWithoutAFaithfulFormHasNone) {
   EXPECT_EQ(FromNative("relative/path"), std::nullopt);
 }
 
-TEST(NativePath, Utf8IsToldFromOtherBytes) {
-  EXPECT_TRUE(IsValidUtf8(""));
-  EXPECT_TRUE(IsValidUtf8("a\xC3\xA9\xE6\x96\x87\xF0\x9F\x98\x80"));
-  for (const char* bytes : {"\x80", "\xC0\xAF", "\xC3", "\xE0\x80\x80", "\xED\xA0\x80", "\xF0\x80\x80\x80",
-                            "\xF4\x90\x80\x80", "\xF8\x88\x80\x80\x80", "\xFF"})
-    EXPECT_FALSE(IsValidUtf8(bytes)) << ::testing::PrintToString(std::string(bytes));
-}
-
 TEST(NativePath, ADriveOfTheWindowsEnvironmentLeadsToItsFolder) {
   const testing::TemporaryFolder folder;
   fs::create_directories(folder / "dosdevices");

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "linux/files/NativePath.h"
+#include "base/Utf8.h"
 #include "linux/recent/ShortcutNames.h"
 
 namespace dayvane::recent {
@@ -37,7 +37,7 @@ TEST(ShortcutNames, ACutNeverSplitsACharacter) {
     std::string name(lead, 'x');
     while (name.size() < 252) name += "\xF0\x9F\x98\x80";
     const std::string shortcut = ShortcutName(name, 1);
-    EXPECT_TRUE(files::IsValidUtf8(shortcut)) << lead;
+    EXPECT_TRUE(utf8::IsValid(shortcut)) << lead;
     EXPECT_LE(shortcut.size(), 255U) << lead;
     EXPECT_GT(shortcut.size(), 251U) << lead;
   }

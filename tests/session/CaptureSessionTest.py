@@ -5,7 +5,8 @@ import time
 import unittest
 
 from private_desktop import need
-from session_case import SOON_SECONDS, SessionTest
+from session_case import SessionTest
+from user import DAYS, DOCUMENTS, SOON_SECONDS
 from waiting import wait_until
 
 TICK_SECONDS = 1
@@ -60,12 +61,11 @@ class ADocumentOpenedInAnEditor(SessionTest):
 
     def test_shows_its_day_in_the_tree(self):
         year, month, day = self.filed.parent.relative_to(self.dayvane.daily).parts
-        wait_until(lambda: self.shown_texts("Days") == ["Daily", year, month, day], SOON_SECONDS,
-                   lambda: f"the day in {self.shown_texts('Days')}")
+        self.wait_for(["Daily", year, month, day], lambda: self.user.names(DAYS))
 
     def test_shows_in_the_list_of_the_day(self):
-        wait_until(lambda: self.letter.name in self.shown_texts("Documents of the day"), SOON_SECONDS,
-                   lambda: f"the letter in {self.shown_texts('Documents of the day')}")
+        wait_until(lambda: self.letter.name in self.user.names(DOCUMENTS), SOON_SECONDS,
+                   lambda: f"the letter in {self.user.names(DOCUMENTS)}")
 
 
 class ADocumentOpenedAgainTheSameDay(ADocumentOpenedInAnEditor):

@@ -7,7 +7,6 @@ whose home starts empty. Used by the tests that drive real programs, and by the 
 When it ends, every process that was started in it is gone, also those that others started there on demand.
 """
 
-import json
 import os
 import pathlib
 import shutil
@@ -20,8 +19,6 @@ from waiting import wait_until
 
 START_SECONDS = 30
 END_SECONDS = 10
-SYSTEM_PYTHON = "/usr/bin/python3"  # the one that has the accessibility bindings
-READER = pathlib.Path(__file__).with_name("screen_reader.py")
 MARK = "DAYVANE_PRIVATE_DESKTOP"  # carried by every process of the desktop; its value names the desktop
 HANDED_ON = ("PATH", "TZ", "ASAN_OPTIONS", "LSAN_OPTIONS", "UBSAN_OPTIONS")
 
@@ -43,6 +40,7 @@ class PrivateDesktop:
         self.log = self.folder / "log.txt"
         self.environment = self._environment()
         self._children = []
+        self._accessibility = None
 
     def __enter__(self):
         need("Xvfb", "openbox", "dbus-daemon", "xprop", "setpriv")
@@ -91,21 +89,28 @@ class PrivateDesktop:
         """What the programs of the desktop have printed so far."""
         return self.log.read_text(errors="replace") if self.log.exists() else ""
 
-    def read_screen(self, process, *what):
-        """What a screen reader is told by a program: the answer to the arguments of screen_reader.py after PID."""
-        return json.loads(self.run([SYSTEM_PYTHON, "-B", "-W", "ignore", READER, process.pid, *what]))
+    def screen_reader(self, process):
+        """A screen reader for the windows of a program that was started here."""
+        # Not everybody who needs a desktop has the bindings for its bus.
+        from accessible import AccessibilityBus
+        from screen_reader import ScreenReader
+        if self._accessibility is None:
+            self._accessibility = AccessibilityBus(self.environment["DBUS_SESSION_BUS_ADDRESS"])
+        return ScreenReader(self._accessibility, process.pid)
 
     def open_in_dialog(self, process, title, path):
         """Answers a program's file dialog with a path, as a user who types it and looks at each step: the dialog makes
         its entry at the first key, loses keys until the entry is there, and shows completions over it."""
+        reader = self.screen_reader(process)
+
         def entry():
             self.type_into(title, "slash")
-            return self.read_screen(process, "focus")["role"] == "text"
+            return reader.focus()["role"] == "text"
         wait_until(entry, START_SECONDS, f"an entry in the dialog {title}")
 
         def typed():
             self.type_into(title, "ctrl+a", text=str(path))
-            return self.read_screen(process, "focus")["text"] == str(path)
+            return reader.focus()["text"] == str(path)
         wait_until(typed, START_SECONDS, f"the typed path in the dialog {title}")
 
         # Once: a second key would be typed into the document.

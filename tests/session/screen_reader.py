@@ -1,84 +1,101 @@
-"""What a screen reader finds in a program's windows, printed as JSON.
+"""What a screen reader finds in the windows of one program."""
 
-Run in the desktop of the program, because the accessibility bus is the session's:
-    screen_reader.py PID texts NAME...    rows of texts of the widgets of these names, null for one not on the screen
-    screen_reader.py PID focus            role and text of the widget that has the keyboard
-    screen_reader.py PID place NAME       x and y of the widget's corner on the screen, width and height
-"""
-
-import json
-import sys
-
-import pyatspi
-from gi.repository import GLib
+from accessible import Gone
 
 LARGEST_CELL_COUNT = 10_000  # a table of documents is never walked further
 
 
-def application(process):
-    for program in pyatspi.Registry.getDesktop(0):
-        if program is not None and program.get_process_id() == process:
-            return program
-    return None
+class NotOnScreen(LookupError):
+    """What was looked for is not on the screen."""
 
 
-def offers(widget, interface):
-    return interface in pyatspi.listInterfaces(widget)
-
-
-def find(program, fits):
-    """The first visible widget that fits, looked for in breadth; the cells of tables are not looked at."""
-    waiting = [program] if program is not None else []
+def walk(start):
+    """Every visible widget in another, in breadth; the cells of tables are not looked at."""
+    waiting = start.children
     while waiting:
         here = waiting.pop(0)
         try:
-            if here.getState().contains(pyatspi.STATE_SHOWING) and fits(here):
-                return here
-            if not offers(here, "Table"):
-                waiting.extend(child for child in here if child is not None)
-        except GLib.Error:  # it went away while it was looked at
+            if not here.is_showing:
+                continue
+            yield here
+            if "Table" not in here.interfaces:
+                waiting.extend(here.children)
+        except Gone:  # while it was looked at
             continue
-    return None
+
+
+def menu_items(menu):
+    """The items of a menu that its user can see, by name: one that is hidden has no height."""
+    return {item.name: item for item in menu.children if item.role == "menu item" and item.place[3] > 0}
 
 
 def rows(widget):
-    """Rows of a table's texts; the name alone of anything else."""
-    if not offers(widget, "Table"):
-        return [[widget.name]]
-    table = widget.queryTable()
-    if table.nRows * table.nColumns > LARGEST_CELL_COUNT:
-        raise ValueError(f"{widget.name} has {table.nRows} rows")
-    return [[table.getAccessibleAt(row, column).name for column in range(table.nColumns)]
-            for row in range(table.nRows)]
+    """The rows of a table's texts; the text of an entry; the name alone of anything else."""
+    interfaces = widget.interfaces
+    if "Table" in interfaces:
+        return [[cell.name for cell in row] for row in cells(widget)]
+    return [[widget.text if "EditableText" in interfaces else widget.name]]
 
 
-def named(program, name):
-    return find(program, lambda widget: widget.name == name)
+def cells(table):
+    height, width = table.size
+    if height * width > LARGEST_CELL_COUNT:
+        raise ValueError(f"{table.name} has {height} rows")
+    return [[table.cell(row, column) for column in range(width)] for row in range(height)]
 
 
-def texts(program, names):
-    widgets = {name: named(program, name) for name in names}
-    return {name: rows(widget) if widget is not None else None for name, widget in widgets.items()}
+class ScreenReader:
+    """Everything is looked for anew at each call. Without the program on the bus nothing is found."""
 
+    def __init__(self, bus, process):
+        self._bus = bus
+        self._process = process
 
-def place(program, name):
-    area = named(program, name).queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
-    return [area.x, area.y, area.width, area.height]
+    def widgets(self):
+        program = self._bus.program(self._process)
+        return walk(program) if program is not None else iter(())
 
+    def find(self, name, *roles):
+        """The first widget of that name, and of one of the roles where there are some."""
+        for widget in self.widgets():
+            if widget.name == name and (not roles or widget.role in roles):
+                return widget
+        raise NotOnScreen(name)
 
-def focus(program):
-    widget = find(program, lambda widget: widget.getState().contains(pyatspi.STATE_FOCUSED))
-    if widget is None:
+    def rows(self, name):
+        return rows(self.find(name))
+
+    def selected(self, name):
+        """Those rows that are selected."""
+        return [[cell.name for cell in row] for row in cells(self.find(name)) if "selected" in row[0].states]
+
+    def focus(self):
+        """Role and text of the widget that has the keyboard."""
+        for widget in self.widgets():
+            if "focused" in widget.states:
+                return {"role": widget.role, "text": widget.text if "Text" in widget.interfaces else ""}
         return {"role": "", "text": ""}
-    return {"role": widget.getRoleName(), "text": widget.queryText().getText(0, -1) if offers(widget, "Text") else ""}
 
+    def windows(self):
+        """Title, texts and buttons of every window."""
+        program = self._bus.program(self._process)
+        return [self._window(window) for window in program.children if window.is_showing] if program else []
 
-def main():
-    process, command, *names = sys.argv[1:]
-    program = application(int(process))
-    answers = {"texts": lambda: texts(program, names), "focus": lambda: focus(program),
-               "place": lambda: place(program, *names)}
-    print(json.dumps(answers[command]()))
+    def menu(self, *path):
+        """The items by name of a menu, to which the path leads from the menu bar."""
+        items = menu_items(next((widget for widget in self.widgets() if widget.role == "menu bar")))
+        for name in path:
+            items = menu_items(items[name].children[0])
+        return items
 
+    def popup(self):
+        """The items by name of the menu that popped up last."""
+        if self._bus.popup is None:
+            raise NotOnScreen("a popup menu")
+        return menu_items(self._bus.popup)
 
-main()
+    @staticmethod
+    def _window(window):
+        inside = [(widget.role, widget.name) for widget in walk(window)]
+        return {"title": window.name, "texts": [name for role, name in inside if role == "label" and name],
+                "buttons": [name for role, name in inside if role == "push button" and name]}

@@ -1,14 +1,17 @@
 """What the tests of Dayvane in a private desktop have in common."""
 
 import os
+import time
 import unittest
 
-from dayvane_program import WINDOW_TITLE, Dayvane, install
+from dayvane_program import Dayvane, install
 from private_desktop import PrivateDesktop
 from recent_list import RecentList
+from user import DAYS, SOON_SECONDS, User
+from waiting import wait_until
 
-SOON_SECONDS = 15
 HALF_A_ROW = 8  # pixels
+DAY_SECONDS = 24 * 60 * 60
 
 
 class SessionTest(unittest.TestCase):
@@ -16,6 +19,13 @@ class SessionTest(unittest.TestCase):
 
     @classmethod
     def setUpClass(cls):
+        cls.arrange()
+        cls.dayvane.write_settings()
+        cls.dayvane.start()
+
+    @classmethod
+    def arrange(cls):
+        """The desktop and the installed program, which does not run yet and has no settings."""
         cls.desktop = PrivateDesktop()
         cls.addClassCleanup(cls.desktop.close)
         # Printed always, because ctest shows it only where a test failed.
@@ -25,8 +35,7 @@ class SessionTest(unittest.TestCase):
         install(os.environ["DAYVANE_BUILD_FOLDER"], stage)
         cls.list = RecentList(cls.desktop.data)
         cls.dayvane = Dayvane(cls.desktop, stage)
-        cls.dayvane.write_settings()
-        cls.dayvane.start()
+        cls.user = User(cls.desktop, cls.dayvane)
 
     @classmethod
     def document(cls, name):
@@ -37,15 +46,32 @@ class SessionTest(unittest.TestCase):
         return path
 
     @classmethod
-    def choose_last_day(cls):
-        """Opens every branch of the tree of days and goes to its end: a click on its root, then the keyboard."""
-        cls.desktop.type_into(WINDOW_TITLE)
-        x, y, width, _ = cls.desktop.read_screen(cls.dayvane.process, "place", "Days")
-        cls.desktop.run(["xdotool", "mousemove", x + width // 2, y + HALF_A_ROW, "click", 1])
-        cls.desktop.type_into(WINDOW_TITLE, "asterisk", "End")
+    def open_elsewhere(cls, *names, days_ago=0):
+        """Puts documents into the desktop's list as opened in other programs, so many days ago."""
+        moment = time.time() - days_ago * DAY_SECONDS
+        for name in names:
+            cls.list.opened(cls.document(name), moment, "application/pdf" if name.endswith(".pdf") else "text/plain")
+        cls.list.write()
 
     @classmethod
-    def shown_texts(cls, widget):
-        """Every text of a widget of Dayvane's window; none while it is not on the screen."""
-        rows = cls.desktop.read_screen(cls.dayvane.process, "texts", widget)[widget]
-        return [text for row in rows or [] for text in row]
+    def shortcut(cls, name, days_ago=0):
+        """Where a document that was opened so many days ago is filed."""
+        return cls.dayvane.day_folder(time.time() - days_ago * DAY_SECONDS) / f"{name}.lnk"
+
+    @classmethod
+    def wait_for_filed(cls, *names, days_ago=0):
+        wait_until(lambda: all(cls.shortcut(name, days_ago).exists() for name in names), SOON_SECONDS,
+                   lambda: f"{names} among {cls.dayvane.filed()}")
+
+    @classmethod
+    def wait_for(cls, expected, look):
+        """Waits until the look gives what is expected."""
+        wait_until(lambda: look() == expected, SOON_SECONDS, lambda: f"{expected}, but {look()}")
+
+    @classmethod
+    def choose_last_day(cls):
+        """Opens every branch of the tree of days and goes to its end: a click on its root, then the keyboard."""
+        cls.user.type()
+        x, y, width, _ = cls.user.reader.find(DAYS).place
+        cls.user.click((x, y, width, 2 * HALF_A_ROW))
+        cls.user.type("asterisk", "End")

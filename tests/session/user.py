@@ -1,0 +1,113 @@
+"""What a user does with Dayvane's windows, with the mouse, the keyboard and a screen reader, and what they see there."""
+
+from accessible import Gone
+from dayvane_program import WINDOW_TITLE
+from screen_reader import NotOnScreen, cells
+from waiting import wait_until
+
+SOON_SECONDS = 15
+CALENDAR = "Calendar"
+DAYS = "Days"
+DOCUMENTS = "Documents of the day"
+FAVORITES = "Favorites"
+RIGHT_BUTTON = 3
+
+
+class User:
+    """Each deed waits until what it needs is on the screen. What comes of it has to be waited for."""
+
+    def __init__(self, desktop, dayvane):
+        self._desktop = desktop
+        self._dayvane = dayvane
+
+    @property
+    def reader(self):
+        return self._desktop.screen_reader(self._dayvane.process)
+
+    # What is seen.
+
+    def rows(self, widget):
+        """The rows of texts of a list or a tree."""
+        return self.reader.rows(widget)
+
+    def names(self, widget):
+        """The first column of the rows; none while the widget is not on the screen."""
+        try:
+            return [row[0] for row in self.rows(widget)]
+        except NotOnScreen:
+            return []
+
+    def selected(self, widget):
+        return [row[0] for row in self.reader.selected(widget)]
+
+    def status(self):
+        """The text in the status bar."""
+        return next(widget.name for widget in self.reader.widgets() if widget.role == "status bar")
+
+    def titles(self):
+        return [window["title"] for window in self.reader.windows()]
+
+    def box(self):
+        """The window over the main window, or before it: its title, its texts and its buttons; None without one."""
+        return next((window for window in self.reader.windows() if not window["title"].startswith("Dayvane - ")), None)
+
+    def can_press(self, button):
+        return "enabled" in self.reader.find(button, "push button").states
+
+    def menu(self, *path):
+        """The names of a menu's items."""
+        return list(self.reader.menu(*path))
+
+    def checked(self, *path):
+        """Those of them with a check mark."""
+        return [name for name, item in self.reader.menu(*path).items() if "checked" in item.states]
+
+    def header(self, widget, column):
+        """Where a column's header is: x, y, width and height."""
+        return self._patiently(f"{widget}'s columns", lambda: self.reader.find(widget, "tree").children[column].place)
+
+    # What is done.
+
+    def press(self, button):
+        self._patiently(f"a button {button}", lambda: self.reader.find(button, "push button").act())
+
+    def choose(self, *path):
+        """Chooses from the menus of the menu bar."""
+        self._patiently(f"an item {' > '.join(path)}", lambda: self.reader.menu(*path[:-1])[path[-1]].act())
+
+    def choose_in_popup(self, *names):
+        """Clicks an item of the menu that has popped up, and goes on in the submenu that this opens."""
+        for name in names:
+            self.click(self._patiently(f"a popup menu with {name}", lambda name=name: self.reader.popup()[name].place))
+
+    def write(self, entry, text):
+        def written():
+            self.reader.find(entry, "text").text = text
+            return True
+        self._patiently(f"an entry {entry}", written)
+
+    def click_row(self, widget, name, button=1, times=1):
+        """Clicks the row with that name in its first column."""
+        def place():
+            return next(row[0].place for row in cells(self.reader.find(widget)) if row[0].name == name)
+        self.click(self._patiently(f"{name} in {widget}", place), button, times)
+
+    def click(self, place, button=1, times=1):
+        """Clicks into the middle of a place on the screen."""
+        x, y, width, height = place
+        self._desktop.run(["xdotool", "mousemove", x + width // 2, y + height // 2,
+                           "click", "--repeat", times, "--delay", 20, button])
+
+    def type(self, *keys, text=None):
+        """Presses keys in the main window ("ctrl+o"), then types a text."""
+        self._desktop.type_into(WINDOW_TITLE, *keys, text=text)
+
+    @staticmethod
+    def _patiently(what, deed):
+        """Does what needs something on the screen as soon as that is there."""
+        def done():
+            try:
+                return deed() or None
+            except (NotOnScreen, Gone, KeyError, IndexError, StopIteration):
+                return None
+        return wait_until(done, SOON_SECONDS, what)

@@ -49,7 +49,7 @@ class TreeView : public Control, public UpdateTarget {
   void Click(TreeNode& node);
 
   Signal<TreeNode&> NodeClick;
-  Signal<int, double, double> MouseUp;  ///< button (1 left, 2 right), x, y in twips
+  Signal<int, double, double> MouseUp;  ///< button (1 left, 2 right), x, y in twips inside the tree
   Signal<> SelectionChanged;            ///< for presenters
 
  private:

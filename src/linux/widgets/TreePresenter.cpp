@@ -119,7 +119,7 @@ void TreePresenter::Click(const QModelIndex& index) {
 }
 
 void TreePresenter::RaiseMouseUp(int button, QPoint at) {
-  const QPoint place = viewport()->mapTo(parentWidget() != nullptr ? parentWidget() : this, at);
+  const QPoint place = viewport()->mapTo(this, at);
   m_control.MouseUp.Raise(button, ToTwips(place.x(), *this), ToTwips(place.y(), *this));
 }
 

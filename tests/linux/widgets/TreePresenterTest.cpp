@@ -4,6 +4,7 @@
 #include <QTest>
 #include <gmock/gmock.h>
 
+#include "linux/widgets/Lengths.h"
 #include "linux/widgets/TreePresenter.h"
 
 namespace dayvane::widgets {
@@ -191,6 +192,19 @@ TEST_F(TreePresenterTest, TheRightButtonSelectsBeforeItIsReleased) {
   MouseClick("K2024", Qt::RightButton);
 
   EXPECT_THAT(releases, ElementsAre(Pair(2, "K2024")));
+}
+
+TEST_F(TreePresenterTest, TheMouseIsToldWhereItIsInTheTree) {
+  Fill();
+  Present().move(20, 60);
+  QPoint told;
+  m_control.MouseUp.Connect([&](int, double x, double y) {
+    told = {ToPixels(x, *m_presenter), ToPixels(y, *m_presenter)};
+  });
+
+  MouseClick("K2024", Qt::RightButton);
+
+  EXPECT_EQ(told, m_presenter->viewport()->mapTo(m_presenter.get(), PlaceOf("K2024")));
 }
 
 TEST_F(TreePresenterTest, TheMenuKeyCountsAsTheRightButtonOnTheSelectedNode) {

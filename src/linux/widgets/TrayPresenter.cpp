@@ -10,8 +10,9 @@ namespace dayvane::widgets {
 namespace {
 
 int ButtonOf(QSystemTrayIcon::ActivationReason reason) {
-  // A double click arrives after the click that it begins with, or as two; the right button is the panel's.
-  if (reason == QSystemTrayIcon::Trigger) return 1;
+  // Some panels tell the second of two quick clicks as another one, embedding trays as a double click; the right button
+  // is the panel's.
+  if (reason == QSystemTrayIcon::Trigger || reason == QSystemTrayIcon::DoubleClick) return 1;
   return reason == QSystemTrayIcon::MiddleClick ? 4 : 0;
 }
 

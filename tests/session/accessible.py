@@ -27,12 +27,12 @@ def connect(address):
 
 
 def call(bus, name, path, method, *arguments):
-    """Calls "interface.Method" with variants and returns its first result."""
+    """Calls "interface.Method" with variants and returns its result, or all when there are several."""
     interface, _, member = method.rpartition(".")
     tuple_of_all = GLib.Variant.new_tuple(*arguments) if arguments else None
     answer = bus.call_sync(name, path, interface, member, tuple_of_all, None, Gio.DBusCallFlags.NONE,
                            ANSWER_MILLISECONDS, None).unpack()
-    return answer[0] if answer else None
+    return answer[0] if len(answer) == 1 else answer
 
 
 class Accessible:

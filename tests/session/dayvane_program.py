@@ -40,9 +40,13 @@ class Dayvane:
                 text.write(f"[Software\\Korvath\\Dayvane\\{subtree}]\n")
                 text.writelines(f"{name}={value}\n" for name, value in values.items())
 
+    def launch(self):
+        """Starts the program and returns at once."""
+        self.process = self.desktop.start([self.executable])
+
     def start(self):
         """Starts the program and returns when its window is on the screen."""
-        self.process = self.desktop.start([self.executable])
+        self.launch()
         wait_until(self._window_or_end, START_SECONDS, "Dayvane's window")
         if self.process.poll() is not None:
             raise AssertionError(f"Dayvane ended at its start with {self.process.returncode}")
@@ -50,6 +54,10 @@ class Dayvane:
     def stop(self):
         """Asks the program to end, as the end of the user's session does; it saves and ends well."""
         self.process.terminate()
+        self.wait_for_end()
+
+    def wait_for_end(self):
+        """Returns when the program has ended well."""
         if self.process.wait(END_SECONDS) != 0:
             raise AssertionError(f"Dayvane ended with {self.process.returncode}")
 

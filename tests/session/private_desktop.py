@@ -68,13 +68,26 @@ class PrivateDesktop:
                                   stderr=log, env=self.environment, cwd=self.home, timeout=timeout, check=check,
                                   text=True).stdout
 
-    def windows(self, title):
-        """Ids of the visible windows whose titles match the regular expression."""
-        return self.run(["xdotool", "search", "--onlyvisible", "--name", title], check=False).split()
+    def windows(self, pattern, by="name"):
+        """Ids of the visible windows whose titles, or whose classes, match the regular expression."""
+        return self.run(["xdotool", "search", "--onlyvisible", f"--{by}", pattern], check=False).split()
 
     def window(self, title, seconds=START_SECONDS):
         """The id of the first of them, once there is one."""
         return wait_until(lambda: self.windows(title), seconds, f"a window named {title}")[0]
+
+    def place_window(self, title, place):
+        """Moves and sizes a window as the user does by its frame."""
+        x, y, width, height = place
+        window = self.window(title)
+        self.run(["xdotool", "windowsize", "--sync", window, width, height])
+        self.run(["xdotool", "windowmove", "--sync", window, x, y])
+
+    def placed(self, window):
+        """Where the inside of a window is: x, y, width and height."""
+        lines = self.run(["xdotool", "getwindowgeometry", "--shell", window]).split()
+        told = dict(line.split("=") for line in lines)
+        return tuple(int(told[name]) for name in ("X", "Y", "WIDTH", "HEIGHT"))
 
     def type_into(self, title, *keys, text=None):
         """Gives a window the keyboard, presses keys there ("ctrl+o"), then types a text."""
@@ -89,13 +102,15 @@ class PrivateDesktop:
         """What the programs of the desktop have printed so far."""
         return self.log.read_text(errors="replace") if self.log.exists() else ""
 
-    def screen_reader(self, process):
-        """A screen reader for the windows of a program that was started here."""
+    def listen(self):
+        """Switches accessibility on. Programs ask at their start whether anybody listens, so it comes before them."""
         # Not everybody who needs a desktop has the bindings for its bus.
         from accessible import AccessibilityBus
+        self._accessibility = AccessibilityBus(self.environment["DBUS_SESSION_BUS_ADDRESS"])
+
+    def screen_reader(self, process):
+        """A screen reader for the windows of a program that was started here."""
         from screen_reader import ScreenReader
-        if self._accessibility is None:
-            self._accessibility = AccessibilityBus(self.environment["DBUS_SESSION_BUS_ADDRESS"])
         return ScreenReader(self._accessibility, process.pid)
 
     def open_in_dialog(self, process, title, path):

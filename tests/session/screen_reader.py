@@ -9,6 +9,9 @@ class NotOnScreen(LookupError):
     """What was looked for is not on the screen."""
 
 
+ABSENT = (NotOnScreen, Gone)  # not there, or no longer since a moment
+
+
 def walk(start):
     """Every visible widget in another, in breadth; the cells of tables are not looked at."""
     waiting = start.children

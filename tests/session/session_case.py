@@ -7,6 +7,7 @@ import unittest
 from dayvane_program import Dayvane, install
 from private_desktop import PrivateDesktop
 from recent_list import RecentList
+from screen_reader import ABSENT
 from user import DAYS, SOON_SECONDS, User
 from waiting import wait_until
 
@@ -31,6 +32,7 @@ class SessionTest(unittest.TestCase):
         # Printed always, because ctest shows it only where a test failed.
         cls.addClassCleanup(lambda: print(f"--- the programs of the desktop said:\n{cls.desktop.said()}---"))
         cls.desktop.__enter__()
+        cls.desktop.listen()
         stage = cls.desktop.folder / "stage"
         install(os.environ["DAYVANE_BUILD_FOLDER"], stage)
         cls.list = RecentList(cls.desktop.data)
@@ -65,8 +67,20 @@ class SessionTest(unittest.TestCase):
 
     @classmethod
     def wait_for(cls, expected, look):
-        """Waits until the look gives what is expected."""
-        wait_until(lambda: look() == expected, SOON_SECONDS, lambda: f"{expected}, but {look()}")
+        """Waits until the look gives what is expected. What comes or goes just then is looked at again."""
+        seen = [None]
+
+        def fits():
+            try:
+                seen[0] = look()
+            except ABSENT as absence:
+                seen[0] = absence
+            return seen[0] == expected
+        wait_until(fits, SOON_SECONDS, lambda: f"{expected}, but {seen[0]!r}")
+
+    @classmethod
+    def wait_for_box(cls):
+        return wait_until(cls.user.box, SOON_SECONDS, "a box over the window")
 
     @classmethod
     def choose_last_day(cls):

@@ -1,8 +1,7 @@
 """What a user does with Dayvane's windows, with the mouse, the keyboard and a screen reader, and what they see there."""
 
-from accessible import Gone
 from dayvane_program import WINDOW_TITLE
-from screen_reader import NotOnScreen, cells
+from screen_reader import ABSENT, NotOnScreen, cells, walk
 from waiting import wait_until
 
 SOON_SECONDS = 15
@@ -19,6 +18,7 @@ class User:
     def __init__(self, desktop, dayvane):
         self._desktop = desktop
         self._dayvane = dayvane
+        self._header_part = 1
 
     @property
     def reader(self):
@@ -48,8 +48,9 @@ class User:
         return [window["title"] for window in self.reader.windows()]
 
     def box(self):
-        """The window over the main window, or before it: its title, its texts and its buttons; None without one."""
-        return next((window for window in self.reader.windows() if not window["title"].startswith("Dayvane - ")), None)
+        """The window that asks or tells something: its title, its texts and its buttons; None without one."""
+        return next((window for window in self.reader.windows()
+                     if window["buttons"] and not window["title"].startswith("Dayvane - ")), None)
 
     def can_press(self, button):
         return "enabled" in self.reader.find(button, "push button").states
@@ -62,11 +63,22 @@ class User:
         """Those of them with a check mark."""
         return [name for name, item in self.reader.menu(*path).items() if "checked" in item.states]
 
+    def calendar(self):
+        """The cells of the days that the calendar shows, in their order."""
+        table = next(widget for widget in walk(self.reader.find(CALENDAR)) if "Table" in widget.interfaces)
+        return [cell for row in cells(table) for cell in row if cell.name.isdigit()]
+
     def header(self, widget, column):
         """Where a column's header is: x, y, width and height."""
         return self._patiently(f"{widget}'s columns", lambda: self.reader.find(widget, "tree").children[column].place)
 
     # What is done.
+
+    def click_header(self, widget, column):
+        x, y, width, height = self.header(widget, column)
+        # Never twice in one place: that would be a double click.
+        self._header_part = 3 - self._header_part
+        self.click((x, y, 2 * width * self._header_part // 3, height))
 
     def press(self, button):
         self._patiently(f"a button {button}", lambda: self.reader.find(button, "push button").act())
@@ -75,10 +87,18 @@ class User:
         """Chooses from the menus of the menu bar."""
         self._patiently(f"an item {' > '.join(path)}", lambda: self.reader.menu(*path[:-1])[path[-1]].act())
 
+    def popup(self):
+        """The names of the items of the menu that has popped up."""
+        return self._patiently("a popup menu", lambda: list(self.reader.popup()))
+
+    def popup_place(self, name):
+        """Where an item of the menu is that has popped up."""
+        return self._patiently(f"a popup menu with {name}", lambda: self.reader.popup()[name].place)
+
     def choose_in_popup(self, *names):
         """Clicks an item of the menu that has popped up, and goes on in the submenu that this opens."""
         for name in names:
-            self.click(self._patiently(f"a popup menu with {name}", lambda name=name: self.reader.popup()[name].place))
+            self.click(self.popup_place(name))
 
     def write(self, entry, text):
         def written():
@@ -98,6 +118,15 @@ class User:
         self._desktop.run(["xdotool", "mousemove", x + width // 2, y + height // 2,
                            "click", "--repeat", times, "--delay", 20, button])
 
+    def drag(self, start, end):
+        """Moves the mouse from one point to another with its button down."""
+        self._desktop.run(["xdotool", "mousemove", *start, "mousedown", 1, "mousemove", *end, "mouseup", 1])
+
+    def pointer(self):
+        """Where the mouse is."""
+        place = dict(line.split("=") for line in self._desktop.run(["xdotool", "getmouselocation", "--shell"]).split())
+        return int(place["X"]), int(place["Y"])
+
     def type(self, *keys, text=None):
         """Presses keys in the main window ("ctrl+o"), then types a text."""
         self._desktop.type_into(WINDOW_TITLE, *keys, text=text)
@@ -108,6 +137,6 @@ class User:
         def done():
             try:
                 return deed() or None
-            except (NotOnScreen, Gone, KeyError, IndexError, StopIteration):
+            except (*ABSENT, LookupError, StopIteration):
                 return None
         return wait_until(done, SOON_SECONDS, what)

@@ -22,3 +22,12 @@ def wait_until(condition, seconds, what):
         if time.monotonic() > deadline:
             raise TimedOut(f"not within {seconds} s: {what() if callable(what) else what}")
         time.sleep(POLL_SECONDS)
+
+
+def stays(condition, seconds, what):
+    """Watches for so long that a condition holds, for what must not happen; fails as soon as it does not."""
+    deadline = time.monotonic() + seconds
+    while time.monotonic() < deadline:
+        if not condition():
+            raise AssertionError(f"not for {seconds} s: {what() if callable(what) else what}")
+        time.sleep(POLL_SECONDS)

@@ -1,0 +1,173 @@
+"""The main window hidden and shown, by the icons that the trays of different desktops have, and without any tray."""
+
+import unittest
+
+from dayvane_program import WINDOW_TITLE
+from private_desktop import need
+from session_case import SessionTest
+from tray_item import TrayItem
+from user import RIGHT_BUTTON, SOON_SECONDS
+from waiting import wait_until
+
+TINT2 = """panel_items = S
+panel_size = 200 40
+panel_position = bottom right horizontal
+"""
+LXQT_PANEL = """[General]
+panels=panel1
+
+[panel1]
+plugins=statusnotifier
+
+[statusnotifier]
+type=statusnotifier
+"""
+
+
+class TrayTest(SessionTest):
+    def setUp(self):
+        if not self.is_shown():
+            self.click_icon()
+            self.wait_for(True, self.is_shown)
+
+    @classmethod
+    def is_shown(cls):
+        return bool(cls.desktop.windows(WINDOW_TITLE))
+
+
+class AnyTrayIcon:
+    """What the icon does in every kind of tray."""
+
+    def test_hides_the_window_at_a_click(self):
+        self.click_icon()
+        self.wait_for(False, self.is_shown)
+
+    def test_shows_the_window_at_the_next_click(self):
+        self.click_icon()
+        self.wait_for(False, self.is_shown)
+        self.click_icon()
+        self.wait_for(True, self.is_shown)
+
+    def test_offers_to_hide_what_is_shown(self):
+        self.assertEqual(self.menu(), ["Hide", "Suspend", "About Dayvane", "Exit"])
+
+    def test_offers_to_show_what_is_hidden(self):
+        self.click_icon()
+        self.wait_for(False, self.is_shown)
+        self.assertEqual(self.menu(), ["Show", "Suspend", "About Dayvane", "Exit"])
+
+    def test_hides_and_shows_by_its_menu(self):
+        self.choose("Hide")
+        self.wait_for(False, self.is_shown)
+        self.choose("Show")
+        self.wait_for(True, self.is_shown)
+
+    def test_suspends_and_resumes_by_its_menu(self):
+        self.choose("Suspend")
+        self.wait_for(["Resume", "Hide", "Exit"], lambda: self.user.menu("Dayvane"))
+        self.choose("Resume")
+        self.wait_for(["Suspend", "Hide", "Exit"], lambda: self.user.menu("Dayvane"))
+
+    def test_tells_about_the_program_by_its_menu(self):
+        self.choose("About Dayvane")
+        self.assertEqual(self.wait_for_box()["title"], "About Dayvane")
+        self.user.press("OK")
+        self.wait_for(None, self.user.box)
+
+
+class AnEmbeddedIcon(TrayTest, AnyTrayIcon):
+    @classmethod
+    def setUpClass(cls):
+        need("tint2")
+        cls.arrange()
+        cls.dayvane.write_settings()
+        settings = cls.desktop.folder / "tint2rc"
+        settings.write_text(TINT2, encoding="utf-8")
+        cls.desktop.start(["tint2", "-c", settings])
+        cls.desktop.window("^tint2$")
+        cls.dayvane.start()
+        cls.icon = wait_until(cls.find_icon, SOON_SECONDS, "an icon in the tray")
+
+    @classmethod
+    def find_icon(cls):
+        """The program's window that is not the main window."""
+        return set(cls.desktop.windows("^dayvane$", by="class")) - set(cls.desktop.windows(WINDOW_TITLE))
+
+    @classmethod
+    def click_icon(cls, button=1):
+        (icon,) = cls.icon
+        cls.user.click(cls.desktop.placed(icon), button)
+
+    def menu(self):
+        self.click_icon(RIGHT_BUTTON)
+        items = self.user.popup()
+        self.desktop.run(["xdotool", "key", "Escape"])
+        return items
+
+    def choose(self, name):
+        self.click_icon(RIGHT_BUTTON)
+        self.user.choose_in_popup(name)
+
+
+class AnIconInAPanel(TrayTest, AnyTrayIcon):
+    @classmethod
+    def setUpClass(cls):
+        need("lxqt-panel")
+        cls.arrange()
+        cls.dayvane.write_settings()
+        settings = cls.desktop.config / "lxqt/panel.conf"
+        settings.parent.mkdir()
+        settings.write_text(LXQT_PANEL, encoding="utf-8")
+        cls.desktop.start(["lxqt-panel"])
+        cls.dayvane.start()
+        cls.item = TrayItem(cls.desktop.environment["DBUS_SESSION_BUS_ADDRESS"])
+        wait_until(cls.item.is_there, SOON_SECONDS, "an icon in the panel")
+
+    @classmethod
+    def click_icon(cls):
+        cls.item.click()
+
+    def menu(self):
+        return self.item.menu()
+
+    def choose(self, name):
+        self.item.choose(name)
+
+
+class ADesktopWithoutATray(SessionTest):
+    """There is another way back to a hidden window."""
+
+    def hide(self):
+        self.desktop.run(["wmctrl", "-i", "-c", self.desktop.window(WINDOW_TITLE)])
+        self.wait_for([], lambda: self.desktop.windows(WINDOW_TITLE))
+
+    def test_hides_the_window_that_is_closed_and_goes_on_filing(self):
+        self.hide()
+        self.open_elsewhere("Letter.txt")
+        self.wait_for_filed("Letter.txt")
+        self.user.press("Show")
+        self.desktop.window(WINDOW_TITLE)
+
+    def test_offers_what_the_tray_would(self):
+        self.hide()
+        self.wait_for(["Show", "Suspend", "About Dayvane", "Exit"], lambda: self.wait_for_box()["buttons"])
+        self.user.press("Show")
+        self.wait_for(["Dayvane - Daily"], self.user.titles)
+
+    def test_shows_the_window_where_it_was_after_it_was_minimised(self):
+        window = self.desktop.window(WINDOW_TITLE)
+        place = self.desktop.placed(window)
+        self.desktop.run(["xdotool", "windowminimize", window])
+        self.user.press("Show")
+        self.wait_for([window], lambda: self.desktop.windows(WINDOW_TITLE))
+        self.wait_for(place, lambda: self.desktop.placed(window))
+
+
+class TheExit(SessionTest):
+    def test_by_the_menu_ends_the_program_well(self):
+        self.user.choose("Dayvane", "Exit")
+        self.dayvane.wait_for_end()
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)

@@ -1,12 +1,11 @@
 """The installed program under a Wayland compositor, where a program neither knows nor chooses where its windows are."""
 
 import configparser
-import os
-import subprocess
 import unittest
 
-from dayvane_program import Dayvane, install
-from private_desktop import PrivateDesktop, need
+from private_desktop import need
+from session_case import SessionTest
+from user import DAYS
 from waiting import wait_until
 
 START_SECONDS = 30
@@ -16,17 +15,11 @@ SIZE = {"Width": 800 * TWIPS, "Height": 500 * TWIPS}
 MAXIMISED = 2
 
 
-class OnWayland(unittest.TestCase):
+class OnWayland(SessionTest):
     @classmethod
     def setUpClass(cls):
         need("weston")
-        cls.desktop = PrivateDesktop()
-        cls.addClassCleanup(cls.desktop.close)
-        cls.addClassCleanup(lambda: print(f"--- the programs of the desktop said:\n{cls.desktop.said()}---"))
-        cls.desktop.__enter__()
-        stage = cls.desktop.folder / "stage"
-        install(os.environ["DAYVANE_BUILD_FOLDER"], stage)
-        cls.dayvane = Dayvane(cls.desktop, stage)
+        cls.arrange()
         cls.start_compositor()
 
     @classmethod
@@ -42,7 +35,7 @@ class OnWayland(unittest.TestCase):
         self.dayvane.write_settings(Window={"Visible": True, "Window State": 0, **PLACE, **SIZE, **window})
         process = self.desktop.start([self.dayvane.executable], WAYLAND_DISPLAY="dayvane-test",
                                      QT_QPA_PLATFORM="wayland")
-        wait_until(lambda: self.desktop.read_screen(process, "texts", "Days")["Days"], START_SECONDS, "the window")
+        self.wait_for([["Daily"]], lambda: self.desktop.screen_reader(process).rows(DAYS))
         process.terminate()
         self.assertEqual(process.wait(START_SECONDS), 0)
         stored = configparser.ConfigParser()

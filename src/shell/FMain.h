@@ -168,7 +168,7 @@ class FMain {
   void sftToolbar_Click(int index);
 
   void Exit();
-  void ShowSuspendOrResume(bool active);
+  void ShowSuspendOrResume(bool active) const;
   bool AskToRemove(StringId before, const std::string& what, StringId after);
   void Tell(const std::string& text);
   void PutBackIntoRecent(const std::string& shortcutPath);

@@ -136,7 +136,7 @@ void FMain::SetActive(bool active) {
   ShowSuspendOrResume(active);
 }
 
-void FMain::ShowSuspendOrResume(bool active) {
+void FMain::ShowSuspendOrResume(bool active) const {
   mnuFilePopup[0].SetVisible(active);
   mnuFilePopup[1].SetVisible(!active);
   mnuSysTrayPopup[2].SetVisible(active);

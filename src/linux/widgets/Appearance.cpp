@@ -113,14 +113,17 @@ void Appearance::Show() {
 }
 
 void Appearance::Ask() {
-  for (const auto& [space, key] : {std::pair(kAppearance, kColorScheme), std::pair(kAppearance, kContrast),
-                                   std::pair(kGnomeInterface, kGnomeContrast)}) {
-    m_settings.Call(kInterface, "Read", g_variant_new("(ss)", space, key), [this, space, key](GVariant* answer) {
-      if (answer == nullptr || !g_variant_is_of_type(answer, G_VARIANT_TYPE("(v)"))) return;
-      const glib::Variant boxed(g_variant_get_child_value(answer, 0));
-      Read(space, key, boxed.get());
-    });
-  }
+  AskFor(kAppearance, kColorScheme);
+  AskFor(kAppearance, kContrast);
+  AskFor(kGnomeInterface, kGnomeContrast);
+}
+
+void Appearance::AskFor(const char* space, const char* key) {
+  m_settings.Call(kInterface, "Read", g_variant_new("(ss)", space, key), [this, space, key](GVariant* answer) {
+    if (answer == nullptr || !g_variant_is_of_type(answer, G_VARIANT_TYPE("(v)"))) return;
+    const glib::Variant boxed(g_variant_get_child_value(answer, 0));
+    Read(space, key, boxed.get());
+  });
 }
 
 void Appearance::Read(const std::string& space, const std::string& key, GVariant* setting) {

@@ -26,6 +26,7 @@ class Appearance {
 
  private:
   void Ask();
+  void AskFor(const char* space, const char* key);
   void Read(const std::string& space, const std::string& key, GVariant* setting);
   void Show();
 

@@ -1,5 +1,6 @@
 """Dayvane itself, installed into a folder and run in a private desktop."""
 
+import configparser
 import csv
 import pathlib
 import signal
@@ -10,6 +11,7 @@ from waiting import wait_until
 
 START_SECONDS = 60
 END_SECONDS = 30
+SETTINGS_KEY = "Software\\Korvath\\Dayvane\\"
 WINDOW_TITLE = "^Dayvane - "
 
 
@@ -26,6 +28,7 @@ class Dayvane:
         self.folder = desktop.data / "dayvane"
         self.recent = self.folder / "Recent"
         self.daily = self.folder / "Daily"
+        self.settings_file = desktop.config / "dayvane/dayvane.ini"
         self.favorites_file = self.folder / "Favorites.dat"
         self.process = None
 
@@ -33,12 +36,18 @@ class Dayvane:
         """Stores settings: subtrees by name, values by name. With the options stored, a start is no first run and asks
         nothing. For a program that does not run: at its end it stores its own."""
         subtrees["Options"] = {"Favorites Threshold": 3, "Purge Age": 30, "Timer Interval": 1, **dict(options)}
-        file = self.desktop.config / "dayvane/dayvane.ini"
-        file.parent.mkdir(mode=0o700, parents=True, exist_ok=True)
-        with open(file, "w", encoding="utf-8") as text:
+        self.settings_file.parent.mkdir(mode=0o700, parents=True, exist_ok=True)
+        with open(self.settings_file, "w", encoding="utf-8") as text:
             for subtree, values in subtrees.items():
-                text.write(f"[Software\\Korvath\\Dayvane\\{subtree}]\n")
+                text.write(f"[{SETTINGS_KEY}{subtree}]\n")
                 text.writelines(f"{name}={value}\n" for name, value in values.items())
+
+    def settings(self, subtree):
+        """The stored texts of a subtree by name."""
+        stored = configparser.ConfigParser(interpolation=None)
+        stored.optionxform = str
+        stored.read(self.settings_file, encoding="utf-8")
+        return dict(stored[SETTINGS_KEY + subtree])
 
     def launch(self):
         """Starts the program and returns at once."""

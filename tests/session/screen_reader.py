@@ -54,13 +54,19 @@ class ScreenReader:
         self._bus = bus
         self._process = process
 
-    def widgets(self):
+    def widgets(self, window=None):
+        """Everything in all windows, or in the one with that title."""
         program = self._bus.program(self._process)
-        return walk(program) if program is not None else iter(())
+        if program is None:
+            return iter(())
+        if window is None:
+            return walk(program)
+        return (widget for child in program.children if child.name == window and child.is_showing
+                for widget in walk(child))
 
-    def find(self, name, *roles):
+    def find(self, name, *roles, window=None):
         """The first widget of that name, and of one of the roles where there are some."""
-        for widget in self.widgets():
+        for widget in self.widgets(window):
             if widget.name == name and (not roles or widget.role in roles):
                 return widget
         raise NotOnScreen(name)

@@ -79,8 +79,8 @@ class SessionTest(unittest.TestCase):
         wait_until(fits, SOON_SECONDS, lambda: f"{expected}, but {seen[0]!r}")
 
     @classmethod
-    def wait_for_box(cls):
-        return wait_until(cls.user.box, SOON_SECONDS, "a box over the window")
+    def wait_for_box(cls, title=None):
+        return wait_until(lambda: cls.user.box(title), SOON_SECONDS, f"a box {title or 'over the window'}")
 
     @classmethod
     def choose_last_day(cls):

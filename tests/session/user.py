@@ -47,10 +47,12 @@ class User:
     def titles(self):
         return [window["title"] for window in self.reader.windows()]
 
-    def box(self):
-        """The window that asks or tells something: its title, its texts and its buttons; None without one."""
-        return next((window for window in self.reader.windows()
-                     if window["buttons"] and not window["title"].startswith("Dayvane - ")), None)
+    def box(self, title=None):
+        """The window that asks or tells something: its title, its texts and its buttons; None without one. With a
+        title, the one that has it."""
+        def fits(window):
+            return title == window["title"] if title is not None else not window["title"].startswith("Dayvane - ")
+        return next((window for window in self.reader.windows() if window["buttons"] and fits(window)), None)
 
     def can_press(self, button):
         return "enabled" in self.reader.find(button, "push button").states
@@ -80,8 +82,9 @@ class User:
         self._header_part = 3 - self._header_part
         self.click((x, y, 2 * width * self._header_part // 3, height))
 
-    def press(self, button):
-        self._patiently(f"a button {button}", lambda: self.reader.find(button, "push button").act())
+    def press(self, button, window=None):
+        """Presses a button, of the window with that title where several have it."""
+        self._patiently(f"a button {button}", lambda: self.reader.find(button, "push button", window=window).act())
 
     def choose(self, *path):
         """Chooses from the menus of the menu bar."""
@@ -102,7 +105,7 @@ class User:
 
     def write(self, entry, text):
         def written():
-            self.reader.find(entry, "text").text = text
+            self.reader.find(entry, "text", "spin box").text = text
             return True
         self._patiently(f"an entry {entry}", written)
 

@@ -73,6 +73,13 @@ class TheMainWindow(WeekTest):
         self.user.choose("View", style)
         self.wait_for(True, lambda: self.is_shown_as(style))
 
+    def close_box(self):
+        """Answers a box with OK and returns what it said."""
+        box = self.wait_for_box()
+        self.user.press("OK")
+        self.wait_for(None, self.user.box)
+        return box
+
     def test_shows_the_favorites_by_the_menu(self):
         self.user.choose("View", "Favorites")
         self.wait_for(FAVORITE_DOCUMENTS, lambda: sorted(self.user.names(FAVORITES)))
@@ -140,18 +147,14 @@ class TheMainWindow(WeekTest):
 
     def test_has_a_find_command_that_is_yet_to_come(self):
         self.user.choose("Tools", "Find...")
-        box = self.wait_for_box()
+        box = self.close_box()
         self.assertEqual(box, {"title": "Dayvane", "texts": ["Display find dialog box here."], "buttons": ["OK"]})
-        self.user.press("OK")
-        self.wait_for(None, self.user.box)
 
     def test_tells_about_the_program(self):
         self.user.choose("Help", "About Dayvane")
-        box = self.wait_for_box()
+        box = self.close_box()
         self.assertEqual((box["title"], box["buttons"]), ("About Dayvane", ["OK"]))
         self.assertRegex(box["texts"][0], r"^Dayvane\nVersion \d+\.\d+\.\d+\n")
-        self.user.press("OK")
-        self.wait_for(None, self.user.box)
 
     def test_opens_the_contents_of_the_help(self):
         self.user.choose("Help", "Dayvane Help Topics")

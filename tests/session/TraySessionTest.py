@@ -25,6 +25,20 @@ type=statusnotifier
 
 
 class TrayTest(SessionTest):
+    """A tray and the program, started in this order; the kind of tray is a mixin's."""
+
+    @classmethod
+    def setUpClass(cls):
+        cls.arrange()
+        cls.dayvane.write_settings()
+        cls.start()
+        cls.icon = wait_until(cls.find_icon, SOON_SECONDS, "an icon in the tray")
+
+    @classmethod
+    def start(cls):
+        cls.start_tray()
+        cls.dayvane.start()
+
     def setUp(self):
         if not self.is_shown():
             self.click_icon()
@@ -75,23 +89,42 @@ class AnyTrayIcon:
         self.wait_for(None, self.user.box)
 
 
-class AnEmbeddedIcon(TrayTest, AnyTrayIcon):
+class ATrayThatComesLater:
+    """The program was started without a tray, and its window hidden."""
+
     @classmethod
-    def setUpClass(cls):
+    def start(cls):
+        cls.dayvane.start()
+        cls.desktop.run(["wmctrl", "-i", "-c", cls.desktop.window(WINDOW_TITLE)])
+        cls.user.find_button("Show")
+        cls.start_tray()
+
+    def test_has_the_icon_in_place_of_the_small_window(self):
+        self.wait_for(None, self.user.box)
+
+    def test_shows_and_hides_the_window_at_a_click(self):
+        self.click_icon()
+        self.wait_for(False, self.is_shown)
+        self.click_icon()
+        self.wait_for(True, self.is_shown)
+
+
+class Embedding:
+    """A tray that takes the icon's own window in."""
+
+    @classmethod
+    def start_tray(cls):
         need("tint2")
-        cls.arrange()
-        cls.dayvane.write_settings()
         settings = cls.desktop.folder / "tint2rc"
         settings.write_text(TINT2, encoding="utf-8")
         cls.desktop.start(["tint2", "-c", settings])
         cls.desktop.window("^tint2$")
-        cls.dayvane.start()
-        cls.icon = wait_until(cls.find_icon, SOON_SECONDS, "an icon in the tray")
 
     @classmethod
     def find_icon(cls):
-        """The program's window that is not the main window."""
-        return set(cls.desktop.windows("^dayvane$", by="class")) - set(cls.desktop.windows(WINDOW_TITLE))
+        """The program's window that has no title."""
+        titled = cls.desktop.windows(WINDOW_TITLE) + cls.desktop.windows("^Dayvane$")
+        return set(cls.desktop.windows("^dayvane$", by="class")) - set(titled)
 
     @classmethod
     def click_icon(cls, button=1):
@@ -109,29 +142,47 @@ class AnEmbeddedIcon(TrayTest, AnyTrayIcon):
         self.user.choose_in_popup(name)
 
 
-class AnIconInAPanel(TrayTest, AnyTrayIcon):
+class Panel:
+    """A panel that asks the program for the icon and its menu."""
+
     @classmethod
-    def setUpClass(cls):
+    def start_tray(cls):
         need("lxqt-panel")
-        cls.arrange()
-        cls.dayvane.write_settings()
         settings = cls.desktop.config / "lxqt/panel.conf"
         settings.parent.mkdir()
         settings.write_text(LXQT_PANEL, encoding="utf-8")
         cls.desktop.start(["lxqt-panel"])
-        cls.dayvane.start()
-        cls.item = TrayItem(cls.desktop.environment["DBUS_SESSION_BUS_ADDRESS"])
-        wait_until(cls.item.is_there, SOON_SECONDS, "an icon in the panel")
+
+    @classmethod
+    def find_icon(cls):
+        item = TrayItem(cls.desktop.environment["DBUS_SESSION_BUS_ADDRESS"])
+        return item if item.is_there() else None
 
     @classmethod
     def click_icon(cls):
-        cls.item.click()
+        cls.icon.click()
 
     def menu(self):
-        return self.item.menu()
+        return self.icon.menu()
 
     def choose(self, name):
-        self.item.choose(name)
+        self.icon.choose(name)
+
+
+class AnEmbeddedIcon(Embedding, AnyTrayIcon, TrayTest):
+    pass
+
+
+class AnIconInAPanel(Panel, AnyTrayIcon, TrayTest):
+    pass
+
+
+class AnEmbeddingTrayThatComesLater(Embedding, ATrayThatComesLater, TrayTest):
+    pass
+
+
+class APanelThatComesLater(Panel, ATrayThatComesLater, TrayTest):
+    pass
 
 
 class ADesktopWithoutATray(SessionTest):

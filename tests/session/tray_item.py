@@ -21,7 +21,10 @@ class TrayItem:
         self._bus = connect(session_address)
 
     def is_there(self):
-        return bool(self._names())
+        try:
+            return bool(self._names())
+        except GLib.Error:  # the panel has not come yet
+            return False
 
     def click(self):
         self._call("/StatusNotifierItem", f"{ITEM}.Activate", NO_PLACE, NO_PLACE)

@@ -82,6 +82,10 @@ class User:
         self._header_part = 3 - self._header_part
         self.click((x, y, 2 * width * self._header_part // 3, height))
 
+    def find_button(self, button):
+        """Waits until a button is on the screen."""
+        self._patiently(f"a button {button}", lambda: self.reader.find(button, "push button"))
+
     def press(self, button, window=None):
         """Presses a button, of the window with that title where several have it."""
         self._patiently(f"a button {button}", lambda: self.reader.find(button, "push button", window=window).act())

@@ -29,6 +29,7 @@ void FMain::PollRecentFolder() {
     if (!m_justCounted.empty()) m_oFavorites->Save();
     if (m_documentsChanged) {
       RefreshDaily();
+      RefreshCalendar();
       RefreshFavorites();
       m_documentsChanged = false;
     }

@@ -96,6 +96,8 @@ int Run() {
                     events.SetLog(&application.eventLog);
                     windows.Present(mainWindow);
                   }});
+  // Whoever asked for help when welcomed wants to read it before anything else.
+  help.BringToFront();
   const int result = !program.mainWindow ? kFailure : program.mainWindow->form.IsUnloaded() ? 0 : QApplication::exec();
   events.SetLog(nullptr);
   return result;

@@ -139,6 +139,7 @@ void FMain::LoadResources() {
 void FMain::CreateViews() {
   m_oCalendar = std::make_unique<CCalendar>(m_application);
   m_oCalendar->DailyPath = m_repository.DailyPath();
+  calMain.SetCurrentDate(std::chrono::floor<std::chrono::days>(m_application.desktop.clock.Now()));
   m_oCalendar->SetCalendar(&calMain);
   m_oDaily = std::make_unique<CDaily>(m_application);
   m_oDaily->SetControls(&tvwMain, &lvwDaily, &picDaily);

@@ -56,6 +56,7 @@ class FMain {
   // The Daily view.
   void FindLatestDay();
   void RefreshDaily();
+  void RefreshCalendar();  ///< after days came or went in the month that is shown
   void LoadDailyTreeViewFolder(const std::string& folder, int level);
   void SelectDate(const Date& date);
   void LoadDailyListView(const controls::TreeNode* node);

@@ -77,6 +77,10 @@ void FMain::RefreshDaily() {
   if (!rowKey.empty()) lvwDaily.SetSelectedItem(&lvwDaily.Item(rowKey));
 }
 
+void FMain::RefreshCalendar() {
+  m_oCalendar->HighlightDays(m_oCalendar->Value());
+}
+
 void FMain::LoadDailyTreeViewFolder(const std::string& folder, int level) {
   Assert(!text::Trim(folder).empty(), ".LoadDailyTreeViewFolder: Folder is missing");
   Assert(level >= 1, ".LoadDailyTreeViewFolder: Level is 0");
@@ -172,7 +176,9 @@ void FMain::tvwMain_MouseUp(int button, double x, double y) {
 
 void FMain::m_oCalendar_DateChange(const Date& newDate) {
   if (m_inTreeClick) return;
-  SelectDate(newDate);
+  // Days without documents are walked over on the way to others: there the list stays as it was, and nobody is told of
+  // an error at every step.
+  if (tvwMain.Find(KeyOf(m_repository.DayFolder(newDate))) != nullptr) SelectDate(newDate);
   RefreshStatusBar();
 }
 

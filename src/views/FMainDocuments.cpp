@@ -87,7 +87,9 @@ void FMain::RemoveLink(const controls::ListItem* item) {
       m_oFavorites->RebuildFavorites();
       RefreshFavorites();
     }
-    if (m_repository.PurgeEmptyFolders()) RefreshDaily();
+    if (!m_repository.PurgeEmptyFolders()) return;
+    RefreshDaily();
+    RefreshCalendar();
   });
 }
 
@@ -96,6 +98,7 @@ void FMain::PurgeDay(const controls::TreeNode* node) {
   Assert(m_oFavorites != nullptr, ".PurgeDay: Favorites object is nothing");
   m_repository.PurgeDay(Required(node).key.substr(1));
   RefreshDaily();
+  RefreshCalendar();
   m_oFavorites->RebuildFavorites();
   RefreshFavorites();
 }

@@ -128,6 +128,38 @@ TEST_F(DailyViewTest, SelectingADateWithoutAFolderIsReportedAndLeavesTheList) {
   EXPECT_THAT(desktop.windowing.Texts(), ElementsAre("An error occurred selecting a date."));
 }
 
+TEST_F(DailyViewTest, WalkingOverDaysWithoutDocumentsInTheCalendarLeavesTheListAndTellsOfNoError) {
+  File("2026/May/05", "Z:\\a.odt", "2026-05-05 10:00:00");
+  Load();
+  window.calMain.SetCurrentDate(std::chrono::local_days{std::chrono::May / 5 / 2026});
+  window.calMain.SetCurrentDate(std::chrono::local_days{std::chrono::May / 6 / 2026});
+  EXPECT_EQ(window.lvwDaily.Count(), 1U);
+  EXPECT_EQ(window.tvwMain.SelectedItem(), &Node("2026\\May\\05"));
+  EXPECT_THAT(desktop.windowing.messages, IsEmpty());
+}
+
+TEST_F(DailyViewTest, TheCalendarShowsTodayUntilThereAreDocuments) {
+  Load();
+  window.form.Activate.Raise();
+  EXPECT_EQ(window.calMain.CurrentDate(), std::chrono::local_days{std::chrono::November / 21 / 2026});
+}
+
+TEST_F(DailyViewTest, ADayThatComesWhileItsMonthIsShownStandsOutAtOnce) {
+  Load();
+  desktop.OpenDocument("Z:\\home\\ana\\a.odt", "2026-11-21 11:00:00");
+  Tick();
+  EXPECT_TRUE(window.calMain.Highlight(21));
+}
+
+TEST_F(DailyViewTest, ADayThatIsPurgedStandsOutNoLonger) {
+  File("2026/November/20", "Z:\\a.odt", "2026-11-20 10:00:00");
+  Load();
+  window.form.Activate.Raise();
+  ASSERT_TRUE(window.calMain.Highlight(20));
+  window.PurgeDay(&Node("2026\\November\\20"));
+  EXPECT_FALSE(window.calMain.Highlight(20));
+}
+
 TEST_F(DailyViewTest, SelectingTheZeroDateIsLogged) {
   Load();
   window.SelectDate(Date());

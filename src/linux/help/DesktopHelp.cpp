@@ -35,6 +35,12 @@ void DesktopHelp::ShowPopup(const std::string& helpFile, int contextId, const QP
   Viewer(helpFile).ShowPopup(contextId, at);
 }
 
+void DesktopHelp::BringToFront() {
+  if (!m_viewer || !m_viewer->isVisible()) return;
+  m_viewer->raise();
+  m_viewer->activateWindow();
+}
+
 HelpViewer& DesktopHelp::Viewer(const std::string& helpFile) {
   if (!m_viewer) m_viewer = std::make_unique<HelpViewer>(LocateHelpFile(helpFile, m_resourceFolder));
   return *m_viewer;

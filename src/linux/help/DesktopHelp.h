@@ -25,6 +25,9 @@ class DesktopHelp : public platform::Help {
   /// A command other than those of platform/Help.h shows the contents.
   void ShowHelp(const std::string& helpFile, int command, int contextId) override;
 
+  /// Brings the window, if it is open, before those that were shown since.
+  void BringToFront();
+
   /// Explains a control in a small window at a point of the screen.
   void ShowPopup(const std::string& helpFile, int contextId, const QPoint& at);
 

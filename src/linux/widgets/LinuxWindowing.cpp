@@ -73,8 +73,7 @@ void LinuxWindowing::Forget(FormPresenter& presenter) {
 MessageAnswer LinuxWindowing::ShowMessage(const Message& message) {
   const bool question = message.buttons == platform::MessageButtons::YesNo;
   const QMessageBox::StandardButtons buttons = question ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok;
-  QMessageBox box(IconOf(message), QString::fromStdString(message.title), TextOf(message), buttons,
-                  QApplication::activeWindow());
+  QMessageBox box(IconOf(message), QString::fromStdString(message.title), TextOf(message), buttons, OwnerOfBox());
   box.setTextFormat(Qt::PlainText);  // a document's name may look like markup
   if (question) box.setDefaultButton(QMessageBox::Yes);
   if (question) box.setEscapeButton(QMessageBox::No);
@@ -94,7 +93,7 @@ void LinuxWindowing::ShowAbout(const platform::About& about) {
                                 .arg(glib_minor_version)
                                 .arg(glib_micro_version);
   const ArrowPointer arrow;
-  QMessageBox box(QApplication::activeWindow());
+  QMessageBox box(OwnerOfBox());
   box.setWindowTitle(QStringLiteral("About %1").arg(QString::fromStdString(about.title)));
   box.setIconPixmap(PictureIcon(kNormalIcon).pixmap(64));
   box.setTextFormat(Qt::RichText);
@@ -117,6 +116,11 @@ void LinuxWindowing::ProcessPendingMessages() {
   else
     QCoreApplication::processEvents(splash != nullptr ? QEventLoop::AllEvents : QEventLoop::ExcludeUserInputEvents);
   m_sinceEvents.start();
+}
+
+QWidget* LinuxWindowing::OwnerOfBox() const {
+  QWidget* active = QApplication::activeWindow();
+  return active != nullptr ? active : ShownSplash();
 }
 
 QWidget* LinuxWindowing::ShownSplash() const {

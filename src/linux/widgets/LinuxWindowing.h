@@ -37,6 +37,7 @@ class LinuxWindowing : public platform::Windowing {
  private:
   FormPresenter* Find(const controls::Form& form) const;
   QWidget* ShownSplash() const;
+  QWidget* OwnerOfBox() const;  ///< the window that a box belongs to, over which it opens
   void Popup(FormPresenter* presenter, controls::Menu& menu, int defaultItem, QPoint at);
 
   std::map<const controls::Form*, FormPresenter*> m_presenters;

@@ -57,10 +57,13 @@ void ListPresenter::ListenToUser() {
   m_details.SetEvents(EventsOf(m_details));
   connect(&m_selection, &QItemSelectionModel::selectionChanged, this, [this] { SelectionMoved(); });
   QHeaderView* header = m_details.header();
-  connect(header, &QHeaderView::sectionClicked, this, [this](int column) {
-    m_control.ColumnClick.Raise(static_cast<std::size_t>(column) + 1);
-    ShowHeader();  // the header has turned its arrow by itself
-  });
+  // The second of two quick clicks is told as a double click only.
+  for (const auto clicked : {&QHeaderView::sectionClicked, &QHeaderView::sectionDoubleClicked}) {
+    connect(header, clicked, this, [this](int column) {
+      m_control.ColumnClick.Raise(static_cast<std::size_t>(column) + 1);
+      ShowHeader();  // the header has turned its arrow by itself
+    });
+  }
   connect(header, &QHeaderView::sectionResized, this, [this](int column, int, int width) {
     if (!m_showing) m_control.SetColumnWidth(static_cast<std::size_t>(column), ToTwips(width, *this));
   });

@@ -4,6 +4,7 @@
 #include <QMenuBar>
 #include <QToolBar>
 #include <algorithm>
+#include <utility>
 
 #include "linux/Pictures.h"
 #include "linux/widgets/Lengths.h"
@@ -48,6 +49,7 @@ MainWindow::MainWindow(FMain& main, const Icons& icons, const platform::DateConv
   Design();
   DesignForm();
   m_connections.push_back(main.form.Resize.ConnectScoped([this] { LayOut(); }));
+  m_connections.push_back(main.picFavorites.Changed.ConnectScoped([this] { FocusWhenViewChanges(); }));
 }
 
 void MainWindow::BuildClient() {
@@ -132,6 +134,20 @@ void MainWindow::LayOut() {
   m_placement.PlaceAll();
   MoveControl(m_main.sbrMain, {0, m_client.height() - statusHeight, m_client.width(), statusHeight}, *this);
   m_splitter.setGeometry(ToPixels(m_main.lvwDaily.Left(), *this) - kGap, 0, kGap, m_daily.height());
+}
+
+void MainWindow::FocusWhenViewChanges() {
+  const bool showsFavorites = m_main.picFavorites.Visible();
+  if (std::exchange(m_showsFavorites, showsFavorites) != showsFavorites) FocusList();
+}
+
+void MainWindow::FocusList() {
+  (m_showsFavorites ? m_favoritesList : m_dailyList).setFocus();
+}
+
+void MainWindow::showEvent(QShowEvent* event) {
+  QMainWindow::showEvent(event);
+  if (focusWidget() == nullptr) FocusList();
 }
 
 void MainWindow::changeEvent(QEvent* event) {

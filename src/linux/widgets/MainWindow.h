@@ -32,6 +32,7 @@ class MainWindow : public QMainWindow {
 
  protected:
   void changeEvent(QEvent* event) override;
+  void showEvent(QShowEvent* event) override;
 
  private:
   void BuildClient();
@@ -45,6 +46,8 @@ class MainWindow : public QMainWindow {
   void DesignFavoritesPane();
   void DesignForm();
   void LayOut();
+  void FocusWhenViewChanges();
+  void FocusList();  ///< of the view that is shown
 
   FMain& m_main;
   MenuPresenter m_fileMenu;
@@ -62,6 +65,7 @@ class MainWindow : public QMainWindow {
   ListPresenter m_favoritesList;
   StatusBarPresenter m_statusBar;
   Placement m_placement{m_client};
+  bool m_showsFavorites = false;
   TimerPresenter m_timer;
   FormPresenter m_form;
   std::vector<controls::Connection> m_connections;

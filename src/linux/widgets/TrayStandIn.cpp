@@ -8,6 +8,7 @@ namespace dayvane::widgets {
 namespace {
 
 constexpr int kPictureSize = 32;
+constexpr int kLeastWidth = 220;  ///< room for the title beside a frame's buttons
 
 }  // namespace
 
@@ -18,6 +19,7 @@ TrayStandIn::TrayStandIn(QMenu& menu) : m_layout(this) {
   m_tip.setTextFormat(Qt::PlainText);
   m_layout.addLayout(&m_head);
   m_layout.setSizeConstraint(QLayout::SetFixedSize);
+  m_tip.setMinimumWidth(kLeastWidth);
   for (QAction* action : menu.actions())
     if (!action->isSeparator()) AddCommand(*action);
 }

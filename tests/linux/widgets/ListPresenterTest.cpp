@@ -299,6 +299,19 @@ TEST_F(ListPresenterTest, AClickOnAHeaderIsOneOfItsColumn) {
   EXPECT_THAT(columns, ElementsAre(2));
 }
 
+TEST_F(ListPresenterTest, TwoQuickClicksOnAHeaderAreTwo) {
+  Fill(5);
+  QHeaderView* header = Present().DetailsView().header();
+  std::vector<std::size_t> columns;
+  m_control.ColumnClick.Connect([&](std::size_t column) { columns.push_back(column); });
+  const QPoint at(header->sectionViewportPosition(1) + 20, 8);
+
+  QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, at);
+  QTest::mouseDClick(header->viewport(), Qt::LeftButton, {}, at);
+
+  EXPECT_THAT(columns, ElementsAre(2, 2));
+}
+
 TEST_F(ListPresenterTest, TheArrowShowsTheControlsSort) {
   const QHeaderView* header = Present().DetailsView().header();
   EXPECT_FALSE(header->isSortIndicatorShown());

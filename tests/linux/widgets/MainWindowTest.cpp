@@ -50,6 +50,16 @@ TEST_F(MainWindowTest, TheCalendarIsAboveTheDaysAndTheListToTheirRight) {
   EXPECT_GT(list.left(), days.right());
 }
 
+TEST_F(MainWindowTest, TheListOfTheShownViewHasTheKeyboard) {
+  EXPECT_TRUE(Find<QTreeView>("Documents of the day").hasFocus());
+
+  m_main.SetActiveView(FMain::kFavoritesView);
+  EXPECT_TRUE(Find<QTreeView>("Favorites").hasFocus());
+
+  m_main.SetActiveView(FMain::kDailyView);
+  EXPECT_TRUE(Find<QTreeView>("Documents of the day").hasFocus());
+}
+
 TEST_F(MainWindowTest, NothingReachesPastTheEdgeOrOverTheStatusBar) {
   const QRect client = m_window.centralWidget()->rect();
   const QRect status = PlaceOf(*m_window.findChild<QStatusBar*>());

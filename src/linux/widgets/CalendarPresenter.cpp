@@ -4,6 +4,8 @@
 #include <QPainter>
 #include <QScopedValueRollback>
 #include <QTextCharFormat>
+#include <array>
+#include <utility>
 
 #include "linux/UsersTurn.h"
 
@@ -41,8 +43,19 @@ CalendarPresenter::CalendarPresenter(controls::Calendar& control, Qt::DayOfWeek 
   connect(this, &QCalendarWidget::selectionChanged, this, [this] { Choose(selectedDate()); });
   connect(this, &QCalendarWidget::clicked, this, [this](QDate date) { Choose(date); });
   connect(this, &QCalendarWidget::currentPageChanged, this, [this](int year, int month) { ShowMonth(year, month); });
+  NameParts();
   ShowWeekend();
   m_link.Show();
+}
+
+void CalendarPresenter::NameParts() {
+  // Qt's own names of the parts (qcalendarwidget.cpp); it leaves some without words for screen readers.
+  static constexpr std::array<std::pair<const char*, const char*>, 3> kNames{
+      {{"qt_calendar_calendarview", "Days of the month"},
+       {"qt_calendar_prevmonth", "Previous month"},
+       {"qt_calendar_nextmonth", "Next month"}}};
+  for (const auto& [part, words] : kNames)
+    if (auto* widget = findChild<QWidget*>(QLatin1String(part))) widget->setAccessibleName(QLatin1String(words));
 }
 
 bool CalendarPresenter::IsHighlighted(QDate date) const {

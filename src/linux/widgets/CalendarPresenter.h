@@ -21,6 +21,7 @@ class CalendarPresenter : public QCalendarWidget {
   void changeEvent(QEvent* event) override;
 
  private:
+  void NameParts();
   void Show();
   void ShowHighlights();
   void ShowWeekend();

@@ -16,6 +16,7 @@ RATIOS = [
     ("FirstFiling_WithFavorites", "FirstFiling_Yardstick_CopyArchive", 3),
     ("Rebuild_Repository", "Rebuild_Yardstick_ReadLoop", 3),
     ("Tree_RefreshDaily", "Tree_Yardstick_FindFolders", 3),
+    ("Sort_ColumnClick", "Sort_Yardstick_StableSort", 4),
 ]
 
 

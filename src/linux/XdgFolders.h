@@ -17,7 +17,7 @@ struct Environment {
   static Environment OfProcess();
 };
 
-/// A relative path counts as unset, as the specification has it: what it meant would depend on the current folder.
+/// A relative path counts as unset, as the base directory rules have it: it would depend on the current folder.
 std::string DataFolder(const Environment& environment);
 std::string ConfigFolder(const Environment& environment);
 

@@ -26,14 +26,6 @@ class StartTest : public ::testing::Test, protected testing::MainWindow {
  protected:
   std::string& Option(const std::string& name) { return desktop.registry.keys[kOptionsKey][name]; }
   void MakeFirstRun() { desktop.registry.keys.erase(kOptionsKey); }
-
-  void File(const std::string& day, const std::string& name, const std::string& time) const {
-    fs::create_directories(Daily(day));
-    platform::ShellLink link;
-    link.target = "Z:\\home\\ana\\" + name;
-    link.workingDirectory = "Z:\\home\\ana";
-    testing::WriteShortcut(Daily(day) + "/" + name + ".lnk", link, time);
-  }
 };
 
 TEST_F(StartTest, AFirstRunIsWelcomedWithAQuestion) {
@@ -85,7 +77,7 @@ TEST_F(StartTest, ALaterRunIsNotWelcomed) {
 
 TEST_F(StartTest, TheWelcomeComesBeforeThePurgeQuestionAndThatBeforeTheFirstCapture) {
   MakeFirstRun();
-  File("2026/May/05", "a.odt", "2026-05-05 10:00:00");
+  File("2026/May/05", "Z:\\home\\ana\\a.odt", "2026-05-05 10:00:00");
   std::vector<std::string> asked;
   desktop.shell.refresh = [&] { asked = desktop.windowing.Texts(); };
   Load();
@@ -165,15 +157,15 @@ TEST_F(StartTest, WhatWasOpenedBeforeTheStartIsListedWhenTheWindowShows) {
 }
 
 TEST_F(StartTest, OldDaysArePurgedWhenTheUserAgrees) {
-  File("2026/May/05", "a.odt", "2026-05-05 10:00:00");
-  File("2026/November/20", "b.odt", "2026-11-20 10:00:00");
+  File("2026/May/05", "Z:\\home\\ana\\a.odt", "2026-05-05 10:00:00");
+  File("2026/November/20", "Z:\\home\\ana\\b.odt", "2026-11-20 10:00:00");
   Load();
   EXPECT_FALSE(fs::exists(Daily("2026/May")));
   EXPECT_TRUE(fs::exists(Daily("2026/November/20")));
 }
 
 TEST_F(StartTest, OldDaysStayWhenTheUserDeclines) {
-  File("2026/May/05", "a.odt", "2026-05-05 10:00:00");
+  File("2026/May/05", "Z:\\home\\ana\\a.odt", "2026-05-05 10:00:00");
   desktop.windowing.answer = platform::MessageAnswer::No;
   Load();
   EXPECT_TRUE(fs::exists(Daily("2026/May/05/a.odt.lnk")));
@@ -188,8 +180,8 @@ TEST_F(StartTest, EmptyFoldersAreSweptOnEveryStart) {
 }
 
 TEST_F(StartTest, AfterAPurgeTheCountsAreThoseOfTheFavoritesFile) {
-  File("2026/May/05", "a.odt", "2026-05-05 10:00:00");
-  File("2026/November/20", "a.odt", "2026-11-20 10:00:00");
+  File("2026/May/05", "Z:\\home\\ana\\a.odt", "2026-05-05 10:00:00");
+  File("2026/November/20", "Z:\\home\\ana\\a.odt", "2026-11-20 10:00:00");
   desktop.folder.Write("program/Favorites.dat",
                        "5,#2026-11-20 10:00:00#,\"Z:\\x.lnk\",\"a.odt\",\"z:\\home\\ana\",\"Text\",\"\",0\r\n");
   Load();
@@ -197,8 +189,8 @@ TEST_F(StartTest, AfterAPurgeTheCountsAreThoseOfTheFavoritesFile) {
 }
 
 TEST_F(StartTest, WithoutAFavoritesFileTheFavoritesAreCountedFromTheRepository) {
-  File("2026/November/19", "a.odt", "2026-11-19 10:00:00");
-  File("2026/November/20", "a.odt", "2026-11-20 10:00:00");
+  File("2026/November/19", "Z:\\home\\ana\\a.odt", "2026-11-19 10:00:00");
+  File("2026/November/20", "Z:\\home\\ana\\a.odt", "2026-11-20 10:00:00");
   Load();
   EXPECT_THAT(testing::ColumnOf(window.lvwFavorites, 3), ElementsAre("    2"));
 }

@@ -1,5 +1,9 @@
 #include "tests/support/MainWindow.h"
 
+#include <filesystem>
+
+#include "app/ShellServices.h"
+
 namespace dayvane::testing {
 
 namespace {
@@ -14,6 +18,13 @@ void AddTexts(const controls::TreeNode& node, const std::string& indent, std::ve
 MainWindow::MainWindow() {
   desktop.registry.keys["\\HKEY_CURRENT_USER\\Software\\Korvath\\Dayvane\\Options"] = {
       {"Favorites Threshold", "2"}, {"Purge Age", "30"}, {"Timer Interval", "60"}};
+}
+
+void MainWindow::File(const std::string& day, const std::string& target, const std::string& localTime) const {
+  std::filesystem::create_directories(Daily(day));
+  platform::ShellLink link;
+  link.target = target;
+  WriteShortcut(Daily(day) + "/" + SplitPath(target).fileName + ".lnk", link, localTime);
 }
 
 std::vector<std::string> ColumnOf(const controls::ListView& list, std::size_t column) {

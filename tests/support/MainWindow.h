@@ -19,11 +19,17 @@ class MainWindow {
   /// What the desktop's clock does when the interval is over.
   void Tick() { window.tmrMain.Fire(); }
 
+  /// Files a shortcut to a document under a day, "2026/May/05", last written at a local time.
+  void File(const std::string& day, const std::string& target, const std::string& localTime) const;
+
   /// Native path of something in the repository.
   std::string Daily(const std::string& path) const { return desktop.NativeFolder() + "/Daily/" + path; }
 
   /// Key of the tree node for a path in the repository, "2026\November\21".
   std::string Key(const std::string& path) const { return "K" + desktop.Folder() + "\\Daily\\" + path; }
+
+  /// The tree's node for a path in the repository.
+  controls::TreeNode& Node(const std::string& path) { return window.tvwMain.Node(Key(path)); }
 
   std::string FavoritesFile() const { return desktop.NativeFolder() + "/Favorites.dat"; }
 

@@ -17,13 +17,12 @@ using testing::TextsOf;
 /// Days chosen in the tree and the calendar, and the documents and icons that the list then shows.
 class DailyListTest : public ::testing::Test, protected testing::MainWindow {
  protected:
-  void File(const std::string& day, const std::string& name, const std::string& target) const {
+  void FileAs(const std::string& day, const std::string& name, const std::string& target) const {
     fs::create_directories(Daily(day));
     platform::ShellLink link;
     link.target = target;
     testing::WriteShortcut(Daily(day) + "/" + name, link, "2026-11-20 10:00:00");
   }
-  controls::TreeNode& Node(const std::string& path) { return window.tvwMain.Node(Key(path)); }
   controls::ListItem& Row(const std::string& path) { return window.lvwDaily.Item(Key(path)); }
   bool CanExplore() const { return window.mnuToolsPopup[2].Enabled() && window.sftToolbar[3].Enabled(); }
   std::vector<std::string> Reports() const { return desktop.LogLines("ErrorLog.txt"); }
@@ -36,8 +35,8 @@ TEST_F(DailyListTest, TheColumnsAreNameTypePathAndModified) {
 }
 
 TEST_F(DailyListTest, EveryShortcutOfTheDayIsARowAndNothingElse) {
-  File("2026/November/20", "a.odt.lnk", "Z:\\a.odt");
-  File("2026/November/20", "B.LNK", "Z:\\b.odt");
+  FileAs("2026/November/20", "a.odt.lnk", "Z:\\a.odt");
+  FileAs("2026/November/20", "B.LNK", "Z:\\b.odt");
   Load();
   desktop.folder.Write("program/Daily/2026/November/20/notes.txt", "x");
   fs::create_directories(Daily("2026/November/20/folder.lnk"));
@@ -47,15 +46,15 @@ TEST_F(DailyListTest, EveryShortcutOfTheDayIsARowAndNothingElse) {
 
 TEST_F(DailyListTest, TheTimeOfARowIsWrittenAsTheUserWritesTimes) {
   desktop.dates.shortTime = "h:nn AM/PM";
-  File("2026/November/20", "a.odt.lnk", "Z:\\a.odt");
+  FileAs("2026/November/20", "a.odt.lnk", "Z:\\a.odt");
   Load();
   window.SelectDate(Date::Of(2026, 11, 20));
   EXPECT_THAT(ColumnOf(window.lvwDaily, 3), ElementsAre("10:00 AM"));
 }
 
 TEST_F(DailyListTest, ADayIsListedInTheOrderOfTheListBeforeIt) {
-  File("2026/November/19", "a.odt.lnk", "Z:\\a.odt");
-  for (const char* name : {"a", "b", "c"}) File("2026/November/20", std::string(name) + ".lnk", "Z:\\x");
+  FileAs("2026/November/19", "a.odt.lnk", "Z:\\a.odt");
+  for (const char* name : {"a", "b", "c"}) FileAs("2026/November/20", std::string(name) + ".lnk", "Z:\\x");
   Load();
   window.tvwMain.Click(Node("2026\\November\\19"));
   window.lvwDaily.ColumnClick.Raise(1);
@@ -65,8 +64,8 @@ TEST_F(DailyListTest, ADayIsListedInTheOrderOfTheListBeforeIt) {
 }
 
 TEST_F(DailyListTest, ShortcutsToOneTargetNameShareOneIcon) {
-  for (const char* name : {"a.lnk", "b.lnk"}) File("2026/November/20", name, "Z:\\x.odt");
-  File("2026/November/20", "c.lnk", "Z:\\y.odt");
+  for (const char* name : {"a.lnk", "b.lnk"}) FileAs("2026/November/20", name, "Z:\\x.odt");
+  FileAs("2026/November/20", "c.lnk", "Z:\\y.odt");
   Load();
   window.SelectDate(Date::Of(2026, 11, 20));
   EXPECT_EQ(Row("2026\\November\\20\\a.lnk").icon, Row("2026\\November\\20\\b.lnk").icon);
@@ -76,7 +75,7 @@ TEST_F(DailyListTest, ShortcutsToOneTargetNameShareOneIcon) {
 }
 
 TEST_F(DailyListTest, ARowsIconIsItsShortcutsInBothSizes) {
-  File("2026/November/20", "a.lnk", "Z:\\x.odt");
+  FileAs("2026/November/20", "a.lnk", "Z:\\x.odt");
   Load();
   desktop.icons.asked.clear();
   window.SelectDate(Date::Of(2026, 11, 20));
@@ -88,8 +87,8 @@ TEST_F(DailyListTest, ARowsIconIsItsShortcutsInBothSizes) {
 }
 
 TEST_F(DailyListTest, IconsLiveOnlyAsLongAsOneDaysList) {
-  File("2026/November/19", "a.lnk", "Z:\\x.odt");
-  File("2026/November/20", "b.lnk", "Z:\\y.odt");
+  FileAs("2026/November/19", "a.lnk", "Z:\\x.odt");
+  FileAs("2026/November/20", "b.lnk", "Z:\\y.odt");
   Load();
   window.SelectDate(Date::Of(2026, 11, 19));
   window.SelectDate(Date::Of(2026, 11, 20));
@@ -102,7 +101,7 @@ TEST_F(DailyListTest, IconsLiveOnlyAsLongAsOneDaysList) {
 
 TEST_F(DailyListTest, ADocumentWithoutAnIconHasTheDefaultOne) {
   desktop.icons.hasIcons = false;
-  File("2026/November/20", "a.lnk", "Z:\\x.odt");
+  FileAs("2026/November/20", "a.lnk", "Z:\\x.odt");
   Load();
   window.SelectDate(Date::Of(2026, 11, 20));
   EXPECT_EQ(Row("2026\\November\\20\\a.lnk").icon, 1);
@@ -118,7 +117,7 @@ TEST_F(DailyListTest, NamesMissingForAnIconAreLogged) {
 }
 
 TEST_F(DailyListTest, WithoutANodeTheListIsEmptied) {
-  File("2026/November/20", "a.lnk", "Z:\\x.odt");
+  FileAs("2026/November/20", "a.lnk", "Z:\\x.odt");
   Load();
   window.SelectDate(Date::Of(2026, 11, 20));
   window.LoadDailyListView(nullptr);
@@ -127,8 +126,8 @@ TEST_F(DailyListTest, WithoutANodeTheListIsEmptied) {
 }
 
 TEST_F(DailyListTest, ASelectedDocumentCanBeExploredUntilAnotherDayIsListed) {
-  File("2026/November/19", "a.lnk", "Z:\\x.odt");
-  File("2026/November/20", "b.lnk", "Z:\\y.odt");
+  FileAs("2026/November/19", "a.lnk", "Z:\\x.odt");
+  FileAs("2026/November/20", "b.lnk", "Z:\\y.odt");
   Load();
   window.tvwMain.Click(Node("2026\\November\\20"));
   EXPECT_FALSE(CanExplore());
@@ -139,7 +138,7 @@ TEST_F(DailyListTest, ASelectedDocumentCanBeExploredUntilAnotherDayIsListed) {
 }
 
 TEST_F(DailyListTest, ADateChosenInTheCalendarListsItsDocuments) {
-  File("2026/November/20", "a.lnk", "Z:\\x.odt");
+  FileAs("2026/November/20", "a.lnk", "Z:\\x.odt");
   Load();
   window.calMain.SetCurrentDate(std::chrono::local_days{std::chrono::year{2026} / 11 / 20});
   EXPECT_EQ(window.tvwMain.SelectedItem(), &Node("2026\\November\\20"));
@@ -149,7 +148,7 @@ TEST_F(DailyListTest, ADateChosenInTheCalendarListsItsDocuments) {
 }
 
 TEST_F(DailyListTest, ADayClickedInTheTreeIsListedOnceAndHighlighted) {
-  File("2026/November/20", "a.lnk", "Z:\\x.odt");
+  FileAs("2026/November/20", "a.lnk", "Z:\\x.odt");
   Load();
   int listed = 0;
   window.lvwDaily.ContentsChanged.Connect([&] { ++listed; });
@@ -159,7 +158,7 @@ TEST_F(DailyListTest, ADayClickedInTheTreeIsListedOnceAndHighlighted) {
 }
 
 TEST_F(DailyListTest, ClickingADaySaysPleaseWaitUntilItIsListed) {
-  File("2026/November/20", "a.lnk", "Z:\\x.odt");
+  FileAs("2026/November/20", "a.lnk", "Z:\\x.odt");
   Load();
   std::vector<std::string> texts;
   window.sbrMain.Changed.Connect([&] { texts.push_back(window.sbrMain.Text()); });
@@ -168,8 +167,8 @@ TEST_F(DailyListTest, ClickingADaySaysPleaseWaitUntilItIsListed) {
 }
 
 TEST_F(DailyListTest, AfterADayWasClickedTheCalendarSelectsDaysAgain) {
-  File("2026/November/19", "a.lnk", "Z:\\x.odt");
-  File("2026/November/20", "b.lnk", "Z:\\y.odt");
+  FileAs("2026/November/19", "a.lnk", "Z:\\x.odt");
+  FileAs("2026/November/20", "b.lnk", "Z:\\y.odt");
   Load();
   window.tvwMain.Click(Node("2026\\November\\20"));
   window.calMain.SetCurrentDate(std::chrono::local_days{std::chrono::year{2026} / 11 / 19});
@@ -192,7 +191,7 @@ TEST_F(DailyListTest, ARootYearOrMonthWithoutDaysIsOnlyListed) {
 }
 
 TEST_F(DailyListTest, AFolderAmongTheDaysThatIsNoDateIsReportedAndTheCalendarGoesOn) {
-  File("2026/November/20", "a.lnk", "Z:\\x.odt");
+  FileAs("2026/November/20", "a.lnk", "Z:\\x.odt");
   Load();
   desktop.folder.Write("program/Daily/2026/November/X.LNK", "");
   window.RefreshDaily();
@@ -218,7 +217,7 @@ TEST_F(DailyListTest, WithoutDaysTheCalendarStaysWhereItIs) {
 }
 
 TEST_F(DailyListTest, BeforeTheWindowHasLoadedTheCalendarIsMissing) {
-  File("2026/November/20", "a.lnk", "Z:\\x.odt");
+  FileAs("2026/November/20", "a.lnk", "Z:\\x.odt");
   window.FindLatestDay();
   EXPECT_THAT(desktop.LogLines("EventLog.txt"), ElementsAre("2\tFMain.FindLatestDay: Calendar object is nothing"));
   EXPECT_THAT(desktop.windowing.Texts(), ElementsAre("An error occurred finding the latest day with documents."));
@@ -226,7 +225,7 @@ TEST_F(DailyListTest, BeforeTheWindowHasLoadedTheCalendarIsMissing) {
 
 TEST_F(DailyListTest, AReloadWithoutAChosenDayFillsTheTreeAlone) {
   Load();
-  File("2026/November/20", "a.lnk", "Z:\\x.odt");
+  FileAs("2026/November/20", "a.lnk", "Z:\\x.odt");
   window.RefreshDaily();
   EXPECT_THAT(TextsOf(window.tvwMain), Contains("   20"));
   EXPECT_EQ(window.tvwMain.SelectedItem(), nullptr);

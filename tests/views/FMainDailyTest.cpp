@@ -20,14 +20,6 @@ class DailyViewTest : public ::testing::Test, protected testing::MainWindow {
   DailyViewTest() {
     desktop.registry.keys["\\HKEY_CURRENT_USER\\Software\\Korvath\\Dayvane\\Options"]["Purge Age"] = "3650";
   }
-
-  void File(const std::string& day, const std::string& target, const std::string& time) const {
-    fs::create_directories(Daily(day));
-    platform::ShellLink link;
-    link.target = target;
-    testing::WriteShortcut(Daily(day) + "/" + SplitPath(target).fileName + ".lnk", link, time);
-  }
-  controls::TreeNode& Node(const std::string& path) { return window.tvwMain.Node(Key(path)); }
 };
 
 TEST_F(DailyViewTest, TheTreeShowsYearsMonthsAndDaysWithAPicturePerLevel) {

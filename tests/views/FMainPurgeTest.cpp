@@ -20,18 +20,10 @@ constexpr int kRightButton = 2;
 /// The purge as the window's user meets it: at the start, and from the tree's menu.
 class PurgeTest : public ::testing::Test, protected testing::MainWindow {
  protected:
-  void File(const std::string& day, const std::string& name, const std::string& time) const {
-    fs::create_directories(Daily(day));
-    platform::ShellLink link;
-    link.target = "Z:\\home\\" + name;
-    link.workingDirectory = "Z:\\home";
-    testing::WriteShortcut(Daily(day) + "/" + name + ".lnk", link, time);
-  }
   void FileOnThreeDays() const {
     for (const char* day : {"18", "19", "20"})
-      File(std::string("2026/November/") + day, "a.odt", std::string("2026-11-") + day + " 10:00:00");
+      File(std::string("2026/November/") + day, "Z:\\home\\a.odt", std::string("2026-11-") + day + " 10:00:00");
   }
-  controls::TreeNode& Node(const std::string& path) { return window.tvwMain.Node(Key(path)); }
 
   /// Right-clicks a node, which selects it.
   void RightClick(controls::TreeNode& node) {
@@ -41,9 +33,9 @@ class PurgeTest : public ::testing::Test, protected testing::MainWindow {
 };
 
 TEST_F(PurgeTest, OldDaysGoAtTheStartWithTheirEmptyMonthsAndYears) {
-  File("2025/March/05", "a.odt", "2025-03-05 10:00:00");
-  File("2026/October/21", "a.odt", "2026-10-21 10:00:00");
-  File("2026/October/22", "a.odt", "2026-10-22 10:00:00");
+  File("2025/March/05", "Z:\\home\\a.odt", "2025-03-05 10:00:00");
+  File("2026/October/21", "Z:\\home\\a.odt", "2026-10-21 10:00:00");
+  File("2026/October/22", "Z:\\home\\a.odt", "2026-10-22 10:00:00");
   Load();
   EXPECT_THAT(TextsOf(window.tvwMain), ElementsAre("Daily", " 2026", "  October", "   22"));
   EXPECT_FALSE(fs::exists(Daily("2025")));
@@ -51,7 +43,7 @@ TEST_F(PurgeTest, OldDaysGoAtTheStartWithTheirEmptyMonthsAndYears) {
 }
 
 TEST_F(PurgeTest, AnsweringNoAtTheStartKeepsOldDays) {
-  File("2025/March/05", "a.odt", "2025-03-05 10:00:00");
+  File("2025/March/05", "Z:\\home\\a.odt", "2025-03-05 10:00:00");
   desktop.windowing.answer = MessageAnswer::No;
   Load();
   EXPECT_TRUE(fs::exists(Daily("2025/March/05/a.odt.lnk")));
@@ -67,13 +59,13 @@ TEST_F(PurgeTest, EmptyFoldersAreSweptAtTheStartEvenWhenNothingIsOld) {
 
 TEST_F(PurgeTest, WithoutADataFileTheFavoritesAreCountedWithoutTheDaysPurged) {
   FileOnThreeDays();
-  File("2025/March/05", "a.odt", "2025-03-05 10:00:00");
+  File("2025/March/05", "Z:\\home\\a.odt", "2025-03-05 10:00:00");
   Load();
   EXPECT_THAT(ColumnOf(window.lvwFavorites, 3), ElementsAre("    3"));
 }
 
 TEST_F(PurgeTest, APurgeAtTheStartLeavesTheCountsOfTheDataFile) {
-  File("2025/March/05", "a.odt", "2025-03-05 10:00:00");
+  File("2025/March/05", "Z:\\home\\a.odt", "2025-03-05 10:00:00");
   desktop.folder.Write("program/Favorites.dat",
                        "7,#2026-11-18 10:00:00#,\"Z:\\x.lnk\",\"a.odt\",\"z:\\home\",\"Text\",\"\",0\r\n");
   Load();
@@ -167,7 +159,7 @@ TEST_F(PurgeTest, BeforeTheWindowHasLoadedAPurgeIsLoggedAndReported) {
 }
 
 TEST_F(PurgeTest, BeforeTheWindowHasLoadedTheFavoritesObjectIsMissing) {
-  File("2026/November/19", "a.odt", "2026-11-19 10:00:00");
+  File("2026/November/19", "Z:\\home\\a.odt", "2026-11-19 10:00:00");
   const controls::TreeNode node{Key("2026\\November\\19"), "19", 4, nullptr, 0, {}};
   EXPECT_ANY_THROW(window.PurgeDay(&node));
   EXPECT_THAT(desktop.LogLines("EventLog.txt"), Contains("2\tFMain.PurgeDay: Favorites object is nothing"));

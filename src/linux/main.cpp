@@ -2,10 +2,12 @@
 
 #include <QApplication>
 #include <QMessageBox>
+#include <QTimer>
 #include <cstdio>
 #include <cstdlib>
 #include <glib-unix.h>
 #include <optional>
+#include <utility>
 
 #include "base/Error.h"
 #include "linux/EventSink.h"
@@ -64,6 +66,13 @@ class SignalHandlers {
   std::vector<guint> m_sources;
 };
 
+/// Whoever asked for help when welcomed wants to read it, and not to see the main window come over it.
+void KeepHelpInFront(help::DesktopHelp& help, FMain& mainWindow) {
+  mainWindow.form.Activate.Connect([&help, isFirst = true]() mutable {
+    if (std::exchange(isFirst, false)) QTimer::singleShot(0, qApp, [&help] { help.BringToFront(); });
+  });
+}
+
 int Run() {
   const xdg::Environment environment = xdg::Environment::OfProcess();
   const ProgramFolders folders = FindProgramFolders(QCoreApplication::applicationFilePath().toStdString(), environment);
@@ -95,9 +104,8 @@ int Run() {
                   [&](FMain& mainWindow, Application& application) {
                     events.SetLog(&application.eventLog);
                     windows.Present(mainWindow);
+                    KeepHelpInFront(help, mainWindow);
                   }});
-  // Whoever asked for help when welcomed wants to read it before anything else.
-  help.BringToFront();
   const int result = !program.mainWindow ? kFailure : program.mainWindow->form.IsUnloaded() ? 0 : QApplication::exec();
   events.SetLog(nullptr);
   return result;

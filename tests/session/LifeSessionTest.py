@@ -4,11 +4,12 @@ import unittest
 
 from dayvane_program import WINDOW_TITLE
 from session_case import SessionTest
-from user import DAYS, DOCUMENTS, FAVORITES
-from waiting import stays
+from user import DAYS, DOCUMENTS, FAVORITES, SOON_SECONDS
+from waiting import stays, wait_until
 from week_case import FAVORITE_DOCUMENTS, WeekTest
 
 TICKS_SECONDS = 3  # three of the timer's ticks
+REST_SECONDS = 1  # windows that have just come change places sooner than that
 
 WELCOME = """Welcome to Dayvane.
 
@@ -54,6 +55,19 @@ class TheFirstRunOfACuriousUser(SessionTest):
 
     def test_shows_where_to_begin(self):
         self.wait_for(["Dayvane - Daily", "Getting started - Dayvane Help"], lambda: sorted(self.user.titles()))
+
+    def test_keeps_the_help_in_front_of_the_main_window(self):
+        self.desktop.window(WINDOW_TITLE)
+        wait_until(self.has_come_to_rest_on_the_help, SOON_SECONDS, "the keyboard in the help")
+
+    def has_come_to_rest_on_the_help(self):
+        def active():
+            return self.desktop.run(["xdotool", "getactivewindow", "getwindowname"], check=False).strip()
+        try:
+            stays(lambda: active() == "Getting started - Dayvane Help", REST_SECONDS, active)
+        except AssertionError:
+            return False
+        return True
 
 
 class CaptureThatIsSuspended(SessionTest):

@@ -45,7 +45,7 @@ class ADocumentOfTheDay(WeekTest):
     def test_that_is_gone_stays_in_the_record_after_no(self):
         self.lose("Moved.txt")
         self.answer("No")
-        self.assertIn("Moved.txt", self.user.names(DOCUMENTS))
+        self.wait_for(True, lambda: "Moved.txt" in self.user.names(DOCUMENTS))
         self.assertTrue(self.shortcut("Moved.txt").exists())
 
     def test_that_is_gone_is_removed_from_everywhere_after_yes(self):

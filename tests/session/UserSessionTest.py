@@ -27,7 +27,7 @@ class TheWeeksDays(WeekTest):
         expected = ["Daily"]
         for year, month, day in days:
             expected += [name for name in (year, month) if name not in expected] + [day]
-        self.assertEqual(self.user.names(DAYS), expected)
+        self.wait_for(expected, lambda: self.user.names(DAYS))
 
     def test_list_their_documents_when_clicked_in_the_tree(self):
         self.user.click_row(DAYS, self.day_name(1))

@@ -1,7 +1,7 @@
 """What a user does with Dayvane's windows, with the mouse, the keyboard and a screen reader, and what they see there."""
 
 from dayvane_program import WINDOW_TITLE
-from screen_reader import ABSENT, NotOnScreen, cells, walk
+from screen_reader import ABSENT, cells, walk
 from waiting import wait_until
 
 SOON_SECONDS = 15
@@ -31,10 +31,10 @@ class User:
         return self.reader.rows(widget)
 
     def names(self, widget):
-        """The first column of the rows; none while the widget is not on the screen."""
+        """The first column of the rows; none while the widget is not on the screen or is being filled anew."""
         try:
             return [row[0] for row in self.rows(widget)]
-        except NotOnScreen:
+        except ABSENT:
             return []
 
     def selected(self, widget):

@@ -6,7 +6,7 @@ class QObject;
 
 /// Events run in three situations: while the program waits for the user, in the middle of its work so that windows are
 /// painted, and while a box or dialog of its own asks the user something. What begins something new must not begin it
-/// in the second, and outside the dialog not in the third.
+/// in the second, and commands from outside the dialog not in the third. Capture goes on in the third.
 namespace dayvane {
 
 /// The program is in the middle of its work for as long as this lives.

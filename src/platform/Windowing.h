@@ -44,7 +44,8 @@ class Windowing {
   virtual void Beep() = 0;
 
   /// Lets windows be painted in the middle of long work; quick enough to be called for every item of it. What the user
-  /// does meanwhile waits until the work is done, and no timer of the program's ticks.
+  /// does meanwhile waits until the work is done, but for sending a splash window away; no timer of the program's
+  /// ticks.
   virtual void ProcessPendingMessages() = 0;
 
   /// Shows a form and returns when it is hidden again.

@@ -133,9 +133,10 @@ void Appearance::Read(const std::string& space, const std::string& key, GVariant
   if (space == kAppearance && key == kColorScheme && isNumber)
     SetDark(g_variant_get_uint32(value.get()) == kPreferDark);
   else if (space == kAppearance && key == kContrast && isNumber)
-    SetHighContrast(g_variant_get_uint32(value.get()) == kHigherContrast);
+    m_portalContrast = g_variant_get_uint32(value.get()) == kHigherContrast;
   else if (space == kGnomeInterface && key == kGnomeContrast && isFlag)
-    SetHighContrast(g_variant_get_boolean(value.get()) != FALSE);
+    m_gnomeContrast = g_variant_get_boolean(value.get()) != FALSE;
+  SetHighContrast(m_portalContrast || m_gnomeContrast);
 }
 
 }  // namespace dayvane::widgets

@@ -16,7 +16,7 @@ QPalette HighContrastPalette(bool dark);
 
 /// Lets the program's windows be dark, or of high contrast, when the user wants such windows, at once when that wish
 /// changes. The wish is the desktop portal's (org.freedesktop.portal.Settings); a desktop whose own Qt theme is dark is
-/// left alone.
+/// not darkened further.
 class Appearance {
  public:
   Appearance();
@@ -34,6 +34,8 @@ class Appearance {
   QString m_usualStyle;
   bool m_dark = false;
   bool m_highContrast = false;
+  bool m_portalContrast = false;  ///< either wish is enough
+  bool m_gnomeContrast = false;
   BusObject m_settings;
 };
 

@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <QScopedValueRollback>
 #include <QTextCharFormat>
+#include <QTimer>
 #include <array>
 #include <utility>
 
@@ -40,8 +41,9 @@ CalendarPresenter::CalendarPresenter(controls::Calendar& control, Qt::DayOfWeek 
     : QCalendarWidget(parent), m_control(control), m_link(control, *this, [this] { Show(); }) {
   setFirstDayOfWeek(firstDayOfWeek);
   setVerticalHeaderFormat(NoVerticalHeader);
-  connect(this, &QCalendarWidget::selectionChanged, this, [this] { Choose(selectedDate()); });
-  connect(this, &QCalendarWidget::clicked, this, [this](QDate date) { Choose(date); });
+  connect(this, &QCalendarWidget::selectionChanged, this, [this] { SelectionMoved(); });
+  for (const auto chosen : {&QCalendarWidget::clicked, &QCalendarWidget::activated})
+    connect(this, chosen, this, [this](QDate date) { ChooseAgain(date); });
   connect(this, &QCalendarWidget::currentPageChanged, this, [this](int year, int month) { ShowMonth(year, month); });
   NameParts();
   ShowWeekend();
@@ -104,8 +106,24 @@ void CalendarPresenter::ShowMonth(int year, int month) {
   Choose({year, month, std::min(selectedDate().day(), first.daysInMonth())});
 }
 
+void CalendarPresenter::SelectionMoved() {
+  if (m_showing) return;
+  // The click that moved the selection is told of right after it.
+  m_selectionMoved = true;
+  QTimer::singleShot(0, this, [this] { m_selectionMoved = false; });
+  Choose(selectedDate());
+}
+
+void CalendarPresenter::ChooseAgain(QDate date) {
+  // Another day may have been listed since, by the tree.
+  if (!m_showing && !m_selectionMoved) SetDate(date);
+}
+
 void CalendarPresenter::Choose(QDate date) {
-  if (m_showing || ToDay(date) == m_control.CurrentDate()) return;
+  if (!m_showing && ToDay(date) != m_control.CurrentDate()) SetDate(date);
+}
+
+void CalendarPresenter::SetDate(QDate date) {
   AfterWork(*this, [this, date] {
     m_control.SetCurrentDate(ToDay(date));
     Show();  // the program may have refused

@@ -26,9 +26,13 @@ class CalendarPresenter : public QCalendarWidget {
   void ShowHighlights();
   void ShowWeekend();
   void ShowMonth(int year, int month);
+  void SelectionMoved();
   void Choose(QDate date);
+  void ChooseAgain(QDate date);
+  void SetDate(QDate date);
 
   controls::Calendar& m_control;
+  bool m_selectionMoved = false;
   bool m_showing = false;  ///< what changes in the widget is not the user's doing
   ControlLink m_link;
 };

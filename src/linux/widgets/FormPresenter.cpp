@@ -7,6 +7,7 @@
 #include <QKeyEvent>
 #include <QWhatsThis>
 #include <QWidget>
+#include <utility>
 
 #include "linux/UsersTurn.h"
 #include "linux/widgets/ControlLink.h"
@@ -138,7 +139,11 @@ bool FormPresenter::Close(QEvent* event) {
 }
 
 bool FormPresenter::KeyDown(const QKeyEvent& event) {
-  if (event.key() == Qt::Key_F1 && event.modifiers() == Qt::ShiftModifier) return ExplainFocus();
+  m_takenKey = 0;
+  if (event.key() == Qt::Key_F1 && event.modifiers() == Qt::ShiftModifier) {
+    m_takenKey = event.key();
+    return ExplainFocus();
+  }
   return EscapeCloses(event);
 }
 
@@ -168,6 +173,7 @@ bool FormPresenter::ExplainFocus() {
 }
 
 void FormPresenter::KeyUp(const QKeyEvent& event) {
+  if (event.key() == std::exchange(m_takenKey, 0)) return;
   const int key = ClassicKeyCode(event.key());
   if (!event.isAutoRepeat() && key != 0) m_form.KeyUp.Raise(key, ClassicModifiers(event.modifiers()));
 }

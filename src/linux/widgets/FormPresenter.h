@@ -73,6 +73,7 @@ class FormPresenter : public QObject {
   controls::WindowState m_shownState = controls::WindowState::Normal;
   bool m_showsHourglass = false;
   bool m_wasShown = false;
+  int m_takenKey = 0;  ///< whose release says nothing, because its press was answered
   std::vector<controls::Connection> m_connections;
 };
 

@@ -4,6 +4,7 @@
 #include <QCursor>
 #include <QDeadlineTimer>
 #include <QMessageBox>
+#include <QPointer>
 #include <QWindow>
 #include <algorithm>
 #include <glib.h>
@@ -37,10 +38,11 @@ class ArrowPointer {
 };
 
 /// A window that was just shown is on the screen only when the window manager has put it there.
-void WaitUntilPainted(const QWidget& window) {
+void WaitUntilPainted(QWidget& shown) {
   const QDeadlineTimer late(kLongestWaitMilliseconds);
+  const QPointer<QWidget> window(&shown);  // the user may send it away meanwhile
   do QCoreApplication::processEvents(QEventLoop::AllEvents, kBetweenPaintsMilliseconds);
-  while (!window.windowHandle()->isExposed() && !late.hasExpired());
+  while (window && window->isVisible() && !window->windowHandle()->isExposed() && !late.hasExpired());
   QCoreApplication::processEvents();
 }
 
@@ -111,7 +113,7 @@ void LinuxWindowing::Beep() {
 void LinuxWindowing::ProcessPendingMessages() {
   if (m_sinceEvents.isValid() && m_sinceEvents.elapsed() < kBetweenPaintsMilliseconds) return;
   const WorkScope work;
-  if (const QWidget* splash = ShownSplash(); splash != nullptr && !m_sinceEvents.isValid())
+  if (QWidget* splash = ShownSplash(); splash != nullptr && !m_sinceEvents.isValid())
     WaitUntilPainted(*splash);
   else
     QCoreApplication::processEvents(splash != nullptr ? QEventLoop::AllEvents : QEventLoop::ExcludeUserInputEvents);
@@ -120,7 +122,8 @@ void LinuxWindowing::ProcessPendingMessages() {
 
 QWidget* LinuxWindowing::OwnerOfBox() const {
   QWidget* active = QApplication::activeWindow();
-  return active != nullptr ? active : ShownSplash();
+  // A splash that was sent away may still be the active one, and be gone before the box is answered.
+  return active != nullptr && active->isVisible() ? active : ShownSplash();
 }
 
 QWidget* LinuxWindowing::ShownSplash() const {

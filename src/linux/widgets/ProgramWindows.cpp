@@ -1,6 +1,6 @@
 #include "linux/widgets/ProgramWindows.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QTimer>
 
 #include "settings/FOptions.h"
@@ -28,6 +28,7 @@ void ProgramWindows::Present(FSplash& splash) {
 void ProgramWindows::Present(FMain& mainWindow) {
   Open(m_main, mainWindow, m_icons, m_dates);
   m_tray.emplace(mainWindow.tryMain, mainWindow.mnuSysTrayPopup, mainWindow.form, m_trayWatch);
+  if (m_sessionEnds) QTimer::singleShot(0, &m_context, [this] { EndSession(); });
   mainWindow.OptionsLoaded.Connect([this](FOptions& options) { Present(options); });
   // Not quit(): that asks every window first, and one that only hides when it is closed would refuse.
   mainWindow.form.Unloaded.Connect([] { QCoreApplication::exit(0); });
@@ -39,7 +40,9 @@ void ProgramWindows::Present(FOptions& options) {
 }
 
 void ProgramWindows::EndSession() {
-  if (m_main) m_main->Presenter().EndSession();
+  if (m_main) return m_main->Presenter().EndSession();
+  m_sessionEnds = true;
+  if (QWidget* asking = QApplication::activeModalWidget()) asking->close();
 }
 
 template <class Window, class... Arguments>

@@ -31,7 +31,8 @@ class ProgramWindows {
   void Present(FSplash& splash);
   void Present(FMain& mainWindow);
 
-  /// The user's session ends.
+  /// The user's session ends. Before there is a main window what is still asked is closed; the window goes as soon as
+  /// it has loaded.
   void EndSession();
 
  private:
@@ -49,6 +50,7 @@ class ProgramWindows {
   TopicHelp m_topicHelp;
   Icons m_icons;
   DesktopTrayWatch m_trayWatch;
+  bool m_sessionEnds = false;
   std::optional<SplashWindow> m_splash;
   std::optional<MainWindow> m_main;
   std::optional<OptionsWindow> m_options;

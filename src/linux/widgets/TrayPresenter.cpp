@@ -41,7 +41,10 @@ void TrayPresenter::Activate(QSystemTrayIcon::ActivationReason reason) {
     asking->activateWindow();
     return;
   }
-  AfterWork(m_menu, [this, button] { m_control.MouseUp.Raise(button, kId); });
+  // A window that has come or gone meanwhile is what the click asked for.
+  AfterWork(m_menu, [this, button, wasVisible = m_form.Visible()] {
+    if (m_form.Visible() == wasVisible) m_control.MouseUp.Raise(button, kId);
+  });
 }
 
 void TrayPresenter::Show() {

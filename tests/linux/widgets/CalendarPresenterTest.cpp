@@ -54,6 +54,27 @@ TEST_F(CalendarPresenterTest, ADayThatTheUserChoosesIsTheCurrentDate) {
   EXPECT_THAT(m_changes, ElementsAre(Day(2026, 5, 21)));
 }
 
+TEST_F(CalendarPresenterTest, TheCurrentDayCanBeChosenAgain) {
+  CalendarPresenter presenter(m_control, Qt::Monday);
+  presenter.show();
+  auto* days = presenter.findChild<QAbstractItemView*>();
+
+  QTest::mouseClick(days->viewport(), Qt::LeftButton, {}, days->visualRect(days->currentIndex()).center());
+
+  EXPECT_THAT(m_changes, ElementsAre(Day(2026, 5, 20)));
+}
+
+TEST_F(CalendarPresenterTest, AClickOnAnotherDayIsOneChange) {
+  CalendarPresenter presenter(m_control, Qt::Monday);
+  presenter.show();
+  auto* days = presenter.findChild<QAbstractItemView*>();
+  const QModelIndex next = days->currentIndex().siblingAtColumn(days->currentIndex().column() + 1);
+
+  QTest::mouseClick(days->viewport(), Qt::LeftButton, {}, days->visualRect(next).center());
+
+  EXPECT_THAT(m_changes, ElementsAre(Day(2026, 5, 21)));
+}
+
 TEST_F(CalendarPresenterTest, TheArrowKeysMoveByDays) {
   CalendarPresenter presenter(m_control, Qt::Monday);
   presenter.show();

@@ -213,5 +213,22 @@ TEST_F(LinuxWindowingTest, AnItemOfAPopupMenuIsChosen) {
   EXPECT_THAT(chosen, ElementsAre(1));
 }
 
+TEST_F(LinuxWindowingTest, ASplashMayGoWhileItIsWaitedFor) {
+  auto splash = std::make_unique<QWidget>(nullptr, Qt::SplashScreen);
+  controls::Form form;
+  auto presenter = std::make_unique<FormPresenter>(form, *splash, *splash);
+  m_windowing.Register(*presenter);
+  form.SetVisible(true);
+  QTimer::singleShot(0, qApp, [&] {
+    m_windowing.Forget(*presenter);
+    presenter.reset();
+    splash.reset();
+  });
+
+  m_windowing.ProcessPendingMessages();
+
+  EXPECT_EQ(splash, nullptr);
+}
+
 }  // namespace
 }  // namespace dayvane::widgets

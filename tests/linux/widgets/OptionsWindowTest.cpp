@@ -200,6 +200,16 @@ TEST_F(OptionsWindowTest, ShiftF1ExplainsTheFieldWithTheKeyboard) {
   QTest::keyClick(&Interval(), Qt::Key_F1, Qt::ShiftModifier);
 
   EXPECT_THAT(topics, ElementsAre(6));
+  EXPECT_THAT(m_desktop.help.shown, IsEmpty());
+}
+
+TEST_F(OptionsWindowTest, ShiftF1OnAButtonAsksForAClickAndOpensNoHelpWindow) {
+  Find<QPushButton>(QStringLiteral("OK")).setFocus();
+  QTest::keyClick(&Find<QPushButton>(QStringLiteral("OK")), Qt::Key_F1, Qt::ShiftModifier);
+
+  EXPECT_TRUE(QWhatsThis::inWhatsThisMode());
+  EXPECT_THAT(m_desktop.help.shown, IsEmpty());
+  QWhatsThis::leaveWhatsThisMode();
 }
 
 TEST_F(OptionsWindowTest, ALabelIsExplainedLikeItsField) {

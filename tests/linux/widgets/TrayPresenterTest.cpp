@@ -70,6 +70,18 @@ TEST_F(TrayPresenterTest, AClickInTheMiddleOfWorkWaits) {
   EXPECT_TRUE(QTest::qWaitFor([this] { return m_buttons.size() == 1; }));
 }
 
+TEST_F(TrayPresenterTest, AClickForAWindowThatComesMeanwhileDoesNotHideItAgain) {
+  std::optional<WorkScope> work(std::in_place);
+  m_presenter.Activate(QSystemTrayIcon::Trigger);
+  m_form.SetVisible(true);
+  work.reset();
+  bool later = false;
+  AfterWork(m_presenter.Menu(), [&] { QTimer::singleShot(100, qApp, [&] { later = true; }); });
+
+  ASSERT_TRUE(QTest::qWaitFor([&] { return later; }));
+  EXPECT_THAT(m_buttons, IsEmpty());
+}
+
 TEST_F(TrayPresenterTest, AClickBringsAnOpenBoxToTheFrontInsteadOfTheWindow) {
   m_form.SetVisible(true);
   QWidget owner;

@@ -70,6 +70,31 @@ class TheFirstRunOfACuriousUser(SessionTest):
         return True
 
 
+class TheSessionsEndDuringTheWelcome(SessionTest):
+    @classmethod
+    def setUpClass(cls):
+        cls.arrange()
+        cls.dayvane.launch()
+        cls.wait_for_box()
+
+    def test_ends_the_program_well(self):
+        self.dayvane.stop()
+        self.assertIn("Window", self.dayvane.settings_file.read_text(encoding="utf-8"))
+
+
+class ASecondStart(SessionTest):
+    def test_tells_that_the_program_runs_and_ends_with_the_session(self):
+        second = self.desktop.start([self.dayvane.executable])
+        texts = wait_until(lambda: self.texts_of(second), SOON_SECONDS, "a message of the second start")
+        self.assertEqual(texts, ["Dayvane is already loaded."])
+        second.terminate()
+        second.wait(SOON_SECONDS)
+        self.assertIsNone(self.dayvane.process.poll())
+
+    def texts_of(self, process):
+        return [text for window in self.desktop.screen_reader(process).windows() for text in window["texts"]]
+
+
 class CaptureThatIsSuspended(SessionTest):
     @classmethod
     def setUpClass(cls):

@@ -2,7 +2,7 @@
 
 #include "app/IgnoreErrors.h"
 #include "app/ReportErrors.h"
-#include "base/Error.h"
+#include "base/Required.h"
 #include "base/Text.h"
 #include "capture/CShortcut.h"
 #include "capture/Filing.h"
@@ -54,7 +54,8 @@ void FMain::GetShortcuts() {
 void FMain::ProcessShortcut(CShortcut* shortcut) {
   Assert(shortcut != nullptr, ".ProcessShortcut: Shortcut is nothing");
   Assert(m_oFavorites != nullptr, ".ProcessShortcut: Favorites object is nothing");
-  if (shortcut == nullptr || m_oFavorites == nullptr) throw Error(kObjectNotSet, "Object variable not set");
+  Required(shortcut);
+  Required(m_oFavorites);
   const Date cutOff = m_application.Now().AddDays(-std::int64_t{m_purgeAge});
   const std::string destination = filing::DayFolder(m_repository.DailyPath(), *shortcut) + "\\" + shortcut->FileName();
   switch (filing::Decide(m_application.desktop.files, *shortcut, destination, cutOff)) {

@@ -1,6 +1,6 @@
 #include "views/CCalendar.h"
 
-#include "base/Error.h"
+#include "base/Required.h"
 #include "base/Text.h"
 #include "fs/Dir.h"
 
@@ -35,14 +35,14 @@ void CCalendar::SetCalendar(controls::Calendar* calendar) {
 
 Date CCalendar::Value() const {
   Assert(m_calendar != nullptr, ".Value: Calendar is Nothing");
-  if (m_calendar == nullptr) throw Error(kObjectNotSet, "Object variable not set");
+  Required(m_calendar);
   return ToDate(m_calendar->CurrentDate());
 }
 
 void CCalendar::SetValue(const Date& date) {
   Assert(!date.IsZero(), ".Value: Invalid date");
   Assert(m_calendar != nullptr, ".Value: Calendar is Nothing");
-  if (m_calendar == nullptr) throw Error(kObjectNotSet, "Object variable not set");
+  Required(m_calendar);
   m_calendar->SetCurrentDate(ToDay(date));
 }
 
@@ -51,7 +51,7 @@ void CCalendar::HighlightDays(const Date& date) {
   Assert(!date.IsZero(), ".Value: Invalid date");
   Assert(m_calendar != nullptr, ".HighlightDays: Calendar is Nothing");
   Assert(!text::Trim(DailyPath).empty(), ".HighlightDays: DailyPath is missing");
-  if (m_calendar == nullptr) throw Error(kObjectNotSet, "Object variable not set");
+  Required(m_calendar);
   for (int day = 1; day <= kLastDay; ++day) m_calendar->SetHighlight(day, false);
   auto& files = m_application.desktop.files;
   const auto& dates = m_application.desktop.dates;
@@ -65,7 +65,7 @@ void CCalendar::HighlightDays(const Date& date) {
 
 void CCalendar::Refresh() {
   Assert(m_calendar != nullptr, ".Refresh: Calendar is Nothing");
-  if (m_calendar == nullptr) throw Error(kObjectNotSet, "Object variable not set");
+  Required(m_calendar);
   m_calendar->Redraw();
 }
 

@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include "base/Error.h"
+#include "base/Required.h"
 #include "settings/SettingsStore.h"
 
 namespace dayvane {
@@ -33,8 +33,7 @@ void CDaily::SetControls(controls::TreeView* treeView, controls::ListView* listV
 
 controls::TreeView& CDaily::Tree(const std::string& procedure) const {
   Assert(m_treeView != nullptr, "." + procedure + ": TreeView is Nothing");
-  if (m_treeView == nullptr) throw Error(kObjectNotSet, "Object variable not set");
-  return *m_treeView;
+  return Required(m_treeView);
 }
 
 controls::TreeNode* CDaily::SelectedDay() const {

@@ -4,6 +4,7 @@
 
 #include "app/ReportErrors.h"
 #include "base/Error.h"
+#include "base/Required.h"
 #include "base/Text.h"
 #include "fs/Dir.h"
 #include "fs/DirectoryWalker.h"
@@ -35,7 +36,7 @@ Value OneMore(const Value& count) {
 
 void CFavorites::ProcessShortcut(const CShortcut* shortcut) {
   Assert(shortcut != nullptr, ".ProcessShortcut: Shortcut is Nothing");
-  if (shortcut == nullptr) throw Error(kObjectNotSet, "Object variable not set");
+  Required(shortcut);
   const auto found = Find(shortcut->TargetFile());
   if (found) {
     Record& record = m_table[*found];

@@ -48,6 +48,11 @@ class FileSystem {
   /// What lies at the path, or nothing when nothing does. A symbolic link is reported, not followed.
   virtual std::optional<FileStatus> Status(const std::string& path) = 0;
 
+  /// Where the symbolic link at the path leads, through all links that it leads to, whether or not anything lies at the
+  /// end; the path itself where there is no link. For the few files and folders that the user may have moved elsewhere
+  /// on purpose. An error when the links go round in a circle or end where the program has no path for.
+  virtual std::string Resolve(const std::string& path) = 0;
+
   /// Everything in the folder but "." and "..", in the order of the names' bytes. Empty when there is no such folder;
   /// an error when it cannot be read.
   virtual std::vector<DirectoryEntry> List(const std::string& folder) = 0;
@@ -67,6 +72,9 @@ class FileSystem {
 
   /// Fails when the folder exists.
   virtual void CreateFolder(const std::string& path) = 0;
+
+  /// Gives a file another name on the same disk. Fails when there is something of that name.
+  virtual void Rename(const std::string& path, const std::string& newPath) = 0;
 
   /// Deletes a file, or a symbolic link itself.
   virtual void Delete(const std::string& path) = 0;

@@ -2,9 +2,11 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstdio>
 #include <ctime>
 #include <dirent.h>
 #include <fcntl.h>
+#include <filesystem>
 #include <limits>
 #include <memory>
 #include <sys/stat.h>
@@ -178,6 +180,25 @@ std::optional<FileStatus> PosixFileSystem::Status(const std::string& path) {
   return FileStatus{KindOf(status.st_mode), static_cast<std::uint64_t>(status.st_size), MomentOf(status)};
 }
 
+std::string PosixFileSystem::Resolve(const std::string& path) {
+  namespace fs = std::filesystem;
+  constexpr int kMostLinks = 40;  // as many as the system itself follows
+  fs::path native = Native(path);
+  std::error_code error;
+  int links = 0;
+  for (fs::path target = fs::read_symlink(native, error); !error; target = fs::read_symlink(native, error)) {
+    if (++links > kMostLinks) throw Error(kPathFileAccess, "Too many levels of symbolic links", path);
+    const fs::path next = native.parent_path() / target;
+    native = next.has_filename() ? next : next.parent_path();
+  }
+  if (links == 0) return path;
+  // Only now: a ".." of a link counts from the folder that the link's own folder really is.
+  const fs::path folder = fs::weakly_canonical(native.parent_path(), error);
+  const auto resolved = FromNative(((error ? native.parent_path() : folder) / native.filename()).string());
+  if (!resolved) throw Error(kBadFileName, "A symbolic link leads to a name that cannot be used", path);
+  return *resolved;
+}
+
 namespace {
 
 std::vector<DirectoryEntry> ListAsStored(const std::string& folder) {
@@ -253,6 +274,21 @@ void PosixFileSystem::Append(const std::string& path, std::string_view text) {
 
 void PosixFileSystem::CreateFolder(const std::string& path) {
   if (mkdir(Native(path).c_str(), 0777) != 0) Fail(path);
+}
+
+void PosixFileSystem::Rename(const std::string& path, const std::string& newPath) {
+  const std::string from = Native(path);
+  const std::string to = Native(newPath);
+  if (renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0) return;
+  if (errno == EINVAL) {
+    // Some file systems cannot be asked not to replace.
+    struct stat status {};
+    if (lstat(to.c_str(), &status) == 0)
+      errno = EEXIST;
+    else if (rename(from.c_str(), to.c_str()) == 0)
+      return;
+  }
+  Fail(errno == EEXIST ? newPath : path);
 }
 
 void PosixFileSystem::Delete(const std::string& path) {

@@ -15,12 +15,14 @@ class PosixFileSystem : public platform::FileSystem {
   static constexpr const char* kUnfinishedName = ".dayvane-unfinished";
 
   std::optional<platform::FileStatus> Status(const std::string& path) override;
+  std::string Resolve(const std::string& path) override;
   std::vector<platform::DirectoryEntry> List(const std::string& folder) override;
   platform::FileContents Read(const std::string& path, std::size_t limit) override;
   void Replace(const std::string& path, std::string_view bytes) override;
   void Copy(const std::string& source, const std::string& destination) override;
   void Append(const std::string& path, std::string_view text) override;
   void CreateFolder(const std::string& path) override;
+  void Rename(const std::string& path, const std::string& newPath) override;
   void Delete(const std::string& path) override;
   void RemoveFolder(const std::string& path) override;
 };

@@ -323,5 +323,54 @@ TEST(LocalTime, TimesBeyondTheCalendarAreMovedToItsEnds) {
   EXPECT_NEAR(year(INT64_MAX), 9999, 1);
 }
 
+TEST_F(PosixFileSystemTest, APathThatIsNoLinkResolvesToItself) {
+  m_folder.Write("a.dat", "text");
+  EXPECT_EQ(m_files.Resolve(Path("a.dat")), Path("a.dat"));
+  EXPECT_EQ(m_files.Resolve(Path("missing")), Path("missing"));
+}
+
+TEST_F(PosixFileSystemTest, ALinkResolvesToTheEndOfItsChain) {
+  m_folder.Write("disk/Daily/a.lnk", "text");
+  fs::create_directory_symlink("disk/../disk/Daily/", m_folder / "near");
+  fs::create_directory_symlink(m_folder / "near", m_folder / "far");
+  EXPECT_EQ(m_files.Resolve(Path("far")), Path("disk\\Daily"));
+}
+
+TEST_F(PosixFileSystemTest, ALinkToNothingYetResolvesToWhereItWillBe) {
+  fs::create_directory(m_folder / "disk");
+  fs::create_symlink("disk/Favorites.dat", m_folder / "Favorites.dat");
+  EXPECT_EQ(m_files.Resolve(Path("Favorites.dat")), Path("disk\\Favorites.dat"));
+}
+
+TEST_F(PosixFileSystemTest, LinksThatGoRoundInACircleAreAnError) {
+  fs::create_symlink("b", m_folder / "a");
+  fs::create_symlink("a", m_folder / "b");
+  EXPECT_EQ(ErrorOf(Path("a"), [&] { m_files.Resolve(Path("a")); }), kPathFileAccess);
+}
+
+TEST_F(PosixFileSystemTest, ALinkToANameWithoutAFormIsAnError) {
+  fs::create_symlink("a\xFF", m_folder / "a");
+  EXPECT_EQ(ErrorOf(Path("a"), [&] { m_files.Resolve(Path("a")); }), kBadFileName);
+}
+
+TEST_F(PosixFileSystemTest, ARenamedFileHasItsNewNameAlone) {
+  m_folder.Write("a.dat", "text");
+  m_files.Rename(Path("a.dat"), Path("b.dat"));
+  EXPECT_THAT(Names(), ElementsAre("b.dat"));
+  EXPECT_EQ(ReadFile(m_folder / "b.dat"), "text");
+}
+
+TEST_F(PosixFileSystemTest, RenamingNeverReplacesWhatIsThere) {
+  m_folder.Write("a.dat", "new");
+  m_folder.Write("b.dat", "old");
+  EXPECT_EQ(ErrorOf(Path("b.dat"), [&] { m_files.Rename(Path("a.dat"), Path("b.dat")); }), kFileAlreadyExists);
+  EXPECT_EQ(ReadFile(m_folder / "b.dat"), "old");
+  EXPECT_EQ(ReadFile(m_folder / "a.dat"), "new");
+}
+
+TEST_F(PosixFileSystemTest, RenamingWhatIsNotThereIsAnErrorAboutIt) {
+  EXPECT_EQ(ErrorOf(Path("a.dat"), [&] { m_files.Rename(Path("a.dat"), Path("b.dat")); }), kFileNotFound);
+}
+
 }  // namespace
 }  // namespace dayvane::files

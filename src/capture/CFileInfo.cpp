@@ -23,6 +23,13 @@ bool IsDriveRoot(const std::string& path) {
   return path.size() >= 2 && path[1] == ':' && path.size() <= 3;
 }
 
+/// What is not found has none, and not those of the item before: the shell then answers from the extension alone, and a
+/// shortcut that was removed still has its icon.
+std::uint32_t AttributesOf(const std::optional<platform::FileStatus>& found) {
+  if (!found) return 0;
+  return found->kind == platform::EntryKind::Folder ? kDirectoryAttribute : kArchiveAttribute;
+}
+
 }  // namespace
 
 void CFileInfo::SetItem(std::uint64_t number) {
@@ -40,10 +47,7 @@ void CFileInfo::SetItem(const std::string& path) {
     m_attributeFlag = 0;
   } else {
     const std::string searched = path.ends_with('\\') ? path.substr(0, path.size() - 1) : path;
-    const auto found = m_application.desktop.files.Status(searched);
-    // A file that is not found keeps the attributes that were there: the shell then answers from its extension alone,
-    // and a shortcut that was removed still has an icon.
-    if (found) m_attributes = found->kind == platform::EntryKind::Folder ? kDirectoryAttribute : kArchiveAttribute;
+    m_attributes = AttributesOf(m_application.desktop.files.Status(searched));
     m_attributeFlag = kUseAttributes;
   }
   if (m_application.desktop.icons.FileInfo(path, m_attributes, kDisplayAndTypeName | m_attributeFlag)) m_item = path;

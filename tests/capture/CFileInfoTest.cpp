@@ -75,6 +75,12 @@ TEST_F(CFileInfoTest, AShortcutThatWasRemovedStillHasAnIcon) {
   EXPECT_EQ(NameOf(fileInfo.SmallIcon()), "gone.lnk");
 }
 
+TEST_F(CFileInfoTest, AShortcutThatWasRemovedDoesNotTakeTheAttributesOfTheItemBefore) {
+  fileInfo.SetItem(Path("program"));
+  EXPECT_THAT(Asked([&] { fileInfo.SetItem(Path("gone.lnk")); }), ElementsAre(Path("gone.lnk") + "|0|610"));
+  EXPECT_THAT(Asked([&] { fileInfo.SmallIcon(); }), ElementsAre(Path("gone.lnk") + "|0|111"));
+}
+
 TEST_F(CFileInfoTest, ASmallNumberIsASpecialFoldersAndItsIdentifierIsUsed) {
   EXPECT_THAT(Asked([&] { fileInfo.SetItem(std::uint64_t{8}); }), ElementsAre("1008|0|608"));
   EXPECT_THAT(Asked([&] { fileInfo.SmallIcon(); }), ElementsAre("1008|0|109"));

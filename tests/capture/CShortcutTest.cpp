@@ -91,6 +91,24 @@ TEST_F(CShortcutTest, AnUnknownExtensionKeepsWhatTheShortcutGave) {
   EXPECT_EQ(shortcut.IconFile(), "own.dll");
 }
 
+TEST_F(CShortcutTest, AClassThatIsNotDescribedGivesNeitherIconNorProgram) {
+  desktop.folder.Write("bin/writer", "");
+  desktop.registry.AddClass(".ODT", "", "writer.dll,12", desktop.folder.Path() + "\\bin\\writer %1");
+  Read({"Z:\\a.odt", "", "", "own.dll", 4, 1});
+  shortcut.CreateExecutableShortcut();
+  EXPECT_EQ(shortcut.TargetClass(), "");
+  EXPECT_EQ(shortcut.IconFile(), "own.dll");
+  EXPECT_EQ(shortcut.IconIndex(), 4);
+  EXPECT_FALSE(std::filesystem::exists(desktop.NativeFolder() + "/Writer.lnk"));
+}
+
+TEST_F(CShortcutTest, AnExtensionThatNamesNoClassIsNotDescribedByAKeyWithoutAName) {
+  desktop.registry.keys["\\HKEY_CLASSES_ROOT\\.ODT"];
+  desktop.registry.keys["\\HKEY_CLASSES_ROOT\\"][""] = "never asked";
+  ReadTarget("Z:\\a.odt");
+  EXPECT_EQ(shortcut.TargetClass(), "");
+}
+
 TEST_F(CShortcutTest, AnotherFileForgetsTheClassOfTheOneBefore) {
   desktop.registry.AddClass(".ODT", "OpenDocument Text");
   ReadTarget("Z:\\a.odt");
@@ -114,6 +132,22 @@ TEST_F(CShortcutTest, ASecondShortcutPointsAtTheProgramThatOpensTheDocument) {
 TEST_F(CShortcutTest, AProgramWithoutQuotesIsFoundToo) {
   desktop.folder.Write("bin/writer", "");
   desktop.registry.AddClass(".ODT", "Text", "", desktop.folder.Path() + "\\bin\\writer %1");
+  ReadTarget("Z:\\a.odt");
+  shortcut.CreateExecutableShortcut();
+  EXPECT_TRUE(std::filesystem::exists(desktop.NativeFolder() + "/Writer.lnk"));
+}
+
+TEST_F(CShortcutTest, QuotationMarksInsideAProgramsPathStay) {
+  desktop.folder.Write("bin/the \"best\" writer", "");
+  desktop.registry.AddClass(".ODT", "Text", "", desktop.folder.Path() + "\\bin\\the \"best\" writer %1");
+  ReadTarget("Z:\\a.odt");
+  shortcut.CreateExecutableShortcut();
+  EXPECT_TRUE(std::filesystem::exists(desktop.NativeFolder() + "/The \"best\" writer.lnk"));
+}
+
+TEST_F(CShortcutTest, AProgramWithoutAPlaceHolderForTheDocumentIsFoundToo) {
+  desktop.folder.Write("bin/writer", "");
+  desktop.registry.AddClass(".ODT", "Text", "", "\"" + desktop.folder.Path() + "\\bin\\writer\"");
   ReadTarget("Z:\\a.odt");
   shortcut.CreateExecutableShortcut();
   EXPECT_TRUE(std::filesystem::exists(desktop.NativeFolder() + "/Writer.lnk"));

@@ -72,6 +72,20 @@ TEST_F(DirectoryWalkerTest, ACancelOnTheFirstItemOfADeepTreeEndsTheWholeWalk) {
   EXPECT_EQ(found.size(), 1U);
 }
 
+TEST_F(DirectoryWalkerTest, ACancelInsideAFolderLeavesTheFoldersBesideItUnwalked) {
+  for (const char* name : {"a/a/1.lnk", "a/b/2.lnk", "b/3.lnk", "b/a/4.lnk"}) folder.Write(name, "");
+  cancelAfter = 1;
+  walker.WalkDirectoryTree(Root(), "*.lnk");
+  EXPECT_THAT(found, ElementsAre("\\a\\a\\1.lnk"));
+}
+
+TEST_F(DirectoryWalkerTest, ACancelAtAFolderLeavesWhatIsInAndBesideItUnwalked) {
+  for (const char* name : {"a/a/1.lnk", "a/b/2.lnk", "b/3.lnk"}) folder.Write(name, "");
+  cancelAfter = 2;
+  walker.WalkDirectoryTree(Root(), "*.*", kWalkReportFolders);
+  EXPECT_THAT(found, ElementsAre("\\a", "\\b"));
+}
+
 TEST_F(DirectoryWalkerTest, ACancelledWalkerCanWalkAgain) {
   folder.Write("1.lnk", "");
   folder.Write("2.lnk", "");

@@ -100,5 +100,26 @@ TEST_F(MainTest, AFailureToStartIsReportedWithItsSource) {
   EXPECT_EQ(program.mainWindow, nullptr);
 }
 
+TEST_F(MainTest, AFailureToStartIsLoggedAsMains) {
+  presentation.mainWindow = [](FMain&, Application&) { throw Error(kDeviceIoError, "No window"); };
+  const Program program = Start();
+  EXPECT_THAT(desktop.LogLines("ErrorLog.txt"),
+              ElementsAre("MDayvane.Main\t57\tNo window\tAn error occurred starting the program."));
+}
+
+TEST_F(MainTest, TheSplashOfAStartThatFailedIsGone) {
+  presentation.mainWindow = [](FMain&, Application&) { throw Error(kDeviceIoError, "No window"); };
+  const Program program = Start();
+  EXPECT_TRUE(program.splash->form.IsUnloaded());
+  EXPECT_FALSE(program.splash->form.Visible());
+}
+
+TEST_F(MainTest, TheSplashOfALoadThatFailedIsGoneToo) {
+  desktop.shell.refresh = [] { throw Error(kDeviceIoError, "No list"); };
+  const Program program = Start();
+  EXPECT_THAT(desktop.windowing.Texts(), Contains("An error occurred starting the program."));
+  EXPECT_TRUE(program.splash->form.IsUnloaded());
+}
+
 }  // namespace
 }  // namespace dayvane

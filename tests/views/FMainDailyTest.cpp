@@ -33,6 +33,13 @@ TEST_F(DailyViewTest, TheTreeShowsYearsMonthsAndDaysWithAPicturePerLevel) {
   EXPECT_EQ(Node("2026\\May\\05").image, 4);
 }
 
+TEST_F(DailyViewTest, YearsStandInTheirOrder) {
+  Load();
+  for (const char* year : {"2026", "1999", "2024", "2025"}) fs::create_directories(Daily(year));
+  window.RefreshDaily();
+  EXPECT_THAT(TextsOf(window.tvwMain), ElementsAre("Daily", " 1999", " 2024", " 2025", " 2026"));
+}
+
 TEST_F(DailyViewTest, MonthsStandInTheOrderOfTheCalendar) {
   Load();
   for (const char* month : {"March", "January", "December", "April"})

@@ -2,6 +2,7 @@
 
 #include "app/Date.h"
 #include "base/Error.h"
+#include "tests/support/Random.h"
 
 namespace dayvane {
 namespace {
@@ -15,6 +16,15 @@ platform::DateConventions German() {
   german.shortDate = "dd.mm.yy";
   return german;
 }
+
+/// Any moment of the years 1000 … 9999, whose four digits every short date can show.
+Date RandomDate(testing::Random& random) {
+  const unsigned month = 1 + random.UnsignedBelow(12);
+  return Date::Of(1000 + random.Below(9000), month, 1 + random.UnsignedBelow(month == 2 ? 28 : 30), random.Below(24),
+                  random.Below(60), random.Below(60));
+}
+
+constexpr int kRandomDates = 2000;
 
 TEST(Date, TheZeroDateIsNoDate) {
   EXPECT_TRUE(Date().IsZero());
@@ -83,6 +93,57 @@ TEST(Date, AWrittenShortDateIsSplitBackIntoItsParts) {
     EXPECT_EQ(parts.month, 11) << pattern;
     EXPECT_EQ(parts.day, 7) << pattern;
     EXPECT_EQ(parts.year, 2026) << pattern;
+  }
+}
+
+TEST(Date, AnyDayIsReadBackFromItsFoldersNamesInAnyLanguage) {
+  testing::Random random(1);
+  for (int i = 0; i < kRandomDates; ++i) {
+    const Date date = RandomDate(random);
+    for (const auto& dates : {kEnglish, German()})
+      EXPECT_EQ(ParseMonthFirst(Format(date, "mmmm/dd/yyyy", dates), dates), date.Midnight())
+          << Format(date, "yyyy-mm-dd", dates);
+  }
+}
+
+TEST(Date, AnyDayIsReadBackFromAnyShortDate) {
+  testing::Random random(2);
+  for (const char* pattern : {"m/d/yyyy", "dd.mm.yyyy", "yyyy-mm-dd", "d. mmmm yyyy", "yyyy. mm. dd.",
+                              "yyyy'y'm'm'd'd'", "d 'de' mmmm 'de' yyyy"}) {
+    platform::DateConventions dates = German();
+    dates.shortDate = pattern;
+    for (int i = 0; i < kRandomDates; ++i) {
+      const Date date = RandomDate(random);
+      const std::string text = Format(date, "Short Date", dates);
+      const DateParts parts = SplitShortDate(text, dates);
+      EXPECT_EQ(Date::Of(parts.year, static_cast<unsigned>(parts.month), static_cast<unsigned>(parts.day)),
+                date.Midnight())
+          << text;
+    }
+  }
+}
+
+TEST(Date, TheOrderOfTheTextsInTheFavoritesListIsTheOrderOfTheMinutes) {
+  testing::Random random(3);
+  const auto text = [](const Date& date) { return Format(date, "yyyy/mm/dd hh:mm", kEnglish); };
+  const auto minutes = [](const Date& date) { return (date.SecondsSinceDayZero() - date.Second()) / 60; };
+  Date before = RandomDate(random);
+  for (int i = 0; i < kRandomDates; ++i) {
+    const Date date = RandomDate(random);
+    EXPECT_EQ(text(before) < text(date), minutes(before) < minutes(date)) << text(before) << " and " << text(date);
+    before = date;
+  }
+}
+
+TEST(Date, ADayNumberOfDaysLaterAndThatManyEarlierIsTheSameMoment) {
+  testing::Random random(4);
+  for (int i = 0; i < kRandomDates; ++i) {
+    const Date date = RandomDate(random);
+    const std::int64_t days = random.Below(100000) - 50000;
+    const Date moved = date.AddDays(days);
+    EXPECT_EQ(moved.AddDays(-days), date);
+    EXPECT_EQ(moved.Hour() * 3600 + moved.Minute() * 60 + moved.Second(),
+              date.Hour() * 3600 + date.Minute() * 60 + date.Second());
   }
 }
 

@@ -1,9 +1,19 @@
 #include <gtest/gtest.h>
 
 #include "base/Text.h"
+#include "tests/support/Random.h"
 
 namespace dayvane::text {
 namespace {
+
+/// What a pattern means, told the slow way: "*" stands for nothing, or for one character and a "*" again.
+bool FitsSlowly(std::string_view name, std::string_view pattern) {
+  if (pattern.empty()) return name.empty();
+  if (pattern[0] == '*')
+    return FitsSlowly(name, pattern.substr(1)) || (!name.empty() && FitsSlowly(name.substr(1), pattern));
+  if (name.empty() || (pattern[0] != '?' && ToLower(pattern.substr(0, 1)) != ToLower(name.substr(0, 1)))) return false;
+  return FitsSlowly(name.substr(1), pattern.substr(1));
+}
 
 TEST(Text, TrimTakesBlanksFromBothEndsOnly) {
   EXPECT_EQ(Trim("  a b  "), "a b");
@@ -47,6 +57,22 @@ TEST(Text, APatternMatchesWithoutRegardToCase) {
   EXPECT_TRUE(MatchesPattern("Report.LNK", "*.lnk"));
   EXPECT_FALSE(MatchesPattern("Report.lnk.bak", "*.lnk"));
   EXPECT_TRUE(MatchesPattern("aab.lnk", "*ab.lnk"));
+}
+
+TEST(Text, APatternThatEndsBeforeTheNameOrAfterItDoesNotFit) {
+  EXPECT_FALSE(MatchesPattern("Report.lnk", "Report"));
+  EXPECT_FALSE(MatchesPattern("Report", "Report.lnk"));
+  EXPECT_TRUE(MatchesPattern("Report", "Report**"));
+}
+
+TEST(Text, PatternsFitWhatTheirStarsAndQuestionMarksMean) {
+  dayvane::testing::Random random(1998);
+  for (int i = 0; i < 20000; ++i) {
+    const std::string pattern = random.Text("abB.**?", 7);
+    const std::string name = random.Text("aAb.", 7);
+    if (pattern == "*.*") continue;
+    EXPECT_EQ(MatchesPattern(name, pattern), FitsSlowly(name, pattern)) << name << " and " << pattern;
+  }
 }
 
 TEST(Text, StarDotStarMatchesANameWithoutADot) {

@@ -1,7 +1,10 @@
+#include <algorithm>
 #include <gtest/gtest.h>
 
 #include "base/Error.h"
+#include "base/Text.h"
 #include "controls/ListView.h"
+#include "tests/support/Random.h"
 
 namespace dayvane::controls {
 namespace {
@@ -41,6 +44,27 @@ TEST_F(ListViewTest, EqualRowsKeepTheirOrderInBothDirections) {
   EXPECT_EQ(Names(), "first second ");
   list.SetSortOrder(SortOrder::Descending);
   EXPECT_EQ(Names(), "first second ");
+}
+
+TEST_F(ListViewTest, AnySortKeepsEqualRowsInTheOrderTheyHad) {
+  dayvane::testing::Random random(1998);
+  std::vector<std::pair<std::string, std::string>> rows;  // type and name
+  for (int i = 0; i < 500; ++i) {
+    rows.emplace_back(std::string(1, random.Of("aAbBc")), std::to_string(i));
+    Add(rows.back().second, rows.back().first);
+  }
+  list.SetSortKey(1);
+  for (const SortOrder order : {SortOrder::Descending, SortOrder::Ascending, SortOrder::Descending}) {
+    list.SetSortOrder(order);
+    list.SetSorted(true);
+    const int sign = order == SortOrder::Ascending ? 1 : -1;
+    std::stable_sort(rows.begin(), rows.end(), [&](const auto& a, const auto& b) {
+      return sign * text::CompareIgnoringCase(a.first, b.first) < 0;
+    });
+    std::string expected;
+    for (const auto& row : rows) expected += row.second + " ";
+    EXPECT_EQ(Names(), expected);
+  }
 }
 
 TEST_F(ListViewTest, ADescendingSortTurnsTheRowsAround) {

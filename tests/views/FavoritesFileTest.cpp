@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "base/Error.h"
+#include "tests/support/Random.h"
 #include "views/FavoritesFile.h"
 
 namespace dayvane::favorites {
@@ -10,6 +11,30 @@ std::vector<Value> All(std::string_view text) {
   std::vector<Value> values;
   for (ValueReader reader(text); !reader.AtEnd();) values.push_back(reader.Next());
   return values;
+}
+
+/// Any value that a table can hold: texts have no quotation mark, and a fraction is one.
+Value RandomValue(dayvane::testing::Random& random) {
+  const auto day = [&] { return Date::Of(100 + random.Below(9900), 1 + random.UnsignedBelow(12), 28); };
+  const auto time = [&](const Date& date) {
+    return Date::Of(date.Year(), date.Month(), date.Day(), random.Below(24), random.Below(60), random.Below(60));
+  };
+  switch (random.Below(7)) {
+    case 0:
+      return {};
+    case 1:
+      return (std::int64_t{random.Below(2000)} - 1000) * random.Below(1000000) * random.Below(1000000);
+    case 2:
+      return random.Below(1000000) - 500000 + 1.0 / (2 + random.Below(1000));
+    case 3:
+      return day();
+    case 4:
+      return time(Date());
+    case 5:
+      return time(day());
+    default:
+      return random.Text("aZ \\,#\r\n\t5\xC3\xA4", 12);
+  }
 }
 
 TEST(FavoritesFile, ARecordIsOneLineOfEightValues) {
@@ -43,6 +68,29 @@ TEST(FavoritesFile, WhatIsWrittenIsReadBackWithItsTypes) {
   std::string text;
   for (const Value& value : values) text += FormatValue(value) + ",";
   EXPECT_EQ(All(text), values);
+}
+
+TEST(FavoritesFile, AnyRecordsAreReadBackAsTheyWere) {
+  dayvane::testing::Random random(1998);
+  std::vector<Value> written;
+  std::string text;
+  for (int i = 0; i < 5000; ++i) {
+    Record record;
+    for (Value& value : record) written.push_back(value = RandomValue(random));
+    text += FormatRecord(record);
+  }
+  EXPECT_EQ(All(text), written);
+}
+
+TEST(FavoritesFile, AFileCutAtAnyByteIsReadToItsEndAndBeginsAsItDid) {
+  const std::string whole = FormatRecord({std::int64_t{3}, Date::Of(1998, 5, 12, 14, 3, 27), std::string("Z:\\a.lnk"),
+                                          std::string("a, b.odt"), std::string(), Value{}, 2.5, std::int64_t{-5}});
+  const std::vector<Value> values = All(whole);
+  for (std::size_t length = 0; length < whole.size(); ++length) {
+    const std::vector<Value> cut = All(std::string_view(whole).substr(0, length));
+    ASSERT_LE(cut.size(), values.size()) << length;
+    for (std::size_t i = 0; i + 1 < cut.size(); ++i) EXPECT_EQ(cut[i], values[i]) << length;
+  }
 }
 
 TEST(FavoritesFile, ALineBreakSeparatesValuesAsACommaDoes) {

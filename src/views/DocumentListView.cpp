@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "app/ReportErrors.h"
 #include "base/Required.h"
 
 namespace dayvane {
@@ -84,11 +85,13 @@ void DocumentListView::ArrangeIcons(int order) {
 }
 
 void DocumentListView::ListView_ColumnClick(std::size_t column) {
-  // Another column is sorted in the order last used, deliberately not set back to ascending.
-  if (column == m_sortColumn)
-    m_sortOrder = m_sortOrder == SortOrder::Ascending ? SortOrder::Descending : SortOrder::Ascending;
-  m_sortColumn = column;
-  SortByColumn(List("ListView_ColumnClick"), m_sortColumn, m_sortOrder);
+  ReportErrors(m_application, kChangingSortOrder, m_className, "ListView_ColumnClick", [&] {
+    // Another column is sorted in the order last used, deliberately not set back to ascending.
+    if (column == m_sortColumn)
+      m_sortOrder = m_sortOrder == SortOrder::Ascending ? SortOrder::Descending : SortOrder::Ascending;
+    m_sortColumn = column;
+    SortByColumn(List("ListView_ColumnClick"), m_sortColumn, m_sortOrder);
+  });
 }
 
 void DocumentListView::ListView_DblClick() {

@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "base/Error.h"
 #include "tests/support/TestDesktop.h"
 #include "views/CDaily.h"
 #include "views/CFavorites.h"
@@ -109,6 +110,14 @@ TEST_F(DocumentListViewTest, AMissingPaneIsLoggedUnderTheNameOfTheView) {
                                                             "2\tCFavorites.ListView_MouseUp: Container is Nothing",
                                                             "2\tCDaily.ListView_KeyUp: Container is Nothing",
                                                             "2\tCDaily.ListView_MouseUp: Container is Nothing"));
+}
+
+TEST_F(DocumentListViewTest, ASortThatFailsIsReportedUnderTheNameOfTheView) {
+  list.Changed.Connect([] { throw Error(kDeviceIoError, "No list"); });
+  list.ColumnClick.Raise(2);
+  EXPECT_THAT(desktop.windowing.Texts(), ElementsAre("An error occurred changing the document sort order."));
+  EXPECT_THAT(desktop.LogLines("ErrorLog.txt"), ElementsAre("CFavorites.ListView_ColumnClick\t57\tNo list\t"
+                                                            "An error occurred changing the document sort order."));
 }
 
 TEST_F(DocumentListViewTest, ControlsThatWereTakenAwayAreNotListenedTo) {

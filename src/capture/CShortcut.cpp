@@ -54,8 +54,9 @@ void CShortcut::ReadLinkFields() {
 void CShortcut::ReadTargetClass() {
   m_class = &m_classes.ClassOf(m_targetFileName);
   m_targetClass = m_class->description;
-  if (m_class->iconFile) m_iconFile = *m_class->iconFile;
-  if (m_class->iconIndex) m_iconIndex = *m_class->iconIndex;
+  if (!m_class->icon) return;
+  m_iconFile = m_class->icon->file;
+  m_iconIndex = m_class->icon->index;
 }
 
 void CShortcut::CreateExecutableShortcut() const {

@@ -52,18 +52,21 @@ DocumentClass DocumentClassReader::Read(const std::string& extension) const {
   const auto description = DefaultValue(*name);
   if (!description) return found;
   found.description = *description;
-  if (const auto icon = DefaultValue(*name + "\\DefaultIcon")) {
-    const auto comma = icon->find(',');
-    if (comma != std::string::npos) {
-      found.iconFile = icon->substr(0, comma);
-      found.iconIndex = text::ToInt32(icon->substr(comma + 1));
-    }
-  }
+  found.icon = ReadIcon(*name);
   if (const auto command = DefaultValue(*name + "\\shell\\open\\command")) {
     found.executable = ProgramOf(*command);
     found.executableFileName = Capitalised(SplitPath(found.executable).fileName);
   }
   return found;
+}
+
+std::optional<DocumentClass::Icon> DocumentClassReader::ReadIcon(const std::string& className) const {
+  const std::string value = DefaultValue(className + "\\DefaultIcon").value_or("");
+  const auto comma = value.find(',');
+  if (comma == std::string::npos) return std::nullopt;
+  const auto index = text::ToInt32(std::string_view(value).substr(comma + 1));
+  if (!index) return std::nullopt;
+  return DocumentClass::Icon{value.substr(0, comma), *index};
 }
 
 std::optional<std::string> DocumentClassReader::DefaultValue(const std::string& key) const {

@@ -11,9 +11,13 @@ namespace dayvane {
 
 /// What the file-type registry says of the documents of one extension. What it does not say is empty.
 struct DocumentClass {
+  struct Icon {
+    std::string file;
+    std::int32_t index = 0;  ///< within the file
+  };
+
   std::string description;
-  std::optional<std::string> iconFile;  ///< of the class's default icon
-  std::optional<std::int32_t> iconIndex;
+  std::optional<Icon> icon;        ///< the class's default icon
   std::string executable;          ///< path of the program that opens such documents
   std::string executableFileName;  ///< its name, the first letter upper case, the rest lower
 };
@@ -29,6 +33,7 @@ class DocumentClassReader {
 
  private:
   DocumentClass Read(const std::string& extension) const;
+  std::optional<DocumentClass::Icon> ReadIcon(const std::string& className) const;
   std::optional<std::string> DefaultValue(const std::string& key) const;
 
   platform::Registry& m_registry;

@@ -85,6 +85,31 @@ TEST_F(CShortcutTest, AnIconWithoutANumberKeepsTheShortcutsOwn) {
   EXPECT_EQ(shortcut.IconIndex(), 4);
 }
 
+TEST_F(CShortcutTest, AnIconWhoseNumberIsNoneKeepsTheShortcutsOwn) {
+  for (const char* icon : {"writer.dll,", "writer.dll,x", "writer, the best.dll,12"}) {
+    desktop.registry.AddClass(".ODT", "OpenDocument Text", icon);
+    testing::WriteShortcut(desktop.NativeFolder() + "/a.lnk", {"Z:\\a.odt", "", "", "own.dll", 4, 1},
+                           "2026-01-05 14:03:27");
+    CShortcut fresh(application);
+    fresh.SetFile(desktop.Folder() + "\\a.lnk");
+    EXPECT_EQ(fresh.TargetClass(), "OpenDocument Text");
+    EXPECT_EQ(fresh.IconFile(), "own.dll") << icon;
+    EXPECT_EQ(fresh.IconIndex(), 4) << icon;
+  }
+}
+
+TEST_F(CShortcutTest, AnIconsNumberMayBeBelowNothing) {
+  desktop.registry.AddClass(".ODT", "OpenDocument Text", "writer.dll,-12");
+  ReadTarget("Z:\\a.odt");
+  EXPECT_EQ(shortcut.IconIndex(), -12);
+}
+
+TEST_F(CShortcutTest, TheExtensionIsWhatFollowsTheLastDot) {
+  desktop.registry.AddClass(".GZ", "Archive");
+  ReadTarget("Z:\\a.tar.gz");
+  EXPECT_EQ(shortcut.TargetClass(), "Archive");
+}
+
 TEST_F(CShortcutTest, AnUnknownExtensionKeepsWhatTheShortcutGave) {
   Read({"Z:\\a.zzq", "", "", "own.dll", 4, 1});
   EXPECT_EQ(shortcut.TargetClass(), "");
@@ -151,6 +176,22 @@ TEST_F(CShortcutTest, AProgramWithoutAPlaceHolderForTheDocumentIsFoundToo) {
   ReadTarget("Z:\\a.odt");
   shortcut.CreateExecutableShortcut();
   EXPECT_TRUE(std::filesystem::exists(desktop.NativeFolder() + "/Writer.lnk"));
+}
+
+TEST_F(CShortcutTest, TheFirstLetterOfAProgramsNameIsCapitalisedInAnyScript) {
+  desktop.folder.Write("bin/\u00e9DITEUR", "");
+  desktop.registry.AddClass(".ODT", "Text", "", desktop.folder.Path() + "\\bin\\\u00e9DITEUR %1");
+  ReadTarget("Z:\\a.odt");
+  shortcut.CreateExecutableShortcut();
+  EXPECT_TRUE(std::filesystem::exists(desktop.NativeFolder() + "/\u00c9diteur.lnk"));
+}
+
+TEST_F(CShortcutTest, ACommandThatIsTheDocumentAloneNamesNoProgram) {
+  desktop.registry.AddClass(".SH", "Script", "", "\"%1\" %*");
+  ReadTarget("Z:\\a.sh");
+  EXPECT_EQ(shortcut.TargetClass(), "Script");
+  shortcut.CreateExecutableShortcut();
+  EXPECT_FALSE(std::filesystem::exists(desktop.NativeFolder() + "/.lnk"));
 }
 
 TEST_F(CShortcutTest, AnEarlierShortcutToTheProgramIsReplaced) {

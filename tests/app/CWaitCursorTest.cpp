@@ -54,6 +54,23 @@ TEST_F(CWaitCursorTest, NestedGuardsGiveThePointerBackInReverseOrder) {
   EXPECT_EQ(form.Pointer(), MousePointer::Default);
 }
 
+TEST_F(CWaitCursorTest, TheWindowIsPaintedAtOnce) {
+  int painted = 0;
+  form.RefreshWanted.Connect([&] { ++painted; });
+  const CWaitCursor guard(application);
+  EXPECT_EQ(painted, 1);
+}
+
+TEST_F(CWaitCursorTest, WithoutAWindowTheStatusTextAloneChanges) {
+  application.activeForm = nullptr;
+  {
+    CWaitCursor guard(application);
+    guard.SetMessage(statusBar, "Please wait...");
+    EXPECT_EQ(statusBar.Text(), "Please wait...");
+  }
+  EXPECT_EQ(statusBar.Text(), "");
+}
+
 TEST_F(CWaitCursorTest, TheStatusBarIsPaintedAtOnce) {
   int painted = 0;
   statusBar.RefreshWanted.Connect([&] { ++painted; });

@@ -1,3 +1,4 @@
+#include <array>
 #include <gtest/gtest.h>
 
 #include "app/Date.h"
@@ -57,6 +58,8 @@ TEST(Date, ShortTimeFollowsTheUser) {
   american.shortTime = "h:nn AM/PM";
   EXPECT_EQ(Format(afternoon, "Short Time", american), "2:07 PM");
   EXPECT_EQ(Format(Date::Of(2026, 11, 5, 0, 7), "Short Time", american), "12:07 AM");
+  EXPECT_EQ(Format(Date::Of(2026, 11, 5, 11, 59), "Short Time", american), "11:59 AM");
+  EXPECT_EQ(Format(Date::Of(2026, 11, 5, 12, 0), "Short Time", american), "12:00 PM");
 }
 
 TEST(Date, MonthFirstTextsAreReadMonthFirstWhateverTheShortDate) {
@@ -72,6 +75,28 @@ TEST(Date, MonthAndYearAloneMeanTheFirstOfTheMonth) {
 TEST(Date, TextsThatAreNoDateFail) {
   for (const char* text : {"", "0/1/1998", "1/0/1998", "13/1/1998", "2/30/1998", "Foo/01/1998", "1998", "1/1/1/1998"})
     EXPECT_THROW(ParseMonthFirst(text, kEnglish), Error) << text;
+}
+
+TEST(Date, TimesAndYearsThatAreNoneFail) {
+  EXPECT_NO_THROW(Date::Of(100, 1, 1, 0, 0, 0));
+  EXPECT_NO_THROW(Date::Of(9999, 12, 31, 23, 59, 59));
+  EXPECT_THROW(Date::Of(99, 12, 31), Error);
+  EXPECT_THROW(Date::Of(10000, 1, 1), Error);
+  for (const auto& [hour, minute, second] :
+       {std::array{24, 0, 0}, {0, 60, 0}, {0, 0, 60}, {-1, 0, 0}, {0, -1, 0}, {0, 0, -1}})
+    EXPECT_THROW(Date::Of(2026, 11, 21, hour, minute, second), Error) << hour << ":" << minute << ":" << second;
+}
+
+TEST(Date, AYearOfTwoDigitsIsOneOf1930To2029) {
+  EXPECT_EQ(ParseMonthFirst("1/1/30", kEnglish).Year(), 1930);
+  EXPECT_EQ(ParseMonthFirst("1/1/99", kEnglish).Year(), 1999);
+  EXPECT_EQ(ParseMonthFirst("1/1/00", kEnglish).Year(), 2000);
+  EXPECT_EQ(ParseMonthFirst("1/1/29", kEnglish).Year(), 2029);
+  EXPECT_EQ(ParseMonthFirst("1/1/100", kEnglish).Year(), 100);
+}
+
+TEST(Date, AShortYearHasTwoDigits) {
+  EXPECT_EQ(Format(Date::Of(2005, 1, 1), "yy", kEnglish), "05");
 }
 
 TEST(Date, AShortDateIsSplitInTheUsersOrder) {

@@ -55,8 +55,14 @@ TEST_F(ShellServicesTest, ACreatedShortcutReadsBackWithANormalWindowAndNoArgumen
 
 TEST_F(ShellServicesTest, NumericFieldsLetDigitsAndBackspaceThrough) {
   for (const int key : {int{'0'}, int{'5'}, int{'9'}, 8}) EXPECT_TRUE(ShellServices::IsNumericKey(key)) << key;
-  for (const int key : {int{'a'}, int{'-'}, int{'.'}, int{' '}, 13})
+  for (const int key : {int{'a'}, int{'-'}, int{'.'}, int{' '}, int{'/'}, int{':'}, 13})
     EXPECT_FALSE(ShellServices::IsNumericKey(key)) << key;
+}
+
+TEST_F(ShellServicesTest, NumericFieldsLetSelectingCopyingPastingCuttingAndUndoingThrough) {
+  for (const char letter : {'A', 'C', 'V', 'X', 'Z'})
+    EXPECT_TRUE(ShellServices::IsNumericKey(letter - '@')) << "Ctrl+" << letter;
+  EXPECT_FALSE(ShellServices::IsNumericKey('B' - '@'));
 }
 
 TEST_F(ShellServicesTest, TheLargerOfTwoNumbers) {

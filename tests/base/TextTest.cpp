@@ -37,6 +37,7 @@ TEST(Text, ComparisonIgnoresCase) {
 
 TEST(Text, AnEndingIsFoundWhateverItsCase) {
   EXPECT_TRUE(EndsWithIgnoringCase("Report.odt.LNK", ".lnk"));
+  EXPECT_TRUE(EndsWithIgnoringCase(".Lnk", ".lnk"));
   EXPECT_FALSE(EndsWithIgnoringCase("lnk", ".lnk"));
 }
 
@@ -48,9 +49,28 @@ TEST(Text, ANumberThatDoesNotFitThirtyTwoBitsIsNone) {
   EXPECT_EQ(ToInt32(""), std::nullopt);
 }
 
+TEST(Text, ANumberMayHaveASignButNothingElseBesideItsDigits) {
+  EXPECT_EQ(ToInt32("+17"), 17);
+  for (const char* text : {"+", "-", "1 7", "0x11", "1.0"}) EXPECT_EQ(ToInt32(text), std::nullopt) << text;
+}
+
+TEST(Text, OnlyDigitsAreNumericAndThereMustBeSome) {
+  EXPECT_TRUE(IsNumeric("0123456789"));
+  for (const char* text : {"", "/", ":", "-1", "1 ", "x"}) EXPECT_FALSE(IsNumeric(text)) << text;
+}
+
+TEST(Text, ATextComesBeforeTheLongerOneThatBeginsWithIt) {
+  EXPECT_EQ(CompareIgnoringCase("Report", "report 2"), -1);
+  EXPECT_EQ(CompareIgnoringCase("report 2", "Report"), 1);
+  EXPECT_EQ(CompareIgnoringCase("\u00e4", "\u00c4"), 0);
+  EXPECT_EQ(CompareIgnoringCase("\u00e4b", "\u00c4a"), 1);
+}
+
 TEST(Text, PaddingAddsLeadingZeros) {
   EXPECT_EQ(Padded(7, 2), "07");
+  EXPECT_EQ(Padded(10, 2), "10");
   EXPECT_EQ(Padded(1998, 2), "1998");
+  EXPECT_EQ(Padded(-7, 4), "-007");
 }
 
 TEST(Text, APatternMatchesWithoutRegardToCase) {

@@ -24,6 +24,17 @@ TEST(Utf8, CodePointsOfEveryLengthAreWritten) {
   EXPECT_EQ(text, kEveryLength);
 }
 
+TEST(Utf8, EveryCodePointIsReadBackAsItIsWritten) {
+  for (char32_t codePoint = 0; codePoint <= 0x10FFFF; ++codePoint) {
+    std::string text;
+    Append(text, codePoint);
+    const CodePoint read = First(text);
+    const bool surrogate = codePoint >= 0xD800 && codePoint <= 0xDFFF;
+    ASSERT_EQ(read.length, surrogate ? 0 : text.size()) << static_cast<unsigned>(codePoint);
+    ASSERT_EQ(read.value, surrogate ? 0 : codePoint);
+  }
+}
+
 TEST(Utf8, StrayOverlongSurrogateAndTooLargeSequencesAreNone) {
   for (const char* bytes : {"\x80", "\xC0\xAF", "\xC3", "\xE0\x80\x80", "\xED\xA0\x80", "\xF0\x80\x80\x80",
                             "\xF4\x90\x80\x80", "\xF8\x88\x80\x80\x80", "\xFF"}) {

@@ -74,7 +74,7 @@ TEST(FavoritesFile, AnyRecordsAreReadBackAsTheyWere) {
   dayvane::testing::Random random(1998);
   std::vector<Value> written;
   std::string text;
-  for (int i = 0; i < 5000; ++i) {
+  for (int i = 0; i < 1000; ++i) {
     Record record;
     for (Value& value : record) written.push_back(value = RandomValue(random));
     text += FormatRecord(record);

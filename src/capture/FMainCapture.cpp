@@ -23,10 +23,13 @@ void FMain::PollRecentFolder() {
     const auto waitCursor = ShowWait();
     tmrMain.SetEnabled(false);
     tryMain.SetPicture(kBusyIcon);
-    m_justCounted.clear();
-    GetShortcuts();
-    // Saved now and not only at the end, so that a kill loses no more than one poll's counts.
-    if (!m_justCounted.empty()) m_oFavorites->Save();
+    try {
+      GetShortcuts();
+    } catch (const std::exception&) {
+      SaveCounts();  // What was filed before the failure is counted.
+      throw;
+    }
+    SaveCounts();
     if (m_documentsChanged) {
       RefreshDaily();
       RefreshCalendar();
@@ -36,6 +39,12 @@ void FMain::PollRecentFolder() {
     tryMain.SetPicture(kNormalIcon);
     tmrMain.SetEnabled(true);
   });
+  ShowSuspendOrResume(tmrMain.Enabled());
+}
+
+void FMain::SaveCounts() {
+  // Now and not only at the end: what is saved needs no recounting after a kill.
+  if (m_oFavorites->HasUnsavedCounts()) m_oFavorites->Save();
 }
 
 void FMain::GetShortcuts() {
@@ -63,9 +72,10 @@ void FMain::ProcessShortcut(CShortcut* shortcut) {
     case filing::Decision::Unchanged:
       return;
     case filing::Decision::FirstOfTheDay:
+      if (filing::IsFiledNearby(m_application.desktop.files, m_repository, *shortcut)) return;
+      m_oFavorites->WillCount(destination);
       File(*shortcut, destination);
       m_oFavorites->ProcessShortcut(shortcut);
-      m_justCounted.push_back(destination);
       break;
     case filing::Decision::Replace:
       File(*shortcut, destination);

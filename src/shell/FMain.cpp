@@ -106,7 +106,7 @@ void FMain::ConnectControls() {
 }
 
 void FMain::Form_Load(const std::function<void()>& splashDone) {
-  ReportErrors(m_application, kStartingTheProgram, kName, "Form_Load", [&] {
+  const bool isLoaded = ReportErrors(m_application, kStartingTheProgram, kName, "Form_Load", [&] {
     tryMain.SetPicture(kBusyIcon);
     tryMain.SetTipText(m_application.info.title);
     LoadResources();
@@ -115,20 +115,22 @@ void FMain::Form_Load(const std::function<void()>& splashDone) {
     ConnectViews();
     m_recentFolder = m_application.shellServices.SpecialFolderPath(platform::kRecentFolder);
     ReadOptions();
+    m_oFavorites->CountWhatWasCutOff();
     PurgeAtStart();
-    CaptureAtStart();
+    const bool hasCaptured = CaptureAtStart();
     RefreshDaily();
     LoadFavorites();
     RefreshFavorites();
     RestoreWindow();
     RestoreViews();
+    m_isRestored = true;
     RefreshStatusBar();
-    tryMain.SetPicture(kNormalIcon);
-    StartCapture();
+    StartCapture(hasCaptured);
     splashDone();
     m_application.desktop.windowing.ProcessPendingMessages();
     SetVisible(m_visibleAtStart);
   });
+  if (!isLoaded) ShowSuspendOrResume(tmrMain.Enabled());
 }
 
 void FMain::LoadResources() {
@@ -199,23 +201,16 @@ void FMain::ReadOptions() {
   m_timerInterval = options.TimerInterval();
 }
 
-void FMain::CaptureAtStart() {
-  m_justCounted.clear();
-  GetShortcuts();
+bool FMain::CaptureAtStart() {
+  // Reported apart, as the purge is: what cannot be filed must not keep what is filed from being shown and counted.
+  return ReportErrors(m_application, kCheckingForDocuments, kName, "CaptureAtStart", [this] { GetShortcuts(); });
 }
 
 void FMain::LoadFavorites() {
-  // What the first capture filed was counted into a table that loading the file now replaces: those documents are
-  // counted again, or opening one while the program does not run would never count.
-  if (m_oFavorites->Read()) {
-    for (const std::string& filed : m_justCounted) {
-      CShortcut shortcut(m_application);
-      shortcut.SetFile(filed);
-      m_oFavorites->ProcessShortcut(&shortcut);
-    }
-  }
-  if (!m_justCounted.empty()) m_oFavorites->Save();
-  m_justCounted.clear();
+  const bool isThere = m_oFavorites->Read();
+  // A file that cannot be read tells as little as one that is missing.
+  if (isThere && !m_oFavorites->IsWhole()) m_oFavorites->RebuildFavorites();
+  SaveCounts();
 }
 
 void FMain::SetTimerInterval() {
@@ -226,9 +221,13 @@ void FMain::SetTimerInterval() {
   tmrMain.SetInterval(static_cast<int>(std::clamp<std::int64_t>(milliseconds, 0, kLongest)));
 }
 
-void FMain::StartCapture() {
+void FMain::StartCapture(bool hasCaptured) {
   SetTimerInterval();
-  tmrMain.SetEnabled(true);
+  if (hasCaptured) {
+    tryMain.SetPicture(kNormalIcon);
+    tmrMain.SetEnabled(true);
+  }
+  ShowSuspendOrResume(hasCaptured);
 }
 
 std::unique_ptr<CWaitCursor> FMain::ShowWait() {

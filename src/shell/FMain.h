@@ -140,12 +140,13 @@ class FMain {
   void ReadOptions();
   void Welcome();
   void PurgeAtStart();
-  void CaptureAtStart();
+  bool CaptureAtStart();
   void LoadFavorites();
   void RestoreWindow();
   void RestoreViews();
   void SetTimerInterval();
-  void StartCapture();
+  void ChangeTimerInterval();
+  void StartCapture(bool hasCaptured);
 
   // Handlers.
   void Form_Activate();
@@ -179,6 +180,7 @@ class FMain {
   void SaveViews();
   void AddDocument(const std::string& nodeKey, const std::string& folder, const std::string& fileName);
   void File(CShortcut& shortcut, const std::string& destination);
+  void SaveCounts();
 
   std::unique_ptr<CWaitCursor> ShowWait();
   void Assert(bool condition, std::string_view message) const;
@@ -197,8 +199,9 @@ class FMain {
   bool m_visibleAtStart = true;
   std::string m_recentFolder;  ///< without a trailing "\"
   bool m_documentsChanged = false;
-  bool m_inTreeClick = false;              ///< the calendar is being moved because a day was clicked in the tree
-  std::vector<std::string> m_justCounted;  ///< filed shortcuts counted since the table was last saved
+  bool m_inTreeClick = false;  ///< the calendar is being moved because a day was clicked in the tree
+  bool m_isSuspended = false;  ///< by the user, not by a poll that failed
+  bool m_isRestored = false;   ///< window and views are as the settings say: before that they are not saved
 };
 
 }  // namespace dayvane

@@ -72,6 +72,7 @@ void FMain::mnuToolsPopup_Click(int index) {
     if (index == 2) return m_oDaily->Explore();
     if (index == 3) return m_oDaily->OpenFolder();
     m_oFavorites->RebuildFavorites();
+    m_oFavorites->Save();
     RefreshFavorites();
     RefreshStatusBar(std::move(waitCursor));
   });

@@ -76,11 +76,13 @@ void FMain::Form_Unload() {
     Assert(m_oDaily != nullptr, ".Form_Unload: Daily object is nothing");
     Assert(m_oFavorites != nullptr, ".Form_Unload: Favorites object is nothing");
     tmrMain.SetEnabled(false);
-    SaveWindow();
-    SaveViews();
-    m_oDaily->SaveSettings();
+    if (m_isRestored) {
+      SaveWindow();
+      SaveViews();
+      m_oDaily->SaveSettings();
+    }
     m_oFavorites->Save();
-    m_oFavorites->SaveSettings();
+    if (m_isRestored) m_oFavorites->SaveSettings();
   });
   m_oCalendar.reset();
   m_oDaily.reset();
@@ -127,13 +129,15 @@ void FMain::SetVisible(bool visible) {
 }
 
 void FMain::SetActive(bool active) {
+  m_isSuspended = !active;
   if (active) {
     PollRecentFolder();
   } else {
     tmrMain.SetEnabled(false);
     tryMain.SetPicture(kSuspendedIcon);
   }
-  ShowSuspendOrResume(active);
+  // Of a poll that failed the timer is off too, and resuming is the way on.
+  ShowSuspendOrResume(tmrMain.Enabled());
 }
 
 void FMain::ShowSuspendOrResume(bool active) const {
@@ -196,8 +200,16 @@ void FMain::SetOptions() {
       RefreshFavorites();
       RefreshStatusBar();
     }
-    if (m_timerInterval != interval) SetTimerInterval();
+    if (m_timerInterval != interval) ChangeTimerInterval();
   });
+}
+
+void FMain::ChangeTimerInterval() {
+  SetTimerInterval();
+  if (m_isSuspended) return;
+  // A failed poll had stopped it.
+  tmrMain.SetEnabled(true);
+  ShowSuspendOrResume(true);
 }
 
 void FMain::ArrangeIcons(int index) {

@@ -4,10 +4,12 @@
 #include <optional>
 #include <string>
 #include <unordered_map>
+#include <vector>
 
 #include "app/Application.h"
 #include "capture/CShortcut.h"
 #include "views/DocumentListView.h"
+#include "views/FavoritesJournal.h"
 #include "views/FavoritesTable.h"
 
 namespace dayvane {
@@ -33,16 +35,31 @@ class CFavorites : public DocumentListView {
   /// record's count is no number.
   void ProcessShortcut(const CShortcut* shortcut);
 
-  /// Loads the data file; without one the table is rebuilt from the repository. Returns whether there was a file.
-  /// A file that ends inside a record is an error that is reported: what was read is kept, and a copy of the file
-  /// stays beside it, because the next save writes over it.
+  /// Before the first capture of a start: counts what an earlier session filed and was cut off from counting, and saves
+  /// that, so that the data file is as if nothing had been cut off. Where that fails, Read does it.
+  void CountWhatWasCutOff();
+
+  /// A shortcut is filed next and counted after that: put on the disk first, so that a kill in between costs no count.
+  void WillCount(const std::string& shortcutFile);
+
+  /// Counted or about to be counted since the table was last saved.
+  bool HasUnsavedCounts() const { return !m_unsaved.empty(); }
+
+  /// Loads the data file, and counts what was filed since and is not counted in it; without a file the table is rebuilt
+  /// from the repository. Returns whether there was a file. A file that ends inside a record is an error that is
+  /// reported: what was read is kept, and a copy of the file stays beside it, because the next save writes over it. Of
+  /// a file that cannot be read at all, reported too, the table is empty.
   bool Read();
 
-  /// Writes the data file as a whole. An empty table leaves it as it is.
+  /// Writes the data file as a whole. An empty table leaves it as it is, and so does one that was neither loaded nor
+  /// rebuilt to its end: the file on the disk knows more. One that could not be read is moved aside first.
   void Save();
 
   /// Builds the table anew from the repository: every day folder that holds a document's shortcut counts one.
   void RebuildFavorites();
+
+  /// The table holds all that the data file or the repository told.
+  bool IsWhole() const { return m_isWhole; }
 
   // The list.
 
@@ -61,8 +78,15 @@ class CFavorites : public DocumentListView {
 
  private:
   std::string DataFile() const;
+  std::string NameForDamaged(const std::string& dataFile) const;
+  std::string VersionOnDisk() const;
+  favorites::FavoritesJournal Journal() const;
+  void ReadTable();
   void ReadRecords(const std::string& text);
-  void KeepDamagedFile(const std::string& text) const;
+  void KeepDamagedFile(const std::string& text);
+  void MoveUnreadableAside();
+  void CountUnsaved();
+  void Write();
   void ClearTable();
   std::optional<std::size_t> Find(const std::string& targetFile);
   void Append(const CShortcut& shortcut);
@@ -70,6 +94,11 @@ class CFavorites : public DocumentListView {
   void m_oDirectoryWalker_ItemFound(CShortcut& shortcut, const std::string& path, const std::string& fileName);
 
   favorites::Table m_table;
+  bool m_isWhole = false;
+  bool m_wasRead = false;              ///< before that nothing is saved: the file on the disk knows more
+  bool m_mustMoveAside = false;        ///< the data file is damaged, and no copy of it is kept yet
+  bool m_toldUnsaved = false;          ///< the event log knows that the table cannot be saved
+  std::vector<std::string> m_unsaved;  ///< filed shortcuts, as the journal has them
 
   /// Record by upper-cased identity, of the first m_indexed records: finds the first match without a scan.
   std::unordered_map<std::string, std::size_t> m_index;

@@ -85,6 +85,7 @@ void FMain::RemoveLink(const controls::ListItem* item) {
     if (lvwDaily.Find(key) != nullptr) m_oDaily->RemoveDocument(key);
     if (m_oFavorites->RemoveDocument(key)) {
       m_oFavorites->RebuildFavorites();
+      m_oFavorites->Save();  // or a kill would bring the link back
       RefreshFavorites();
     }
     if (!m_repository.PurgeEmptyFolders()) return;
@@ -100,6 +101,7 @@ void FMain::PurgeDay(const controls::TreeNode* node) {
   RefreshDaily();
   RefreshCalendar();
   m_oFavorites->RebuildFavorites();
+  m_oFavorites->Save();
   RefreshFavorites();
 }
 

@@ -2,7 +2,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "base/Error.h"
 #include "tests/support/FullDisk.h"
+#include "tests/support/LocalZone.h"
 #include "tests/support/MainWindow.h"
 #include "tests/support/Unprivileged.h"
 
@@ -234,6 +236,59 @@ TEST_F(CaptureTest, AFailedPollIsReportedAndLeavesTheTimerOffAndTheTrayBusy) {
   EXPECT_THAT(desktop.LogLines("ErrorLog.txt")[0], HasSubstr("FMain.PollRecentFolder\t"));
   EXPECT_FALSE(window.tmrMain.Enabled());
   EXPECT_EQ(window.tryMain.Picture(), 103);
+}
+
+TEST_F(CaptureTest, AfterAFailedPollResumeIsOfferedInBothMenus) {
+  Load();
+  desktop.shell.refresh = [] { throw Error(kDeviceIoError, "No list"); };
+  Tick();
+  EXPECT_FALSE(window.mnuFilePopup[0].Visible());
+  EXPECT_TRUE(window.mnuFilePopup[1].Visible());
+  EXPECT_FALSE(window.mnuSysTrayPopup[2].Visible());
+  EXPECT_TRUE(window.mnuSysTrayPopup[3].Visible());
+}
+
+TEST_F(CaptureTest, AResumedPollThatFailsStillOffersResume) {
+  Load();
+  window.SetActive(false);
+  desktop.shell.refresh = [] { throw Error(kDeviceIoError, "No list"); };
+  window.SetActive(true);
+  EXPECT_TRUE(window.mnuFilePopup[1].Visible());
+  desktop.shell.refresh = [] {};
+  window.SetActive(true);
+  EXPECT_FALSE(window.mnuFilePopup[1].Visible());
+  EXPECT_TRUE(window.mnuFilePopup[0].Visible());
+}
+
+TEST_F(CaptureTest, WhatAPollFiledBeforeItFailedIsCountedAndSaved) {
+  Load();
+  Open("2026-11-20 09:15:00", "Z:\\home\\ana\\a.odt");
+  Open("2026-11-21 09:15:00", "Z:\\home\\ana\\b.odt");
+  desktop.folder.Write("program/Daily/2026/November/21", "a file where the day's folder belongs");
+  Tick();
+  EXPECT_THAT(FavoritesText(), HasSubstr("1,#2026-11-20 09:15:00#"));
+  EXPECT_FALSE(fs::exists(desktop.NativeFolder() + "/Favorites.pending"));
+}
+
+TEST_F(CaptureTest, InAnotherTimeZoneNothingIsFiledOrCountedAgain) {
+  const testing::LocalZone home("Europe/Berlin");
+  Load();
+  Open("2026-11-20 23:30:00");
+  Tick();
+  const testing::LocalZone away("Pacific/Auckland");
+  Tick();
+  EXPECT_FALSE(fs::exists(Daily("2026/November/21")));
+  EXPECT_THAT(FavoritesText(), HasSubstr("1,#2026-11-20 23:30:00#"));
+}
+
+TEST_F(CaptureTest, AnOpeningOfTheNextDayIsAnotherOne) {
+  Load();
+  Open("2026-11-20 23:59:59");
+  Tick();
+  Open("2026-11-21 00:00:01");
+  Tick();
+  EXPECT_TRUE(fs::exists(Daily("2026/November/21/Report.odt.lnk")));
+  EXPECT_THAT(FavoritesText(), HasSubstr("2,#2026-11-21 00:00:01#"));
 }
 
 TEST_F(CaptureTest, AfterAFailedPollTicksDoNothingUntilCaptureIsResumed) {

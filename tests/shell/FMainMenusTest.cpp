@@ -132,11 +132,12 @@ TEST_F(MenusTest, ResumeFromTheTrayPollsAtOnceToo) {
   EXPECT_TRUE(window.tmrMain.Enabled());
 }
 
-TEST_F(MenusTest, AResumeWhosePollFailsStillCountsAsResumedInTheMenus) {
+TEST_F(MenusTest, AResumeWhosePollFailsCanBeChosenAgain) {
   window.mnuFilePopup.Choose(0);
   desktop.shell.refresh = [] { throw Error(kDeviceIoError, "No list"); };
   window.mnuFilePopup.Choose(1);
-  EXPECT_TRUE(window.mnuFilePopup[0].Visible());
+  EXPECT_TRUE(window.mnuFilePopup[1].Visible());
+  EXPECT_FALSE(window.mnuFilePopup[0].Visible());
   EXPECT_FALSE(window.tmrMain.Enabled());
   EXPECT_EQ(window.tryMain.Picture(), 103);
   EXPECT_THAT(desktop.windowing.Texts(), ElementsAre("An error occurred checking for new documents."));

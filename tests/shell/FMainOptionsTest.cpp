@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "base/Error.h"
 #include "settings/FOptions.h"
 #include "tests/support/MainWindow.h"
 
@@ -110,6 +111,17 @@ TEST_F(MainOptionsTest, WhileSuspendedANewIntervalDoesNotResumeCapture) {
   Change(2, "7");
   EXPECT_EQ(window.tmrMain.Interval(), 7000);
   EXPECT_FALSE(window.tmrMain.Enabled());
+}
+
+TEST_F(MainOptionsTest, AfterAFailedPollANewIntervalStartsCaptureAgain) {
+  desktop.shell.refresh = [] { throw Error(kDeviceIoError, "No list"); };
+  Tick();
+  Change(1, "60");
+  EXPECT_FALSE(window.tmrMain.Enabled()) << "the purge age has nothing to do with it";
+  Change(2, "7");
+  EXPECT_TRUE(window.tmrMain.Enabled());
+  EXPECT_TRUE(window.mnuFilePopup[0].Visible());
+  EXPECT_FALSE(window.mnuFilePopup[1].Visible());
 }
 
 TEST_F(MainOptionsTest, OptionsThatCannotBeStoredAreReported) {

@@ -196,15 +196,90 @@ TEST_F(StartTest, WithoutAFavoritesFileTheFavoritesAreCountedFromTheRepository) 
 }
 
 TEST_F(StartTest, AStartThatFailsIsReportedAndLeavesTheTrayBusyAndTheTimerOff) {
-  desktop.shell.refresh = [] { throw Error(kDeviceIoError, "No list"); };
+  desktop.shell.hasRecentFolder = false;
   bool splashGone = false;
   window.Form_Load([&] { splashGone = true; });
   EXPECT_THAT(desktop.windowing.Texts(), ElementsAre("An error occurred starting the program."));
   EXPECT_THAT(desktop.LogLines("ErrorLog.txt"),
-              ElementsAre("FMain.Form_Load\t57\tNo list\tAn error occurred starting the program."));
+              ElementsAre("FMain.Form_Load\t76\tNo such special folder\tAn error occurred starting the program."));
   EXPECT_EQ(window.tryMain.Picture(), 103);
   EXPECT_FALSE(window.tmrMain.Enabled());
   EXPECT_FALSE(splashGone);
+}
+
+TEST_F(StartTest, AStartThatFailsSavesNothingThatItNeverLoaded) {
+  const std::string data = "5,#2026-11-20 10:00:00#,\"Z:\\x.lnk\",\"a.odt\",\"z:\\home\\ana\",\"Text\",\"\",0\r\n";
+  desktop.folder.Write("program/Favorites.dat", data);
+  Load();
+  window.form.RequestUnload(controls::UnloadMode::SystemSession);
+  const auto settings = desktop.registry.keys;
+  desktop.shell.hasRecentFolder = false;
+  FMain next(application, repository);
+  next.Form_Load();
+  next.form.Move(1, 2, 3, 4);
+  next.PollRecentFolder();
+  next.form.RequestUnload(controls::UnloadMode::SystemSession);
+  EXPECT_EQ(testing::ReadFile(FavoritesFile()), data);
+  EXPECT_EQ(desktop.registry.keys, settings);
+}
+
+TEST_F(StartTest, ACaptureThatFailsIsReportedAndTheWindowShowsAllThatIsThere) {
+  File("2026/November/19", "Z:\\home\\ana\\a.odt", "2026-11-19 10:00:00");
+  File("2026/November/20", "Z:\\home\\ana\\a.odt", "2026-11-20 10:00:00");
+  desktop.shell.refresh = [] { throw Error(kDeviceIoError, "No list"); };
+  bool splashGone = false;
+  window.Form_Load([&] { splashGone = true; });
+  EXPECT_THAT(desktop.windowing.Texts(), ElementsAre("An error occurred checking for new documents."));
+  EXPECT_THAT(desktop.LogLines("ErrorLog.txt"),
+              ElementsAre("FMain.CaptureAtStart\t57\tNo list\tAn error occurred checking for new documents."));
+  EXPECT_TRUE(splashGone);
+  EXPECT_TRUE(window.form.Visible());
+  EXPECT_THAT(testing::TextsOf(window.tvwMain), ElementsAre("Daily", " 2026", "  November", "   19", "   20"));
+  EXPECT_THAT(testing::ColumnOf(window.lvwFavorites, 3), ElementsAre("    2"));
+}
+
+TEST_F(StartTest, AfterACaptureThatFailedTheTimerIsOffAndTheTrayBusyUntilItIsResumed) {
+  desktop.shell.refresh = [] { throw Error(kDeviceIoError, "No list"); };
+  Load();
+  EXPECT_EQ(window.tryMain.Picture(), 103);
+  EXPECT_FALSE(window.tmrMain.Enabled());
+  EXPECT_EQ(window.tmrMain.Interval(), 60000);
+  EXPECT_TRUE(window.mnuFilePopup[1].Visible()) << "Resume";
+  desktop.shell.refresh = [] {};
+  window.mnuFilePopup.Choose(1);
+  EXPECT_EQ(window.tryMain.Picture(), 102);
+  EXPECT_TRUE(window.tmrMain.Enabled());
+}
+
+TEST_F(StartTest, WhatACaptureFiledBeforeItFailedIsCountedAndSaved) {
+  desktop.folder.Write("program/Favorites.dat",
+                       "5,#2026-11-18 10:00:00#,\"Z:\\x.lnk\",\"a.odt\",\"z:\\home\\ana\",\"Text\",\"\",0\r\n");
+  desktop.OpenDocument("Z:\\home\\ana\\a.odt", "2026-11-20 09:15:00");
+  desktop.OpenDocument("Z:\\home\\ana\\b.odt", "2026-11-21 09:15:00");
+  desktop.folder.Write("program/Daily/2026/November/21", "a file where the day's folder belongs");
+  Load();
+  EXPECT_THAT(testing::ColumnOf(window.lvwFavorites, 3), ElementsAre("    6"));
+  EXPECT_THAT(testing::ReadFile(FavoritesFile()), StartsWith("6,#2026-11-20 09:15:00#"));
+}
+
+TEST_F(StartTest, ACountThatIsNoNumberDoesNotKeepTheProgramFromStarting) {
+  desktop.folder.Write("program/Favorites.dat",
+                       "\"many\",#2026-11-18 10:00:00#,\"Z:\\x.lnk\",\"a.odt\",\"z:\\home\\ana\",\"\",\"\",0\r\n");
+  desktop.OpenDocument("Z:\\home\\ana\\a.odt", "2026-11-20 09:15:00");
+  Load();
+  EXPECT_TRUE(window.form.Visible());
+  EXPECT_FALSE(fs::exists(desktop.NativeFolder() + "/Favorites.pending"));
+}
+
+TEST_F(StartTest, AFavoritesFileThatCannotBeReadIsCountedAnewFromTheRepository) {
+  File("2026/November/19", "Z:\\home\\ana\\a.odt", "2026-11-19 10:00:00");
+  File("2026/November/20", "Z:\\home\\ana\\a.odt", "2026-11-20 10:00:00");
+  desktop.folder.Write("program/Favorites.dat", "");
+  fs::resize_file(FavoritesFile(), (std::uintmax_t{512} << 20) + 1);
+  Load();
+  EXPECT_THAT(testing::ColumnOf(window.lvwFavorites, 3), ElementsAre("    2"));
+  EXPECT_THAT(desktop.windowing.Texts(), ElementsAre("An error occurred starting the program."));
+  EXPECT_EQ(fs::file_size(FavoritesFile()), (std::uintmax_t{512} << 20) + 1) << "it stays until something is saved";
 }
 
 TEST_F(StartTest, TheTreeHasAPictureForEachOfItsLevels) {

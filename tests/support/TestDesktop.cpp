@@ -116,7 +116,7 @@ TestShell::TestShell(platform::FileSystem& files, std::string theRecentFolder)
       m_reader(files, [this](const std::string& text) { reported.push_back(text); }) {}
 
 std::string TestShell::SpecialFolderPath(int number) {
-  if (number != platform::kRecentFolder) throw Error(kPathNotFound, "No such special folder");
+  if (number != platform::kRecentFolder || !hasRecentFolder) throw Error(kPathNotFound, "No such special folder");
   return recentFolder;
 }
 

@@ -6,10 +6,10 @@
 #include <vector>
 
 #include "app/Date.h"
-#include "linux/files/PosixFileSystem.h"
 #include "linux/links/ShellLinkFile.h"
 #include "platform/Desktop.h"
 #include "tests/support/TemporaryFolder.h"
+#include "tests/support/TestFiles.h"
 
 namespace dayvane::testing {
 
@@ -87,6 +87,7 @@ class TestShell : public platform::Shell {
   std::string DisplayPath(const std::string& path) override { return displayPath(path); }
 
   std::string recentFolder;
+  bool hasRecentFolder = true;  ///< else asking for it fails
   std::function<void()> refresh = [] {};
   std::function<std::string(const std::string&)> displayPath = [](const std::string& path) { return path; };
   int captured = 0;
@@ -140,7 +141,7 @@ class TestDesktop {
   std::vector<std::string> LogLines(const std::string& log) const;
 
   TemporaryFolder folder;
-  files::PosixFileSystem files;
+  TestFiles files;
   TestShell shell;
   TestIcons icons;
   TestRegistry registry;

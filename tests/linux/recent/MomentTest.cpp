@@ -3,7 +3,7 @@
 #include <limits>
 
 #include "linux/recent/Moment.h"
-#include "tests/linux/recent/LocalZone.h"
+#include "tests/support/LocalZone.h"
 
 namespace dayvane::recent {
 namespace {

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "linux/recent/RecentFolder.h"
-#include "tests/linux/recent/LocalZone.h"
+#include "tests/support/LocalZone.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace dayvane::testing {

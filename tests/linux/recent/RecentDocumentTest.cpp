@@ -1,7 +1,7 @@
 #include <gmock/gmock.h>
 
 #include "linux/recent/RecentDocument.h"
-#include "tests/linux/recent/LocalZone.h"
+#include "tests/support/LocalZone.h"
 
 namespace dayvane::recent {
 namespace {

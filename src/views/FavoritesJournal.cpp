@@ -1,0 +1,75 @@
+#include "views/FavoritesJournal.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <string_view>
+#include <unordered_set>
+
+#include "app/IgnoreErrors.h"
+#include "base/Text.h"
+#include "fs/Dir.h"
+
+namespace dayvane::favorites {
+
+namespace {
+
+constexpr std::string_view kTitle = "dayvane-pending 1 ";
+constexpr std::size_t kLargestFile = std::size_t{64} << 20;
+
+std::string Line(const std::string& shortcutFile) {
+  return std::to_string(shortcutFile.size()) + " " + shortcutFile + "\n";
+}
+
+/// Removes the first whole line from the text and returns it without its end; nothing when there is none.
+std::optional<std::string_view> TakeLine(std::string_view& text) {
+  const auto end = text.find('\n');
+  if (end == std::string_view::npos) return std::nullopt;
+  const std::string_view line = text.substr(0, end);
+  text.remove_prefix(end + 1);
+  return line;
+}
+
+std::optional<std::string> PathOf(std::string_view line) {
+  const auto blank = std::min(line.find(' '), line.size());
+  const std::string_view path = line.substr(std::min(blank + 1, line.size()));
+  const auto length = text::ToInt32(line.substr(0, blank));
+  if (!length || *length <= 0 || static_cast<std::size_t>(*length) != path.size()) return std::nullopt;
+  return std::string(path);
+}
+
+}  // namespace
+
+std::string DataIdentity(const std::optional<std::string>& bytes) {
+  if (!bytes) return "none";
+  // http://www.isthe.com/chongo/tech/comp/fnv/, 64 bits
+  std::uint64_t hash = 14695981039346656037U;
+  for (const char byte : *bytes) hash = (hash ^ static_cast<unsigned char>(byte)) * 1099511628211U;
+  return std::to_string(bytes->size()) + "-" + std::to_string(hash);
+}
+
+std::vector<std::string> FavoritesJournal::Read(const std::string& identity) const {
+  std::vector<std::string> paths;
+  std::string bytes;
+  if (FileExists(m_files, m_path)) IgnoreErrors([&] { bytes = m_files.Read(m_path, kLargestFile).bytes; });
+  std::string_view rest = bytes;
+  if (TakeLine(rest) != std::string(kTitle) + identity) return paths;
+  std::unordered_set<std::string> seen;
+  while (const auto line = TakeLine(rest))
+    if (auto path = PathOf(*line); path && seen.insert(*path).second) paths.push_back(std::move(*path));
+  return paths;
+}
+
+void FavoritesJournal::Begin(const std::string& identity, const std::string& shortcutFile) const {
+  if (FileExists(m_files, m_path)) m_files.Delete(m_path);
+  m_files.Append(m_path, std::string(kTitle) + identity + "\n" + Line(shortcutFile));
+}
+
+void FavoritesJournal::Add(const std::string& shortcutFile) const {
+  m_files.Append(m_path, Line(shortcutFile));
+}
+
+void FavoritesJournal::End() const {
+  IgnoreErrors([this] { m_files.Delete(m_path); });
+}
+
+}  // namespace dayvane::favorites

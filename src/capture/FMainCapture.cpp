@@ -53,8 +53,10 @@ void FMain::GetShortcuts() {
   const std::string prefix = m_recentFolder + "\\";
   CShortcut shortcut(m_application);
   for (const auto& entry : Dir(m_application.desktop.files, prefix + "*.lnk", DirKinds::Files)) {
-    shortcut.SetFile(prefix + entry.name);
-    ProcessShortcut(&shortcut);
+    if (!m_filedShortcuts.IsUnchanged(prefix + entry.name)) {
+      shortcut.SetFile(prefix + entry.name);
+      ProcessShortcut(&shortcut);
+    }
     m_application.desktop.windowing.ProcessPendingMessages();
   }
   m_application.shellServices.RecentFolderCaptured();
@@ -69,8 +71,9 @@ void FMain::ProcessShortcut(CShortcut* shortcut) {
   const std::string destination = filing::DayFolder(m_repository.DailyPath(), *shortcut) + "\\" + shortcut->FileName();
   switch (filing::Decide(m_application.desktop.files, *shortcut, destination, cutOff)) {
     case filing::Decision::TooOld:
-    case filing::Decision::Unchanged:
       return;
+    case filing::Decision::Unchanged:
+      return m_filedShortcuts.Remember(shortcut->File(), destination, shortcut->LastWritten());
     case filing::Decision::FirstOfTheDay:
       if (filing::IsFiledNearby(m_application.desktop.files, m_repository, *shortcut)) return;
       m_oFavorites->WillCount(destination);

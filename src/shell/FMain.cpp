@@ -44,7 +44,8 @@ FMain::FMain(Application& application, CRepository& repository)
           "ListView",
           {{"&Open"}, {"-"}, {"&View", &mnuArrangeViewPopup}, {"-"}, {"Arrange &Icons", &mnuArrangeIconsPopup}}),
       m_application(application),
-      m_repository(repository) {
+      m_repository(repository),
+      m_filedShortcuts(application.desktop.files) {
   application.activeForm = &form;
   picFavorites.SetVisible(false);  // One pane at a time, also when the settings name no view that exists.
   BuildLists();

@@ -10,6 +10,7 @@
 #include "app/Application.h"
 #include "app/CWaitCursor.h"
 #include "base/Held.h"
+#include "capture/FiledShortcuts.h"
 #include "controls/Calendar.h"
 #include "controls/Form.h"
 #include "controls/ImageList.h"
@@ -198,6 +199,7 @@ class FMain {
   bool m_activatedOnce = false;
   bool m_visibleAtStart = true;
   std::string m_recentFolder;  ///< without a trailing "\"
+  FiledShortcuts m_filedShortcuts;
   bool m_documentsChanged = false;
   bool m_inTreeClick = false;  ///< the calendar is being moved because a day was clicked in the tree
   bool m_isSuspended = false;  ///< by the user, not by a poll that failed

@@ -115,7 +115,7 @@ TEST_F(MainTest, TheSplashOfAStartThatFailedIsGone) {
 }
 
 TEST_F(MainTest, TheSplashOfALoadThatFailedIsGoneToo) {
-  desktop.shell.refresh = [] { throw Error(kDeviceIoError, "No list"); };
+  desktop.shell.hasRecentFolder = false;
   const Program program = Start();
   EXPECT_THAT(desktop.windowing.Texts(), Contains("An error occurred starting the program."));
   EXPECT_TRUE(program.splash->form.IsUnloaded());

@@ -23,6 +23,11 @@ constexpr int kLeastTreeHeight = 80;
 constexpr int kLeastListWidth = 220;
 constexpr QSize kUsualSize{900, 600};
 
+/// Gives a control a place, and leaves its size to the program, which lays it out.
+void PutControl(controls::Control& control, QPoint place, const QWidget& on) {
+  control.Move(ToTwips(place.x(), on), ToTwips(place.y(), on), control.Width(), control.Height());
+}
+
 }  // namespace
 
 MainWindow::MainWindow(FMain& main, const Icons& icons, const platform::DateConventions& dates)
@@ -89,9 +94,10 @@ void MainWindow::NameForScreenReaders() {
 
 void MainWindow::Design() {
   const int statusHeight = m_statusBar.sizeHint().height();
-  MoveControl(m_main.sbrMain, {0, 0, 0, statusHeight}, *this);
+  m_main.sbrMain.Move(m_main.sbrMain.Left(), m_main.sbrMain.Top(), m_main.sbrMain.Width(),
+                      ToTwips(statusHeight, *this));
   DesignDailyPane();
-  DesignFavoritesPane();
+  PutControl(m_main.picFavorites, {kMargin, kMargin}, *this);
   const QSize calendar = m_calendar.sizeHint();
   m_client.setMinimumSize(calendar.width() + kGap + kLeastListWidth,
                           calendar.height() + kGap + kLeastTreeHeight + statusHeight);
@@ -99,27 +105,24 @@ void MainWindow::Design() {
 
 void MainWindow::DesignDailyPane() {
   const QSize calendar = m_calendar.sizeHint();
-  MoveControl(m_main.picDaily, {kMargin, kMargin, m_daily.width(), m_daily.height()}, *this);
-  MoveControl(m_main.calMain, {{0, 0}, calendar}, *this);
-  MoveControl(m_main.tvwMain, {0, calendar.height() + kGap, calendar.width(), 0}, *this);
-  MoveControl(m_main.lvwDaily, {calendar.width() + kGap, 0, 0, 0}, *this);
+  const int left = std::max(calendar.width(), m_split);
+  PutControl(m_main.picDaily, {kMargin, kMargin}, *this);
+  MoveControl(m_main.calMain, {0, 0, left, calendar.height()}, *this);
+  m_main.tvwMain.Move(0, ToTwips(calendar.height() + kGap, *this), ToTwips(left, *this), m_main.tvwMain.Height());
+  PutControl(m_main.lvwDaily, {left + kGap, 0}, *this);
 }
 
 void MainWindow::SplitDailyPane(int left) {
   const int least = m_calendar.sizeHint().width();
   const int most = std::max(m_daily.width() - kGap - kLeastListWidth, least);
-  left = std::clamp(left, least, most);
-  for (controls::Control* control :
-       {static_cast<controls::Control*>(&m_main.calMain), static_cast<controls::Control*>(&m_main.tvwMain)})
-    control->Move(control->Left(), control->Top(), ToTwips(left, *this), control->Height());
-  MoveControl(m_main.lvwDaily, {left + kGap, 0, 0, 0}, *this);
-  m_main.picDaily.Resize.Raise();  // the program gives the list what is left
-  LayOut();
+  m_split = std::clamp(left, least, most);
+  DesignDailyPane();
+  FillDailyPane();
 }
 
-void MainWindow::DesignFavoritesPane() {
-  MoveControl(m_main.picFavorites, {kMargin, kMargin, m_favorites.width(), m_favorites.height()}, *this);
-  MoveControl(m_main.lvwFavorites, {}, *this);
+void MainWindow::FillDailyPane() {
+  m_main.picDaily.Resize.Raise();  // the program gives tree and list what is left
+  LayOut();
 }
 
 void MainWindow::DesignForm() {
@@ -153,8 +156,15 @@ void MainWindow::showEvent(QShowEvent* event) {
 void MainWindow::changeEvent(QEvent* event) {
   QMainWindow::changeEvent(event);
   if (event->type() != QEvent::FontChange && event->type() != QEvent::StyleChange) return;
+  // Later: the window is told before its children, which still measure themselves as they were.
+  QMetaObject::invokeMethod(
+      this, [this] { DesignAnew(); }, Qt::QueuedConnection);
+}
+
+void MainWindow::DesignAnew() {
   Design();
   m_main.form.Resize.Raise();
+  FillDailyPane();  // also where the pane keeps its size
 }
 
 }  // namespace dayvane::widgets

@@ -41,9 +41,10 @@ class MainWindow : public QMainWindow {
   void BuildMenusAndToolbar();
   void NameForScreenReaders();
   void Design();
+  void DesignAnew();  ///< for another style or font
   void DesignDailyPane();
   void SplitDailyPane(int left);
-  void DesignFavoritesPane();
+  void FillDailyPane();
   void DesignForm();
   void LayOut();
   void FocusWhenViewChanges();
@@ -61,6 +62,7 @@ class MainWindow : public QMainWindow {
   CalendarPresenter m_calendar;
   TreePresenter m_tree;
   PaneSplitter m_splitter;
+  int m_split = 0;  ///< logical pixels; where the user dragged the splitter
   ListPresenter m_dailyList;
   ListPresenter m_favoritesList;
   StatusBarPresenter m_statusBar;

@@ -1,11 +1,13 @@
 #include <QCalendarWidget>
 #include <QStatusBar>
+#include <QStyle>
 #include <QTest>
 #include <QToolButton>
 #include <QTreeView>
 #include <QWhatsThis>
 #include <gmock/gmock.h>
 
+#include "linux/widgets/Appearance.h"
 #include "linux/widgets/MainWindow.h"
 #include "tests/support/MainWindow.h"
 
@@ -35,6 +37,26 @@ class MainWindowTest : public ::testing::Test {
 
   QRect PlaceOf(const QWidget& widget) const {
     return {widget.mapTo(m_window.centralWidget(), QPoint()), widget.size()};
+  }
+
+  /// Of everything that the window lays out itself and that is visible, once what was posted has happened, and what
+  /// that posted in turn.
+  std::vector<QRect> Places() {
+    constexpr int kRounds = 10;
+    for (int round = 0; round < kRounds; ++round) QCoreApplication::processEvents();
+    return {PlaceOf(Find<QCalendarWidget>("Calendar")), PlaceOf(Find<QTreeView>("Days")),
+            PlaceOf(Find<QTreeView>("Documents of the day")), PlaceOf(*m_window.findChild<QStatusBar*>())};
+  }
+
+  /// Whether the widget shows nothing but one colour in the window's picture.
+  bool IsBlank(const QWidget& widget) {
+    const QImage picture = m_window.grab({widget.mapTo(&m_window, QPoint()), widget.size()})
+                               .toImage()
+                               .convertToFormat(QImage::Format_RGB32);
+    for (int y = 0; y < picture.height(); ++y)
+      for (int x = 0; x < picture.width(); ++x)
+        if (picture.pixel(x, y) != picture.pixel(0, 0)) return false;
+    return true;
   }
 
   testing::MainWindow m_program;
@@ -130,6 +152,102 @@ TEST_F(MainWindowTest, TheTabKeyGoesFromTheCalendarToTheDaysToTheDocuments) {
   QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
 
   EXPECT_EQ(QApplication::focusWidget(), &Find<QTreeView>("Documents of the day"));
+}
+
+/// Gives the program its style, palette and font back.
+class UsualLook {
+ public:
+  UsualLook() = default;
+  UsualLook(const UsualLook&) = delete;
+  UsualLook& operator=(const UsualLook&) = delete;
+  ~UsualLook() {
+    QApplication::setStyle(m_style);
+    QApplication::setPalette(m_palette);
+    QApplication::setFont(m_font);
+  }
+
+ private:
+  QString m_style = QApplication::style()->name();
+  QPalette m_palette = QApplication::palette();
+  QFont m_font = QApplication::font();
+};
+
+TEST_F(MainWindowTest, NothingGoesBlankWhenTheDesktopTurnsDarkOrOfHighContrastAndBack) {
+  const UsualLook usual;
+  Appearance appearance;
+  const std::vector<QRect> places = Places();
+  const auto isUnharmed = [&] {
+    return Places() == places && !IsBlank(Find<QTreeView>("Days")) && !IsBlank(Find<QTreeView>("Documents of the day"));
+  };
+  ASSERT_TRUE(isUnharmed());
+
+  for (const bool isSo : {true, false}) {
+    appearance.SetDark(isSo);
+    EXPECT_TRUE(isUnharmed()) << "dark: " << isSo;
+    appearance.SetHighContrast(isSo);
+    EXPECT_TRUE(isUnharmed()) << "high contrast: " << isSo;
+  }
+}
+
+TEST_F(MainWindowTest, TheFavoritesFillTheirPaneAlsoWhenTheDesktopTurnedDarkMeanwhile) {
+  const UsualLook usual;
+  Appearance appearance;
+  m_main.SetActiveView(FMain::kFavoritesView);
+  Places();
+
+  appearance.SetDark(true);
+  Places();
+
+  const QWidget& list = Find<QTreeView>("Favorites");
+  EXPECT_EQ(PlaceOf(list).right(), m_window.centralWidget()->width() - 2);
+  EXPECT_FALSE(IsBlank(list));
+}
+
+TEST_F(MainWindowTest, TheListsKeepTheirRoomWhenTheFontGrowsAndShrinksAgain) {
+  const UsualLook usual;
+  const std::vector<QRect> places = Places();
+  const QFont usualFont = QApplication::font();
+  QFont large = usualFont;
+  large.setPointSizeF(large.pointSizeF() * 2);
+
+  QApplication::setFont(large);
+  const std::vector<QRect> enlarged = Places();
+  EXPECT_GT(enlarged.at(0).height(), places.at(0).height());
+  EXPECT_GT(enlarged.at(1).top(), enlarged.at(0).bottom());
+  EXPECT_GE(enlarged.at(1).height(), 80);
+  EXPECT_GE(enlarged.at(2).width(), 220);
+  EXPECT_LT(enlarged.at(2).bottom(), enlarged.at(3).top());
+
+  QApplication::setFont(usualFont);
+  EXPECT_EQ(Places(), places);
+}
+
+TEST_F(MainWindowTest, TheListsKeepTheirRoomInEveryStyle) {
+  const UsualLook usual;
+
+  for (const QString& style : {QStringLiteral("Windows"), QStringLiteral("Fusion")}) {
+    QApplication::setStyle(style);
+    const std::vector<QRect> places = Places();
+    EXPECT_GT(places.at(1).top(), places.at(0).bottom()) << style.toStdString();
+    EXPECT_GE(places.at(1).height(), 80) << style.toStdString();
+    EXPECT_GE(places.at(2).width(), 220) << style.toStdString();
+  }
+}
+
+TEST_F(MainWindowTest, ASplitterThatTheUserDraggedStaysThereInAnotherStyle) {
+  const UsualLook usual;
+  const QPoint gap(PlaceOf(Find<QTreeView>("Days")).right() + 3, 100);
+  QWidget& splitter = *m_window.centralWidget()->childAt(gap);
+  QTest::mousePress(&splitter, Qt::LeftButton, {}, {1, 10});
+  const QPointF to(splitter.mapToGlobal(QPoint(81, 10)));
+  QMouseEvent drag(QEvent::MouseMove, {81, 10}, to, Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(&splitter, &drag);
+  const std::vector<QRect> places = Places();
+  ASSERT_EQ(places.at(1).right() + 3, gap.x() + 80);
+
+  Appearance().SetDark(true);
+
+  EXPECT_EQ(Places(), places);
 }
 
 TEST_F(MainWindowTest, EveryControlIsExplainedThatIsClickedInWhatsThisMode) {

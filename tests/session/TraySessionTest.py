@@ -205,6 +205,12 @@ class ADesktopWithoutATray(SessionTest):
         self.user.press("Show")
         self.wait_for(["Dayvane - Daily"], self.user.titles)
 
+    def test_shows_the_window_that_its_own_menu_hid(self):
+        self.user.choose("Dayvane", "Hide")
+        self.wait_for(["Show", "Suspend", "About Dayvane", "Exit"], lambda: self.wait_for_box()["buttons"])
+        self.user.press("Show")
+        self.wait_for(["Dayvane - Daily"], self.user.titles)
+
     def test_shows_the_window_where_it_was_after_it_was_minimised(self):
         window = self.desktop.window(WINDOW_TITLE)
         place = self.desktop.placed(window)

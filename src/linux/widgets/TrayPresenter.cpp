@@ -1,6 +1,7 @@
 #include "linux/widgets/TrayPresenter.h"
 
 #include <QApplication>
+#include <utility>
 
 #include "linux/Pictures.h"
 #include "linux/UsersTurn.h"
@@ -8,6 +9,10 @@
 namespace dayvane::widgets {
 
 namespace {
+
+// Items of the tray menu, by index.
+constexpr int kShow = 0;
+constexpr int kHide = 1;
 
 int ButtonOf(QSystemTrayIcon::ActivationReason reason) {
   // Some panels tell the second of two quick clicks as another one, embedding trays as a double click; the right button
@@ -20,15 +25,27 @@ int ButtonOf(QSystemTrayIcon::ActivationReason reason) {
 
 TrayPresenter::TrayPresenter(controls::SystemTray& control, controls::Menu& menu, controls::Form& form,
                              TrayWatch& watch, std::chrono::milliseconds patience)
-    : m_control(control), m_form(form), m_watch(watch), m_menu(menu), m_standIn(m_menu) {
+    : m_control(control), m_form(form), m_watch(watch), m_menu(menu), m_standIn(Commands()) {
   m_patience.setSingleShot(true);
   m_patience.setInterval(patience);
   QObject::connect(&m_patience, &QTimer::timeout, &m_patience, [this] { ShowStandIn(); });
   m_connections.push_back(control.Changed.ConnectScoped([this] { Show(); }));
   m_connections.push_back(form.Changed.ConnectScoped([this] { Show(); }));
   m_connections.push_back(watch.Changed.ConnectScoped([this] { Show(); }));
+  for (QAction* command : {&m_show, &m_hide})
+    QObject::connect(
+        command, &QAction::triggered, command, [this] { Activate(QSystemTrayIcon::Trigger); }, Qt::QueuedConnection);
   QObject::connect(&m_menu, &QMenu::aboutToShow, &m_menu, [this] { m_menu.SetDefaultItem(m_menu.FirstVisibleItem()); });
   Show();
+}
+
+QList<QAction*> TrayPresenter::Commands() {
+  QList<QAction*> commands = m_menu.actions();
+  for (const auto& [index, command] : {std::pair(kShow, &m_show), std::pair(kHide, &m_hide)}) {
+    command->setText(commands[index]->text());
+    commands[index] = command;
+  }
+  return commands;
 }
 
 void TrayPresenter::Activate(QSystemTrayIcon::ActivationReason reason) {
@@ -56,6 +73,8 @@ void TrayPresenter::Show() {
   } else if (!m_standIn.isVisible() && !m_patience.isActive()) {
     m_patience.start();
   }
+  m_show.setVisible(!m_form.Visible());
+  m_hide.setVisible(m_form.Visible());
   m_standIn.SetPicture(PictureIcon(m_control.Picture()));
   m_standIn.SetTip(QString::fromStdString(m_control.TipText()));
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QAction>
 #include <QSystemTrayIcon>
 #include <QTimer>
 #include <chrono>
@@ -16,7 +17,8 @@ namespace dayvane::widgets {
 
 /// Shows the tray icon with its menu. The panel opens the menu by itself, so the program hears of no right click;
 /// the menu's default item is its first visible one. While there is no tray and the main form is hidden, a stand-in
-/// window carries the menu's commands.
+/// window carries the menu's commands. Its Show and Hide are those that fit the form, which not every way of hiding it
+/// tells the menu of: without them there would be no way back.
 class TrayPresenter {
  public:
   /// `patience`: how long a tray may be gone before the stand-in shows, for a panel that only starts anew.
@@ -33,11 +35,14 @@ class TrayPresenter {
   void Show();
   void ShowIcon();
   void ShowStandIn();
+  QList<QAction*> Commands();  ///< of the stand-in
 
   controls::SystemTray& m_control;
   controls::Form& m_form;
   TrayWatch& m_watch;
   MenuPresenter m_menu;
+  QAction m_show;
+  QAction m_hide;
   TrayStandIn m_standIn;
   std::unique_ptr<QSystemTrayIcon> m_icon;  ///< once there was a tray
   QTimer m_patience;

@@ -12,7 +12,7 @@ constexpr int kLeastWidth = 220;  ///< room for the title beside a frame's butto
 
 }  // namespace
 
-TrayStandIn::TrayStandIn(QMenu& menu) : m_layout(this) {
+TrayStandIn::TrayStandIn(const QList<QAction*>& commands) : m_layout(this) {
   setAttribute(Qt::WA_ShowWithoutActivating);
   m_head.addWidget(&m_picture);
   m_head.addWidget(&m_tip, 1);
@@ -20,7 +20,7 @@ TrayStandIn::TrayStandIn(QMenu& menu) : m_layout(this) {
   m_layout.addLayout(&m_head);
   m_layout.setSizeConstraint(QLayout::SetFixedSize);
   m_tip.setMinimumWidth(kLeastWidth);
-  for (QAction* action : menu.actions())
+  for (QAction* action : commands)
     if (!action->isSeparator()) AddCommand(*action);
 }
 

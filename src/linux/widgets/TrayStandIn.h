@@ -1,7 +1,7 @@
 #pragma once
 
 #include <QLabel>
-#include <QMenu>
+#include <QList>
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <QWidget>
@@ -11,10 +11,10 @@
 namespace dayvane::widgets {
 
 /// A small window in the place of the tray icon, for desktops without a notification area: picture, tip, and the
-/// commands of the icon's menu as buttons. Closing it only minimises it, for it may be the only way to the program.
+/// commands as buttons. Closing it only minimises it, for it may be the only way to the program.
 class TrayStandIn : public QWidget {
  public:
-  explicit TrayStandIn(QMenu& menu);
+  explicit TrayStandIn(const QList<QAction*>& commands);
 
   void SetPicture(const QIcon& icon);
   void SetTip(const QString& tip);

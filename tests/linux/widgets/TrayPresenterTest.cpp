@@ -38,6 +38,12 @@ class TrayPresenterTest : public testing::Test {
     return QTest::qWaitFor([this] { return m_presenter.StandIn().isVisible(); });
   }
 
+  QToolButton& Button(const char* text) {
+    for (QToolButton* button : m_presenter.StandIn().findChildren<QToolButton*>())
+      if (button->text() == QLatin1String(text)) return *button;
+    throw std::runtime_error(text);
+  }
+
   controls::SystemTray m_control;
   controls::Menu m_menu{"Tray", {{"&Show"}, {"&Hide"}, {"-"}, {"E&xit"}}};
   controls::Form m_form;
@@ -131,14 +137,27 @@ TEST_F(TrayPresenterTest, TheStandInCarriesTheMenusVisibleCommands) {
   ASSERT_TRUE(StandInComes());
   std::vector<int> chosen;
   m_menu.Click.Connect([&](int index) { chosen.push_back(index); });
+  m_menu[3].SetVisible(false);
+  EXPECT_FALSE(Button("Exit").isVisible());
 
-  const auto buttons = m_presenter.StandIn().findChildren<QToolButton*>();
-  ASSERT_EQ(buttons.size(), 3);
-  EXPECT_FALSE(buttons[0]->isVisible());
-  buttons[2]->click();
+  m_menu[3].SetVisible(true);
+  Button("Exit").click();
   QCoreApplication::processEvents();
 
   EXPECT_THAT(chosen, ElementsAre(3));
+}
+
+TEST_F(TrayPresenterTest, TheStandInShowsAWindowThatWasHiddenPastTheMenu) {
+  m_menu[0].SetVisible(false);
+  m_menu[1].SetVisible(true);
+  ASSERT_TRUE(StandInComes());
+  EXPECT_FALSE(Button("Hide").isVisible());
+
+  ASSERT_TRUE(Button("Show").isVisible());
+  Button("Show").click();
+  QCoreApplication::processEvents();
+
+  EXPECT_THAT(m_buttons, ElementsAre(1));
 }
 
 TEST_F(TrayPresenterTest, ClosingTheStandInLeavesAWayToTheProgram) {

@@ -15,6 +15,10 @@ PathParts SplitPath(std::string_view path) {
   return parts;
 }
 
+bool LeadsToProgram(const platform::ShellLink& link) {
+  return !link.target.empty() && !link.targetIsFolder && link.workingDirectory == link.target;
+}
+
 ShellServices::ShellServices(const platform::Desktop& desktop, std::string programFolder)
     : m_desktop(desktop), m_programFolder(std::move(programFolder)) {}
 

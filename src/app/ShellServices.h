@@ -19,6 +19,10 @@ struct PathParts {
 
 PathParts SplitPath(std::string_view path);
 
+/// Whether a shortcut is one that the program has made to a program: the program stands for its working folder too,
+/// which no document does.
+bool LeadsToProgram(const platform::ShellLink& link);
+
 /// The one object through which the program reaches the shell: special folders, shortcut files, and a few utilities.
 /// It keeps nothing between calls. Failures are Errors of the calling procedure.
 class ShellServices {

@@ -4,6 +4,9 @@
 #include <filesystem>
 #include <gio/gdesktopappinfo.h>
 #include <unistd.h>
+#include <utility>
+
+#include "base/Text.h"
 
 namespace dayvane::applications {
 
@@ -38,6 +41,11 @@ std::optional<std::string> ProgramAfterEnv(const char* commandLine) {
   return std::nullopt;
 }
 
+std::size_t CommandLength(GAppInfo* application) {
+  const char* commandLine = g_app_info_get_commandline(application);
+  return commandLine != nullptr ? std::strlen(commandLine) : 0;
+}
+
 }  // namespace
 
 std::optional<std::string> ProgramOf(GAppInfo* application) {
@@ -53,20 +61,48 @@ std::optional<std::string> ProgramOf(GAppInfo* application) {
   return InPath(executable);
 }
 
-glib::Object<GAppInfo> FindByProgram(const std::string& program) {
+ProgramIndex::ProgramIndex()
+    : m_monitor(g_app_info_monitor_get()),
+      m_connection(g_signal_connect(m_monitor.get(), "changed", G_CALLBACK(Changed), this)) {}
+
+ProgramIndex::~ProgramIndex() {
+  g_signal_handler_disconnect(m_monitor.get(), m_connection);
+}
+
+void ProgramIndex::Changed(GAppInfoMonitor* /*monitor*/, gpointer self) {
+  static_cast<ProgramIndex*>(self)->m_isFilled = false;
+}
+
+GAppInfo* ProgramIndex::Find(const std::string& program) {
+  Fill();
+  const auto found = m_applications.find(program);
+  return found == m_applications.end() ? nullptr : found->second.get();
+}
+
+bool ProgramIndex::HasName(const std::string& fileName) {
+  Fill();
+  return m_names.contains(text::ToLower(fileName));
+}
+
+void ProgramIndex::Fill() {
+  if (std::exchange(m_isFilled, true)) return;
+  m_applications.clear();
+  m_names.clear();
   const glib::ObjectList all(g_app_info_get_all());
-  GAppInfo* best = nullptr;
-  std::size_t bestLength = 0;
   for (GList* item = all.get(); item != nullptr; item = item->next) {
     auto* application = static_cast<GAppInfo*>(item->data);
-    if (ProgramOf(application) != program) continue;
-    const char* commandLine = g_app_info_get_commandline(application);
-    const std::size_t length = commandLine != nullptr ? std::strlen(commandLine) : 0;
-    if (best != nullptr && length >= bestLength) continue;
-    best = application;
-    bestLength = length;
+    const auto program = ProgramOf(application);
+    if (!program) continue;
+    m_names.insert(text::ToLower(program->substr(program->rfind('/') + 1)));
+    glib::Object<GAppInfo>& best = m_applications[*program];
+    if (!best || CommandLength(application) < CommandLength(best.get()))
+      best.reset(G_APP_INFO(g_object_ref(application)));
   }
-  return glib::Object<GAppInfo>(best != nullptr ? G_APP_INFO(g_object_ref(best)) : nullptr);
+}
+
+glib::Object<GAppInfo> FindByProgram(const std::string& program) {
+  GAppInfo* found = ProgramIndex().Find(program);
+  return glib::Object<GAppInfo>(found != nullptr ? G_APP_INFO(g_object_ref(found)) : nullptr);
 }
 
 }  // namespace dayvane::applications

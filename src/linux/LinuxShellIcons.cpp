@@ -2,6 +2,7 @@
 
 #include <gio/gio.h>
 
+#include "app/IgnoreErrors.h"
 #include "app/ShellServices.h"
 #include "base/Text.h"
 #include "linux/GlibHandles.h"
@@ -11,32 +12,30 @@ namespace dayvane {
 
 namespace {
 
+constexpr std::uint32_t kIconFlag = 0x100;  ///< SHGFI_ICON
 constexpr std::uint32_t kDirectoryAttribute = 16;
 constexpr std::uint64_t kFirstFolderIdentifier = 1U << 16;  ///< beyond all numbers of special folders
+constexpr const char* kFolderType = "inode/directory";
+constexpr const char* kProgramType = "application/x-executable";
+constexpr std::string_view kShortcutExtension = ".lnk";
 
-/// The name of what a shortcut stands for; any other name as it is.
-std::string NameOf(const std::string& path) {
-  std::string name = SplitPath(path).fileName;
-  if (text::EndsWithIgnoringCase(name, ".lnk")) name.resize(name.size() - 4);
-  return name;
-}
-
-std::vector<std::string> IconNamesOf(const char* contentType) {
-  const glib::Object<GIcon> icon(g_content_type_get_icon(contentType));
+std::vector<std::string> IconNames(GIcon* icon) {
   std::vector<std::string> names;
-  if (!G_IS_THEMED_ICON(icon.get())) return names;
-  for (const gchar* const* name = g_themed_icon_get_names(G_THEMED_ICON(icon.get())); *name != nullptr; ++name)
-    names.emplace_back(*name);
+  if (G_IS_THEMED_ICON(icon)) {
+    for (const gchar* const* name = g_themed_icon_get_names(G_THEMED_ICON(icon)); *name != nullptr; ++name)
+      names.emplace_back(*name);
+  } else if (G_IS_FILE_ICON(icon)) {
+    // An application may bring a picture of its own: its path stands for a name.
+    const glib::Text path(g_file_get_path(g_file_icon_get_file(G_FILE_ICON(icon))));
+    if (path) names.emplace_back(path.get());
+  }
   return names;
 }
 
 platform::ShellFileInfo InfoOfType(const char* contentType) {
+  const glib::Object<GIcon> icon(g_content_type_get_icon(contentType));
   const glib::Text description(g_content_type_get_description(contentType));
-  return {platform::Picture{IconNamesOf(contentType), 0}, {}, description.get()};
-}
-
-platform::ShellFileInfo FolderInfo() {
-  return InfoOfType("inode/directory");
+  return {platform::Picture{IconNames(icon.get()), 0}, {}, description.get()};
 }
 
 }  // namespace
@@ -46,26 +45,43 @@ std::uint64_t LinuxShellIcons::SpecialFolderIdentifier(int number) {
 }
 
 std::optional<platform::ShellFileInfo> LinuxShellIcons::FileInfo(const std::string& path, std::uint32_t attributes,
-                                                                 std::uint32_t) {
-  const std::string name = NameOf(path);
-  platform::ShellFileInfo info;
-  if (attributes == kDirectoryAttribute) {
-    info = FolderInfo();
-  } else {
-    gboolean uncertain = FALSE;
-    const glib::Text type(g_content_type_guess(name.c_str(), nullptr, 0, &uncertain));
-    info = InfoOfType(type.get());
-    // A name without a type is most often a program's: day folders hold shortcuts to those too.
-    if (uncertain) info.icon->iconNames = {text::ToLower(name), "application-x-executable"};
-  }
-  info.displayName = name;
+                                                                 std::uint32_t flags) {
+  std::string name = SplitPath(path).fileName;
+  const bool isShortcut = text::EndsWithIgnoringCase(name, kShortcutExtension) && attributes != kDirectoryAttribute;
+  if (isShortcut) name.resize(name.size() - kShortcutExtension.size());
+  // Of a name that fits several types GIO is "uncertain", and has the likeliest: better than none.
+  const glib::Text type(attributes == kDirectoryAttribute ? g_strdup(kFolderType)
+                                                          : g_content_type_guess(name.c_str(), nullptr, 0, nullptr));
+  std::optional<platform::ShellFileInfo> info;
+  const bool mayBeOther = g_content_type_is_unknown(type.get()) != 0 || m_programs.HasName(name);
+  if (isShortcut && (flags & kIconFlag) != 0 && mayBeOther) info = InfoOfShortcut(path);
+  if (!info) info = InfoOfType(type.get());
+  info->displayName = name;
+  return info;
+}
+
+std::optional<platform::ShellFileInfo> LinuxShellIcons::InfoOfShortcut(const std::string& path) {
+  platform::ShellLink link;
+  IgnoreErrors([&] { link = m_shell.ReadShellLink(path).link; });
+  if (link.targetIsFolder) return InfoOfType(kFolderType);
+  if (LeadsToProgram(link)) return InfoOfProgram(link.target);
+  return std::nullopt;
+}
+
+platform::ShellFileInfo LinuxShellIcons::InfoOfProgram(const std::string& program) {
+  platform::ShellFileInfo info = InfoOfType(kProgramType);
+  GAppInfo* application = m_programs.Find(files::ToNative(program).value_or(""));
+  GIcon* icon = application == nullptr ? nullptr : g_app_info_get_icon(application);
+  if (icon == nullptr) return info;
+  const auto own = IconNames(icon);
+  info.icon->iconNames.insert(info.icon->iconNames.begin(), own.begin(), own.end());
   return info;
 }
 
 std::optional<platform::ShellFileInfo> LinuxShellIcons::FileInfo(std::uint64_t identifier, std::uint32_t,
                                                                  std::uint32_t) {
   if (identifier < kFirstFolderIdentifier) return std::nullopt;
-  return FolderInfo();
+  return InfoOfType(kFolderType);
 }
 
 }  // namespace dayvane

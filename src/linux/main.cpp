@@ -85,7 +85,7 @@ int Run() {
   const std::optional<SingleInstance> instance = SingleInstance::Acquire(SingleInstance::Folder(environment));
   files::PosixFileSystem files;
   LinuxShell shell(files, folders.data, report);
-  LinuxShellIcons shellIcons;
+  LinuxShellIcons shellIcons(shell);
   LinuxRegistry registry(DefaultSettingsFile(), report);
   const widgets::Appearance appearance;
   widgets::LinuxWindowing windowing;

@@ -15,6 +15,7 @@ struct ShellLink {
   std::string iconFile;
   std::int32_t iconIndex = 0;
   std::int32_t showCommand = 1;  ///< 1 normal window, 3 maximised, 7 minimised ([MS-SHLLINK] 2.1)
+  bool targetIsFolder = false;   ///< as its writer knew it
 
   bool operator==(const ShellLink&) const = default;
 };

@@ -31,8 +31,8 @@ class ShellIcons {
   /// Identifier of the special folder with this number. Fails where the desktop has none.
   virtual std::uint64_t SpecialFolderIdentifier(int number) = 0;
 
-  /// Nothing when the shell does not know the item. With the flag SHGFI_USEFILEATTRIBUTES the file itself is not
-  /// looked at, so one that is gone has an icon too.
+  /// Nothing when the shell does not know the item. With the flag SHGFI_USEFILEATTRIBUTES the file need not be there,
+  /// so one that is gone has an icon too. What a shortcut leads to is never looked at.
   virtual std::optional<ShellFileInfo> FileInfo(const std::string& path, std::uint32_t attributes,
                                                 std::uint32_t flags) = 0;
   virtual std::optional<ShellFileInfo> FileInfo(std::uint64_t identifier, std::uint32_t attributes,

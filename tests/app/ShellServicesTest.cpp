@@ -53,6 +53,14 @@ TEST_F(ShellServicesTest, ACreatedShortcutReadsBackWithANormalWindowAndNoArgumen
   EXPECT_EQ(link.showCommand, 1);
 }
 
+TEST_F(ShellServicesTest, AShortcutLeadsToAProgramWhenTheProgramIsItsWorkingFolderToo) {
+  EXPECT_TRUE(LeadsToProgram({"Z:\\bin\\app", "Z:\\bin\\app", "", "", 0, 1}));
+  EXPECT_FALSE(LeadsToProgram({"Z:\\home\\app", "", "", "", 0, 1}));
+  EXPECT_FALSE(LeadsToProgram({"Z:\\home\\app", "Z:\\home", "", "", 0, 1}));
+  EXPECT_FALSE(LeadsToProgram({"Z:\\home", "Z:\\home", "", "", 0, 1, true})) << "a folder";
+  EXPECT_FALSE(LeadsToProgram({}));
+}
+
 TEST_F(ShellServicesTest, NumericFieldsLetDigitsAndBackspaceThrough) {
   for (const int key : {int{'0'}, int{'5'}, int{'9'}, 8}) EXPECT_TRUE(ShellServices::IsNumericKey(key)) << key;
   for (const int key : {int{'a'}, int{'-'}, int{'.'}, int{' '}, int{'/'}, int{':'}, 13})

@@ -71,8 +71,8 @@ class PrivateDesktop : public ::testing::Environment {
   }
 
   void WritePrograms() {
-    for (const char* name :
-         {"bin/letter-writer", "bin/sketcher", "bin/files", "bin/flatpak", "exports/bin/org.example.Chart"})
+    for (const char* name : {"bin/letter-writer", "bin/sketcher", "bin/files", "bin/flatpak", "bin/paint.sketch",
+                             "exports/bin/org.example.Chart"})
       fs::permissions(m_folder->Write(name, kTellingProgram), fs::perms(0755));
     // Opened for both, so that a program never waits for the test to read.
     const std::string pipe = *m_folder / "starts";
@@ -84,11 +84,14 @@ class PrivateDesktop : public ::testing::Environment {
     const std::string folder = "data/applications/";
     m_folder->Write(folder + "letters.desktop", Application("Letters",
                                                             "Exec=letter-writer --new %u\n"
+                                                            "Icon=letters\n"
                                                             "MimeType=application/x-letter;x-scheme-handler/https;\n"));
     m_folder->Write(folder + "letters-many.desktop",
                     Application("Many Letters", "Exec=letter-writer --one --two %u\n"));
     m_folder->Write(folder + "sketches.desktop",
                     Application("Sketches", "Exec=env LANG=C SKETCH=1 sketcher %f\nMimeType=application/x-sketch;\n"));
+    m_folder->Write(folder + "paint.desktop",
+                    Application("Paint", "Exec=paint.sketch %f\nIcon=/opt/paint/paint.png\n"));
     m_folder->Write(
         folder + "org.example.Silent.desktop",
         Application("Silent", "Exec=files --service\nDBusActivatable=true\nMimeType=application/x-silent;\n"));

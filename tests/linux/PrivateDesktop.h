@@ -7,7 +7,7 @@
 ///
 /// Endings and their types: ".letter", ".sketch", ".chart", ".chosen", ".silent" (its application does not answer) and
 /// ".orphan" (which has no application) are "application/x-letter" and so on; ".both" is two types; ".small" and
-/// ".SMALL" differ.
+/// ".SMALL" differ. "Letters" (letter-writer) has the icon "letters", "Paint" (paint.sketch) a picture of its own.
 namespace dayvane::testing::desktop {
 
 /// Native paths.

@@ -152,7 +152,7 @@ std::string ItemListPath(ByteView list) {
   return {};
 }
 
-std::string ItemListFor(std::string_view path) {
+std::string ItemListFor(std::string_view path, bool isFolder) {
   constexpr std::size_t kLongest = 0xFFFF;
   const std::size_t share = ShareLength(path);
   if (share == 0 && !IsDrivePath(path)) return {};
@@ -163,9 +163,9 @@ std::string ItemListFor(std::string_view path) {
                                 : RootItem(0x58, kNetworkPlaces) + ShareItem(path.substr(0, share));
   while (!rest.empty() && list.size() <= kLongest) {
     const std::string_view name = rest.substr(0, rest.find('\\'));
-    const bool isFolder = name.size() < rest.size();
-    rest.remove_prefix(isFolder ? name.size() + 1 : name.size());
-    if (!name.empty()) list += FileItem(name, isFolder);
+    const bool isOnTheWay = name.size() < rest.size();
+    rest.remove_prefix(isOnTheWay ? name.size() + 1 : name.size());
+    if (!name.empty()) list += FileItem(name, isOnTheWay || isFolder);
   }
   list.append(2, '\0');
   return list.size() <= kLongest ? list : std::string();

@@ -18,8 +18,8 @@ namespace dayvane::links {
 /// would spell a folder above the target, so that only a list with its end counts.
 std::string ItemListPath(ByteView list);
 
-/// A list, without the size, for a path "X:\..." or "\\server\share\..."; empty for any other path, and for one that is
-/// too long for the 16 bits that a list's size has.
-std::string ItemListFor(std::string_view path);
+/// A list, without the size, for a path "X:\..." or "\\server\share\..." of a file or a folder; empty for any other
+/// path, and for one that is too long for the 16 bits that a list's size has.
+std::string ItemListFor(std::string_view path, bool isFolder = false);
 
 }  // namespace dayvane::links

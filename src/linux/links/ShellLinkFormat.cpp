@@ -135,8 +135,8 @@ class TextWriter {
 
 /// Times and file size are left empty: they are not known without the disk.
 void AppendHeader(ByteWriter& writer, std::uint32_t flags, const ShellLink& link) {
-  const bool isFolder = link.target.ends_with('\\');
-  writer.U32(kHeaderSize).Bytes(kClassId).U32(flags).U32(isFolder ? kAttributeDirectory : kAttributeArchive);
+  const std::uint32_t attributes = link.targetIsFolder ? kAttributeDirectory : kAttributeArchive;
+  writer.U32(kHeaderSize).Bytes(kClassId).U32(flags).U32(attributes);
   writer.Zeros(28).U32(static_cast<std::uint32_t>(link.iconIndex));
   writer.U32(ShowCommandOf(static_cast<std::uint32_t>(link.showCommand))).Zeros(12);
 }
@@ -155,12 +155,13 @@ std::optional<ShellLink> ParseShellLink(std::string_view bytes) {
   if (link.iconFile.empty()) link.iconFile = BlockPath(parts.iconEnvironment);
   link.iconIndex = static_cast<std::int32_t>(view.U32(kIconIndexAt));
   link.showCommand = static_cast<std::int32_t>(ShowCommandOf(view.U32(kShowCommandAt)));
+  link.targetIsFolder = (view.U32(kAttributesAt) & kAttributeDirectory) != 0;
   return link;
 }
 
 std::string WriteShellLink(const ShellLink& link) {
   const std::string target = link.target.substr(0, link.target.find('\0'));
-  const std::string itemList = ItemListFor(target);
+  const std::string itemList = ItemListFor(target, link.targetIsFolder);
   TextWriter texts;
   texts.Add(kHasWorkingDirectory, link.workingDirectory);
   texts.Add(kHasArguments, link.arguments);

@@ -24,8 +24,9 @@ namespace dayvane::links {
 std::optional<platform::ShellLink> ParseShellLink(std::string_view bytes);
 
 /// The bytes of a link that this and other readers of the format accept. The same link always gives the same bytes:
-/// they carry no time, and nothing about the target but its path. Texts end at their first null, and what is no UTF-8
-/// in them becomes U+FFFD. An Error for a text beside the target of more than 65,535 UTF-16 units, the most that fits.
+/// they carry no time, and nothing about the target but its path and whether it is a folder. Texts end at their first
+/// null, and what is no UTF-8 in them becomes U+FFFD. An Error for a text beside the target of more than 65,535 UTF-16
+/// units, the most that fits.
 std::string WriteShellLink(const platform::ShellLink& link);
 
 }  // namespace dayvane::links

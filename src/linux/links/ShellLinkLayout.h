@@ -15,6 +15,7 @@ inline constexpr std::size_t kHeaderSize = 0x4C;
 inline constexpr std::string_view kClassId = "\x01\x14\x02\0\0\0\0\0\xC0\0\0\0\0\0\0\x46"sv;
 inline constexpr std::size_t kClassIdAt = 4;
 inline constexpr std::size_t kLinkFlagsAt = 20;
+inline constexpr std::size_t kAttributesAt = 24;
 inline constexpr std::size_t kIconIndexAt = 56;
 inline constexpr std::size_t kShowCommandAt = 60;
 

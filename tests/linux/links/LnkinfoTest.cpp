@@ -86,6 +86,13 @@ TEST_F(Lnkinfo, FindsANetworkPath) {
   EXPECT_EQ(Line("Location"), "\\\\server\\share");
 }
 
+TEST_F(Lnkinfo, FindsThatTheTargetIsAFolder) {
+  ShellLink link = kReport;
+  link.targetIsFolder = true;
+  Run(link);
+  EXPECT_NE(Report().find("FILE_ATTRIBUTE_DIRECTORY"), std::string::npos) << Report();
+}
+
 TEST_F(Lnkinfo, AcceptsALongPath) {
   ShellLink link = kReport;
   link.target = "Z:\\" + std::string(4'000, 'x');

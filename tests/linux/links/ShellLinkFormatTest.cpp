@@ -194,6 +194,15 @@ TEST(ShellLinkFormat, ExtremeIconIndexesComeBack) {
     EXPECT_EQ(RoundTrip({"", "", "", "", index, 1}).iconIndex, index);
 }
 
+TEST(ShellLinkFormat, AShortcutToAFolderSaysSo) {
+  for (const char* target : {"Z:\\home\\ana\\Harbour", "\\\\server\\share", "Harbour"}) {
+    ShellLink link;
+    link.target = target;
+    link.targetIsFolder = true;
+    EXPECT_EQ(RoundTrip(link), link) << target;
+  }
+}
+
 TEST(ShellLinkFormat, TheSameLinkGivesTheSameBytes) {
   EXPECT_EQ(WriteShellLink(testing::TypicalFields()), WriteShellLink(testing::TypicalFields()));
 }

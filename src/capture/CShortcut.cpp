@@ -1,8 +1,9 @@
 #include "capture/CShortcut.h"
 
+#include "app/IgnoreErrors.h"
 #include "app/ShellServices.h"
 #include "base/Text.h"
-#include "fs/Dir.h"
+#include "capture/ProgramShortcut.h"
 
 namespace dayvane {
 
@@ -11,6 +12,16 @@ namespace {
 /// A field as links carry it: up to its end of text, without blanks around it.
 std::string Field(const std::string& text) {
   return std::string(text::Trim(text.substr(0, text.find('\0'))));
+}
+
+/// Programs are often reached by a symbolic link; one that leads nowhere, or to a folder, is no program.
+bool ProgramExists(platform::FileSystem& files, const std::string& path) {
+  bool exists = false;
+  IgnoreErrors([&] {
+    const auto status = files.Status(files.Resolve(path));
+    exists = status && status->kind == platform::EntryKind::File;
+  });
+  return exists;
 }
 
 }  // namespace
@@ -61,11 +72,12 @@ void CShortcut::ReadTargetClass() {
 
 void CShortcut::CreateExecutableShortcut() const {
   if (m_class == nullptr || m_class->executable.empty()) return;
-  if (!FileExists(m_application.desktop.files, m_class->executable)) return;
+  if (!ProgramExists(m_application.desktop.files, m_class->executable)) return;
   // Creating replaces what is there, so nothing needs deleting first.
   const ShellServices& shell = m_application.shellServices;
-  const std::string path = shell.SplitPath(m_file).folder + "\\" + m_class->executableFileName + ".lnk";
-  shell.CreateShortcut(path, m_class->executable, m_class->executable);
+  const std::string folder = shell.SplitPath(m_file).folder;
+  shell.CreateShortcut(programshortcut::PathFor(m_application, folder, m_class->executableFileName),
+                       m_class->executable, m_class->executable);
 }
 
 std::int32_t CShortcut::OpenDocument() const {

@@ -45,7 +45,8 @@ class CShortcut {
   /// Description of the target's document class, "Application" for a program, empty when there is none.
   const std::string& TargetClass() const { return m_targetClass; }
 
-  /// Places beside the shortcut one to the program that opens the target's class, when that program exists.
+  /// Places beside the shortcut one to the program that opens the target's class, when that program exists. It never
+  /// takes a document's place, see programshortcut::PathFor.
   void CreateExecutableShortcut() const;
 
   /// Opens the target. Returns the shell's result: above 32 opened (platform::Shell::Open names the others).

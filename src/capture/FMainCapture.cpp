@@ -6,6 +6,7 @@
 #include "base/Text.h"
 #include "capture/CShortcut.h"
 #include "capture/Filing.h"
+#include "capture/ProgramShortcut.h"
 #include "fs/Dir.h"
 #include "shell/FMain.h"
 #include "shell/MResourceConstants.h"
@@ -68,29 +69,25 @@ void FMain::ProcessShortcut(CShortcut* shortcut) {
   Required(shortcut);
   Required(m_oFavorites);
   const Date cutOff = m_application.Now().AddDays(-std::int64_t{m_purgeAge});
+  auto& files = m_application.desktop.files;
   const std::string destination = filing::DayFolder(m_repository.DailyPath(), *shortcut) + "\\" + shortcut->FileName();
-  switch (filing::Decide(m_application.desktop.files, *shortcut, destination, cutOff)) {
-    case filing::Decision::TooOld:
-      return;
-    case filing::Decision::Unchanged:
-      return m_filedShortcuts.Remember(shortcut->File(), destination, shortcut->LastWritten());
-    case filing::Decision::FirstOfTheDay:
-      if (filing::IsFiledNearby(m_application.desktop.files, m_repository, *shortcut)) return;
-      m_oFavorites->WillCount(destination);
-      File(*shortcut, destination);
-      m_oFavorites->ProcessShortcut(shortcut);
-      break;
-    case filing::Decision::Replace:
-      File(*shortcut, destination);
-      break;
-  }
+  const auto decision = filing::Decide(files, *shortcut, destination, cutOff);
+  if (decision == filing::Decision::TooOld) return;
+  if (decision == filing::Decision::Unchanged)
+    return m_filedShortcuts.Remember(shortcut->File(), destination, shortcut->LastWritten());
+  const bool isMissing = decision == filing::Decision::FirstOfTheDay;
+  if (isMissing && filing::IsFiledNearby(files, m_repository, *shortcut)) return;
+  filing::CreateDayFolder(files, m_repository.DailyPath(), *shortcut);
+  // The shortcut of a program that is called like the document is no copy of the document's.
+  const bool isFirst = isMissing || programshortcut::MoveAside(m_application, destination, shortcut->TargetFile());
+  if (isFirst) m_oFavorites->WillCount(destination);
+  File(*shortcut, destination);
+  if (isFirst) m_oFavorites->ProcessShortcut(shortcut);
   m_documentsChanged = true;
 }
 
 void FMain::File(CShortcut& shortcut, const std::string& destination) {
-  auto& files = m_application.desktop.files;
-  filing::CreateDayFolder(files, m_repository.DailyPath(), shortcut);
-  files.Copy(shortcut.File(), destination);
+  m_application.desktop.files.Copy(shortcut.File(), destination);
   shortcut.SetFile(destination);
   shortcut.CreateExecutableShortcut();
 }

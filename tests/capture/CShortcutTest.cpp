@@ -1,4 +1,6 @@
+#include <algorithm>
 #include <filesystem>
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "base/Error.h"
@@ -7,6 +9,9 @@
 
 namespace dayvane {
 namespace {
+
+namespace fs = std::filesystem;
+using ::testing::ElementsAre;
 
 class CShortcutTest : public ::testing::Test {
  protected:
@@ -19,6 +24,25 @@ class CShortcutTest : public ::testing::Test {
     platform::ShellLink link;
     link.target = target;
     Read(link);
+  }
+
+  /// What is done beside a document that this program, of a name in the test's folder, opens.
+  void FileBesideDocument(const std::string& program) {
+    desktop.registry.AddClass(".ODT", "Text", "", "\"" + Program(program) + "\" \"%1\"");
+    Read({"Z:\\a.odt", "", "", "", 0, 1}, "a.odt.lnk");
+    CShortcut document(application);
+    document.SetFile(desktop.Folder() + "\\a.odt.lnk");
+    document.CreateExecutableShortcut();
+  }
+  std::string Program(const std::string& name) const { return desktop.folder.Path() + "\\" + name; }
+  platform::ShellLink LinkAt(const std::string& name) const {
+    return application.shellServices.ReadShortcut(desktop.Folder() + "\\" + name).link;
+  }
+  std::vector<std::string> FilesInProgramFolder() const {
+    std::vector<std::string> names;
+    for (const auto& entry : fs::directory_iterator(desktop.NativeFolder())) names.push_back(entry.path().filename());
+    std::sort(names.begin(), names.end());
+    return names;
   }
 
   testing::TestDesktop desktop;
@@ -208,6 +232,48 @@ TEST_F(CShortcutTest, AProgramThatDoesNotExistGetsNoShortcut) {
   ReadTarget("Z:\\a.odt");
   shortcut.CreateExecutableShortcut();
   EXPECT_FALSE(std::filesystem::exists(desktop.NativeFolder() + "/App.exe.lnk"));
+}
+
+TEST_F(CShortcutTest, AProgramIsFoundBehindASymbolicLink) {
+  desktop.folder.Write("opt/writer-3", "");
+  fs::create_symlink("opt/writer-3", desktop.folder / "writer");
+  FileBesideDocument("writer");
+  EXPECT_EQ(LinkAt("Writer.lnk").target, Program("writer"));
+}
+
+TEST_F(CShortcutTest, ALinkThatLeadsNowhereOrToAFolderIsNoProgram) {
+  fs::create_directory(desktop.folder / "folder");
+  fs::create_symlink("nowhere", desktop.folder / "dangling");
+  fs::create_symlink("folder", desktop.folder / "to-folder");
+  fs::create_symlink("circle", desktop.folder / "circle");
+  for (const char* name : {"folder", "dangling", "to-folder", "circle"}) FileBesideDocument(name);
+  EXPECT_THAT(FilesInProgramFolder(), ElementsAre("a.odt.lnk"));
+}
+
+TEST_F(CShortcutTest, ADocumentThatIsCalledLikeTheProgramKeepsItsShortcut) {
+  desktop.folder.Write("bin/writer", "");
+  Read({"Z:\\home\\ana\\Writer", "", "", "", 0, 1}, "Writer.lnk");
+  for (int filed = 0; filed < 2; ++filed) FileBesideDocument("bin\\writer");
+  EXPECT_THAT(FilesInProgramFolder(), ElementsAre("Writer (2).lnk", "Writer.lnk", "a.odt.lnk"));
+  EXPECT_EQ(LinkAt("Writer.lnk").target, "Z:\\home\\ana\\Writer");
+  EXPECT_EQ(LinkAt("Writer (2).lnk").target, Program("bin\\writer"));
+}
+
+TEST_F(CShortcutTest, AFolderInTheWayOfAProgramsShortcutIsLeftAlone) {
+  desktop.folder.Write("bin/writer", "");
+  desktop.folder.Write("program/Writer.lnk/kept.txt", "kept");
+  FileBesideDocument("bin\\writer");
+  EXPECT_EQ(testing::ReadFile(desktop.NativeFolder() + "/Writer.lnk/kept.txt"), "kept");
+  EXPECT_EQ(LinkAt("Writer (2).lnk").target, Program("bin\\writer"));
+}
+
+TEST_F(CShortcutTest, ASymbolicLinkInTheWayOfAProgramsShortcutIsReplacedAndNotFollowed) {
+  desktop.folder.Write("bin/writer", "");
+  const std::string document = desktop.folder.Write("document.odt", "a document");
+  fs::create_symlink(document, desktop.NativeFolder() + "/Writer.lnk");
+  FileBesideDocument("bin\\writer");
+  EXPECT_EQ(testing::ReadFile(document), "a document");
+  EXPECT_EQ(LinkAt("Writer.lnk").target, Program("bin\\writer"));
 }
 
 TEST_F(CShortcutTest, OpeningPassesTargetWorkingFolderAndShowCommandToTheShell) {

@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <memory>
 #include <unistd.h>
+#include <utility>
 
 #include "base/Text.h"
 #include "base/Utf8.h"
@@ -26,9 +27,7 @@ std::string NativePart(std::string_view part) {
   std::string native(part);
   for (char& c : native)
     if (c == '\\') c = '/';
-  ReplaceAll(native, kQuoteStandIn, "\"");
-  ReplaceAll(native, kBackslashStandIn, "\\");
-  return native;
+  return ForReading(std::move(native));
 }
 
 /// The value of an environment variable that holds an absolute path, or empty.
@@ -66,6 +65,12 @@ std::optional<std::string> FindIgnoringCase(const std::string& folder, const std
 }
 
 }  // namespace
+
+std::string ForReading(std::string text) {
+  ReplaceAll(text, kQuoteStandIn, "\"");
+  ReplaceAll(text, kBackslashStandIn, "\\");
+  return text;
+}
 
 std::optional<std::string> ToNative(std::string_view path) {
   if (path.size() < 2 || path[1] != ':') return std::nullopt;

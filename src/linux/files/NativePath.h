@@ -27,4 +27,8 @@ std::optional<std::string> FromNative(std::string_view nativePath);
 /// The same for one bare name.
 std::optional<std::string> NameFromNative(std::string_view nativeName);
 
+/// A text that may hold names in the program's form, as a person reads it: with the characters that the two stand-ins
+/// stand for. What the program itself keeps, and finds things by, is never this.
+std::string ForReading(std::string text);
+
 }  // namespace dayvane::files

@@ -11,6 +11,7 @@
 
 #include "linux/Pictures.h"
 #include "linux/UsersTurn.h"
+#include "linux/files/NativePath.h"
 #include "linux/widgets/FormPresenter.h"
 #include "linux/widgets/Lengths.h"
 #include "shell/MResourceConstants.h"
@@ -59,7 +60,7 @@ QMessageBox::Icon IconOf(const Message& message) {
 }
 
 QString TextOf(const Message& message) {
-  return QString::fromStdString(message.text).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+  return QString::fromStdString(files::ForReading(message.text)).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
 }
 
 }  // namespace

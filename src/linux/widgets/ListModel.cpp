@@ -1,5 +1,7 @@
 #include "linux/widgets/ListModel.h"
 
+#include "linux/files/NativePath.h"
+
 namespace dayvane::widgets {
 
 ListModel::ListModel(controls::ListView& control, const Icons& icons) : m_control(control), m_icons(icons) {
@@ -30,7 +32,7 @@ QVariant ListModel::data(const QModelIndex& index, int role) const {
   const controls::ListItem& item = m_control.Row(static_cast<std::size_t>(index.row()));
   switch (role) {
     case Qt::DisplayRole:
-      return QString::fromStdString(item.Text(static_cast<std::size_t>(index.column())));
+      return QString::fromStdString(files::ForReading(item.Text(static_cast<std::size_t>(index.column()))));
     case Qt::DecorationRole:
       return index.column() == 0 ? QVariant(IconOf(item)) : QVariant();
     case Qt::TextAlignmentRole:

@@ -1,5 +1,7 @@
 #include "linux/widgets/StatusBarPresenter.h"
 
+#include "linux/files/NativePath.h"
+
 namespace dayvane::widgets {
 
 StatusBarPresenter::StatusBarPresenter(controls::StatusBar& control, QWidget* parent)
@@ -10,7 +12,7 @@ StatusBarPresenter::StatusBarPresenter(controls::StatusBar& control, QWidget* pa
 }
 
 void StatusBarPresenter::Show() {
-  const QString text = QString::fromStdString(m_control.Text());
+  const QString text = QString::fromStdString(files::ForReading(m_control.Text()));
   m_text.setText(text);
   setAccessibleName(text);
 }

@@ -1,5 +1,7 @@
 #include "linux/widgets/TreeModel.h"
 
+#include "linux/files/NativePath.h"
+
 namespace dayvane::widgets {
 
 using controls::TreeNode;
@@ -42,7 +44,7 @@ QVariant TreeModel::data(const QModelIndex& index, int role) const {
   if (node == nullptr) return {};
   switch (role) {
     case Qt::DisplayRole:
-      return QString::fromStdString(node->text);
+      return QString::fromStdString(files::ForReading(node->text));
     case Qt::DecorationRole:
       return m_icons.Of(m_control.Images(), node->image);
     default:

@@ -67,6 +67,12 @@ TEST(NativePath, ABackslashInANameIsNoSeparator) {
             "b");
 }
 
+TEST(NativePath, APersonReadsTheCharactersThatTheStandInsStandFor) {
+  for (const char* name : {"plain", "say \"yes\"", "back\\slash", "\"\\\"\\", ""})
+    EXPECT_EQ(ForReading(NameFromNative(name).value()), name);
+  EXPECT_EQ(ForReading("The document /a \"b\" was not found."), "The document /a \"b\" was not found.");
+}
+
 TEST(NativePath, ANameWithoutAFaithfulFormHasNone) {
   EXPECT_EQ(FromNative("/tmp/a\xFF"), std::nullopt);
   EXPECT_EQ(FromNative("/tmp/a\xEF\x81\x9C"), std::nullopt) << "it would come back as a backslash";

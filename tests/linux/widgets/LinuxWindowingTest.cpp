@@ -59,6 +59,21 @@ TEST_F(LinuxWindowingTest, AMessageShowsItsLinesIconAndTitle) {
   EXPECT_EQ(icon, QMessageBox::Information);
 }
 
+TEST_F(LinuxWindowingTest, AQuestionNamesADocumentAsItsUserDoes) {
+  QString text;
+  WhenAsked([&](QMessageBox& box) {
+    text = box.text();
+    box.accept();
+  });
+
+  m_windowing.ShowMessage(
+      {"The document \\\\server\\share\\\xEF\x80\xA2Plan\xEF\x80\xA2 1\xEF\x81\x9C"
+       "2.odt\r\nwas not found. Remove this link?",
+       "Dayvane"});
+
+  EXPECT_EQ(text, "The document \\\\server\\share\\\"Plan\" 1\\2.odt\nwas not found. Remove this link?");
+}
+
 TEST_F(LinuxWindowingTest, ADocumentsNameIsNoMarkup) {
   Qt::TextFormat format{};
   WhenAsked([&](QMessageBox& box) {

@@ -1,4 +1,5 @@
 #include <QAbstractItemModelTester>
+#include <QAccessible>
 #include <QHeaderView>
 #include <QScrollBar>
 #include <QTest>
@@ -65,6 +66,19 @@ class ListPresenterTest : public testing::Test {
   QWidget m_pane;
   std::unique_ptr<ListPresenter> m_presenter;
 };
+
+TEST_F(ListPresenterTest, ADocumentsNameIsShownAndSpokenAsItsUserWritesIt) {
+  const std::string name =
+      "\xEF\x80\xA2Plan\xEF\x80\xA2 1\xEF\x81\x9C"
+      "2.odt";
+  m_control.Add("K" + name, name, 0).subItems = {"Text", "/home/ana", "10:00"};
+  m_control.SetView(ListStyle::Details);
+  QTreeView& view = Present().DetailsView();
+  EXPECT_EQ(view.model()->index(0, 0).data().toString(), "\"Plan\" 1\\2.odt");
+  QAccessibleTableInterface* table = QAccessible::queryAccessibleInterface(&view)->tableInterface();
+  EXPECT_EQ(table->cellAt(0, 0)->text(QAccessible::Name), "\"Plan\" 1\\2.odt");
+  EXPECT_EQ(m_control.Row(0).text, name) << "the control keeps what the program finds things by";
+}
 
 TEST_F(ListPresenterTest, TheModelKeepsItsPromisesWhileTheListChanges) {
   const QAbstractItemModelTester tester(Present().DetailsView().model(),

@@ -31,6 +31,16 @@ TEST(StatusBarPresenter, ShowsTheTextAndSpeaksIt) {
   EXPECT_EQ(presenter.accessibleName(), "12 objects");
 }
 
+TEST(StatusBarPresenter, ShowsAndSpeaksNamesAsAPersonReadsThem) {
+  controls::StatusBar control;
+  const StatusBarPresenter presenter(control);
+
+  control.SetText("\xEF\x80\xA2Plan\xEF\x80\xA2");
+
+  EXPECT_EQ(presenter.Text(), "\"Plan\"");
+  EXPECT_EQ(presenter.accessibleName(), "\"Plan\"");
+}
+
 TEST(StatusBarPresenter, ARefreshPaintsBeforeAnyEventRuns) {
   controls::StatusBar control;
   StatusBarPresenter presenter(control);

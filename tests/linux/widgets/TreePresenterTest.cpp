@@ -65,6 +65,12 @@ class TreePresenterTest : public testing::Test {
   std::unique_ptr<TreePresenter> m_presenter;
 };
 
+TEST_F(TreePresenterTest, ANameIsShownAsAPersonReadsIt) {
+  m_control.AddRoot("K", "\xEF\x80\xA2My\xEF\x80\xA2 days", 1);
+  Present();
+  EXPECT_EQ(IndexOf("K").data().toString(), "\"My\" days");
+}
+
 TEST_F(TreePresenterTest, TheModelKeepsItsPromisesWhileTheTreeChanges) {
   const QAbstractItemModelTester tester(Present().model(), QAbstractItemModelTester::FailureReportingMode::Fatal);
 

@@ -101,7 +101,8 @@ void ProgramIndex::Fill() {
 }
 
 glib::Object<GAppInfo> FindByProgram(const std::string& program) {
-  GAppInfo* found = ProgramIndex().Find(program);
+  ProgramIndex index;
+  GAppInfo* found = index.Find(program);
   return glib::Object<GAppInfo>(found != nullptr ? G_APP_INFO(g_object_ref(found)) : nullptr);
 }
 

@@ -15,13 +15,17 @@ namespace {
 constexpr std::string_view kHeader = "dayvane-recent 1";
 constexpr std::string_view kNone = "-";
 
+bool IsControl(char c) {
+  return static_cast<unsigned char>(c) < 0x20 || c == 0x7F;
+}
+
 std::string Escape(std::string_view text) {
   constexpr std::string_view kDigits = "0123456789ABCDEF";
   const bool isUtf8 = utf8::IsValid(text);
   std::string escaped;
   for (const char c : text) {
     const auto byte = static_cast<unsigned char>(c);
-    if (byte < 0x20 || byte == 0x7F || c == '%' || (byte >= 0x80 && !isUtf8))
+    if (IsControl(c) || c == '%' || (byte >= 0x80 && !isUtf8))
       escaped += {'%', kDigits[byte >> 4U], kDigits[byte & 15U]};
     else
       escaped += c;
@@ -38,9 +42,11 @@ std::optional<Number> ParseNumber(std::string_view text, int base = 10) {
   return number;
 }
 
+/// Nothing for a text that Escape does not write: one with a null would be cut short on its way to the system.
 std::optional<std::string> Unescape(std::string_view text) {
   std::string plain;
   for (std::size_t i = 0; i < text.size(); ++i) {
+    if (IsControl(text[i])) return std::nullopt;
     if (text[i] != '%') {
       plain += text[i];
       continue;
@@ -136,9 +142,10 @@ bool ParseFuture(std::string_view text, RecentDocument& document) {
   if (parts.size() != 2) return false;
   const auto from = ParseNumber<Moment>(parts[0]);
   const auto to = ParseNumber<Moment>(parts[1]);
-  document.futureFrom = from.value_or(0);
-  document.futureTo = to.value_or(0);
-  return from && to;
+  if (!from || !to || *to == 0 || *from > *to) return false;
+  document.futureFrom = *from;
+  document.futureTo = *to;
+  return true;
 }
 
 /// A name that a shortcut of ours may have: never one that leads out of the folder.
@@ -204,7 +211,7 @@ class StateParser {
     const auto latest = ParseNumber<Moment>(fields[1]);
     const auto number = ParseNumber<int>(fields[2]);
     const auto families = ParseList<std::uint16_t>(fields[3], 16);
-    if (!latest || !number || *number > 999'999 || !families) return false;
+    if (!latest || *latest == 0 || !number || *number > 999'999 || !families) return false;
     m_reading.state.forgotten = {*latest, *number, {families->begin(), families->end()}};
     return true;
   }

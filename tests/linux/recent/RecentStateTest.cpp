@@ -77,18 +77,41 @@ TEST(RecentState, GarbageIsAnEmptyState) {
 }
 
 TEST(RecentState, LinesThatCouldDoHarmAreRefused) {
-  for (const char* line :
-       {"document\t1\t1\t-\t-\t-\t../../evil.lnk\t/a", "document\t1\t1\t-\t-\t-\tevil.txt\t/a",
-        "document\t1\t1\t-\t-\t-\t.hidden.lnk\t/a", "document\t1\t1\t-\t-\t-\ta.lnk\trelative",
-        "document\t-5\t1\t-\t-\t-\ta.lnk\t/a", "document\t1\t1\t-\t-\t1,,2\ta.lnk\t/a",
-        "document\t1\t1\t?\t-\t-\ta.lnk\t/a", "document\t1\t1\t-\t1\t-\ta.lnk\t/a",
-        "document\t1\t1\t-\t-\t-\ta%2.lnk\t/a", "document\t1\t1\t-\t-\t-\ta.lnk\t/a%",
-        "document\t1\t1\t-\t-\t-\ta.lnk\t/a%00", "document\t99999999999999999999\t1\t-\t-\t-\ta.lnk\t/a",
-        "forgotten\t1\t9999999\t-", "forgotten\t1\t1\t12345", "unknown", ""}) {
+  for (const char* line : {"document\t1\t1\t-\t-\t-\t../../evil.lnk\t/a",
+                           "document\t1\t1\t-\t-\t-\tevil.txt\t/a",
+                           "document\t1\t1\t-\t-\t-\t.hidden.lnk\t/a",
+                           "document\t1\t1\t-\t-\t-\ta.lnk\trelative",
+                           "document\t-5\t1\t-\t-\t-\ta.lnk\t/a",
+                           "document\t1\t1\t-\t-\t1,,2\ta.lnk\t/a",
+                           "document\t1\t1\t?\t-\t-\ta.lnk\t/a",
+                           "document\t1\t1\t-\t1\t-\ta.lnk\t/a",
+                           "document\t1\t1\t-\t0:0\t-\ta.lnk\t/a",
+                           "document\t1\t1\t-\t2:1\t-\ta.lnk\t/a",
+                           "document\t1\t1\t-\tx:1\t-\ta.lnk\t/a",
+                           "document\t1\t1\t-\t-\t-\ta%2.lnk\t/a",
+                           "document\t1\t1\t-\t-\t-\ta.lnk\t/a%",
+                           "document\t1\t1\t-\t-\t-\ta.lnk\t/a%00",
+                           "document\t99999999999999999999\t1\t-\t-\t-\ta.lnk\t/a",
+                           "forgotten\t1\t9999999\t-",
+                           "forgotten\t1\t1\t12345",
+                           "forgotten\t0\t1\t-",
+                           "unknown",
+                           ""}) {
     const StateReading reading = ReadState("dayvane-recent 1\n" + std::string(line) + "\nend\t0\n");
     EXPECT_TRUE(reading.isDamaged) << line;
     EXPECT_TRUE(reading.state.documents.empty()) << line;
   }
+}
+
+TEST(RecentState, AControlCharacterThatIsNotEscapedIsRefused) {
+  for (const char control : {'\0', '\1', '\r', '\x7F'})
+    for (const char* line : {"document\t1\t1\t-\t-\t-\ta?.lnk\t/a", "document\t1\t1\t-\t-\t-\ta.lnk\t/a?b"}) {
+      std::string text = line;
+      text[text.find('?')] = control;
+      const StateReading reading = ReadState("dayvane-recent 1\n" + text + "\nend\t0\n");
+      EXPECT_TRUE(reading.isDamaged) << line;
+      EXPECT_TRUE(reading.state.documents.empty()) << line;
+    }
 }
 
 TEST(RecentState, APathOrANameStandsForOneDocument) {

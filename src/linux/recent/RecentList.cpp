@@ -155,8 +155,24 @@ std::size_t FindBookmark(std::string_view text, std::size_t from) {
   return std::string_view::npos;
 }
 
+/// The length of the tag that the text starts with; npos without its end.
+std::size_t TagLength(std::string_view text) {
+  char quote = '\0';
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const char c = text[i];
+    if (quote == '\0' && c == '>') return i + 1;
+    if (quote == '\0' && (c == '"' || c == '\''))
+      quote = c;
+    else if (c == quote)
+      quote = '\0';
+  }
+  return std::string_view::npos;
+}
+
 /// The text up to the end of its first bookmark, where it has one.
 std::string_view UpToEnd(std::string_view text) {
+  const std::string_view tag = text.substr(0, TagLength(text));
+  if (tag.ends_with("/>")) return tag;
   const auto endTag = text.find("</bookmark>");
   return endTag == std::string_view::npos ? text : text.substr(0, endTag + std::string_view("</bookmark>").size());
 }

@@ -269,6 +269,12 @@ TEST(RecentList, ADamagedEntryCostsOnlyItself) {
   }
 }
 
+TEST(RecentList, AnEntryWithoutContentsIsReadWhateverRubbishFollows) {
+  for (const std::string& rubbish : {std::string("< "), std::string(1000, '"'), std::string((1U << 20U) + 1, 'x')})
+    EXPECT_THAT(Addresses(ParseRecentList(List("<bookmark href='file:///a\"/>'/>" + rubbish + "&"))),
+                ElementsAre("file:///a\"/>"));
+}
+
 TEST(RecentList, BrokenCharactersDoNotCostTheEntry) {
   const RecentList list = ParseRecentList(List(
       "<bookmark href=\"file:///a\xFF.txt\"><title>\xC3 & \x01 &nbsp;</title></bookmark>" + Bookmark("file:///2")));

@@ -1,5 +1,7 @@
 #include "linux/Pictures.h"
 
+#include <QCoreApplication>
+#include <QHash>
 #include <QPainter>
 #include <QPixmap>
 #include <QString>
@@ -78,10 +80,16 @@ QIcon IconDrawnPerSize(const char* name) {
 }  // namespace
 
 QIcon PictureIcon(int picture) {
+  // Drawn once each: an icon keeps the pixmaps that were asked of it, and is shared by whoever shows it.
+  static QHash<int, QIcon> icons;
+  const auto known = icons.constFind(picture);
+  if (known != icons.constEnd()) return *known;
   const auto* file =
       std::find_if(std::begin(kFiles), std::end(kFiles), [&](const PictureFile& f) { return f.picture == picture; });
   if (file == std::end(kFiles)) return {};
-  return file->drawnPerSize ? IconDrawnPerSize(file->name) : QIcon(ResourcePath(file->name, ""));
+  if (icons.isEmpty()) qAddPostRoutine([] { icons.clear(); });  // no pixmap may outlive the application
+  return *icons.insert(picture,
+                       file->drawnPerSize ? IconDrawnPerSize(file->name) : QIcon(ResourcePath(file->name, "")));
 }
 
 }  // namespace dayvane

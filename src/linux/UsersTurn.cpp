@@ -18,6 +18,11 @@ int& Questions() {
   return depth;
 }
 
+int& Background() {
+  static int depth = 0;
+  return depth;
+}
+
 void Once(QObject& context, bool (*waits)(), std::function<void()> act) {
   if (!waits()) return act();
   QTimer::singleShot(kLookAgainMilliseconds, &context,
@@ -40,11 +45,22 @@ QuestionScope::~QuestionScope() {
   --Questions();
 }
 
+BackgroundScope::BackgroundScope() {
+  ++Background();
+}
+BackgroundScope::~BackgroundScope() {
+  --Background();
+}
+
 bool IsAtWork() {
   return Work() > 0;
 }
 bool IsAsking() {
   return Questions() > 0;
+}
+
+bool IsInBackground() {
+  return Background() > 0;
 }
 
 void AfterWork(QObject& context, std::function<void()> act) {

@@ -27,8 +27,19 @@ class QuestionScope {
   ~QuestionScope();
 };
 
+/// What runs for as long as this lives was begun by a timer and not by the user: how it goes reaches the screen only
+/// when it lasts.
+class BackgroundScope {
+ public:
+  BackgroundScope();
+  BackgroundScope(const BackgroundScope&) = delete;
+  BackgroundScope& operator=(const BackgroundScope&) = delete;
+  ~BackgroundScope();
+};
+
 bool IsAtWork();
 bool IsAsking();
+bool IsInBackground();
 
 /// Acts at once if the program is not at work, else soon after it has done. Never if `context` is gone by then.
 void AfterWork(QObject& context, std::function<void()> act);

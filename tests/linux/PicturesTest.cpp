@@ -68,5 +68,10 @@ TEST(Pictures, ANumberWithoutAPictureGivesAnEmptyIcon) {
   EXPECT_TRUE(PictureIcon(ToolbarPicture(kToolbarButtons)).isNull());
 }
 
+TEST(Pictures, APictureIsDrawnOnceHoweverOftenItIsAskedFor) {
+  EXPECT_EQ(PictureIcon(kBusyIcon).cacheKey(), PictureIcon(kBusyIcon).cacheKey());
+  EXPECT_NE(PictureIcon(kBusyIcon).cacheKey(), PictureIcon(kNormalIcon).cacheKey());
+}
+
 }  // namespace
 }  // namespace dayvane

@@ -3,6 +3,7 @@
 #include <QWidget>
 
 #include "controls/Control.h"
+#include "linux/UsersTurn.h"
 
 namespace dayvane::widgets {
 
@@ -10,7 +11,9 @@ ControlLink::ControlLink(controls::Control& control, QWidget& widget, std::funct
     : m_control(control), m_widget(widget), m_show(std::move(show)) {
   m_connections.push_back(control.Changed.ConnectScoped([this] { Show(); }));
   m_connections.push_back(control.FocusWanted.ConnectScoped([this] { m_widget.setFocus(Qt::OtherFocusReason); }));
-  m_connections.push_back(control.RefreshWanted.ConnectScoped([this] { m_widget.repaint(); }));
+  m_connections.push_back(control.RefreshWanted.ConnectScoped([this] {
+    if (!IsInBackground()) m_widget.repaint();
+  }));
 }
 
 void ControlLink::Show() {

@@ -59,7 +59,9 @@ FormPresenter::FormPresenter(controls::Form& form, QWidget& window, QWidget& ins
   connect(qApp, &QGuiApplication::commitDataRequest, this, [this] { EndSession(); });
   m_connections.push_back(form.Changed.ConnectScoped([this] { Show(); }));
   m_connections.push_back(form.WhatsThisWanted.ConnectScoped([] { QWhatsThis::enterWhatsThisMode(); }));
-  m_connections.push_back(form.RefreshWanted.ConnectScoped([this] { m_window.repaint(); }));
+  m_connections.push_back(form.RefreshWanted.ConnectScoped([this] {
+    if (!IsInBackground()) m_window.repaint();
+  }));
   m_window.installEventFilter(this);
   m_inside.installEventFilter(this);
   Show();
@@ -204,7 +206,7 @@ void FormPresenter::TellPlace() {
 void FormPresenter::Show() {
   m_window.setWindowTitle(QString::fromStdString(m_form.Caption()));
   m_window.setEnabled(m_form.Enabled());
-  ShowPointer();
+  m_latePointer.Changed(m_form.Pointer() == controls::MousePointer::Hourglass);
   ShowPlace();
   ShowState();
   ShowVisible();

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "controls/Form.h"
+#include "linux/widgets/LateShow.h"
 
 class QHelpEvent;
 class QKeyEvent;
@@ -72,6 +73,7 @@ class FormPresenter : public QObject {
   QRectF m_shownPlace;  ///< twips
   controls::WindowState m_shownState = controls::WindowState::Normal;
   bool m_showsHourglass = false;
+  LateShow m_latePointer{[this] { ShowPointer(); }};
   bool m_wasShown = false;
   int m_takenKey = 0;  ///< whose release says nothing, because its press was answered
   std::vector<controls::Connection> m_connections;

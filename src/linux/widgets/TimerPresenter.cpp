@@ -6,7 +6,9 @@ namespace dayvane::widgets {
 
 TimerPresenter::TimerPresenter(controls::Timer& control) : m_control(control) {
   QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this] {
-    if (!IsAtWork()) m_control.Fire();
+    if (IsAtWork()) return;
+    const BackgroundScope background;
+    m_control.Fire();
   });
   m_changed = control.Changed.ConnectScoped([this] { Show(); });
   Show();

@@ -5,6 +5,7 @@
 
 #include "linux/Pictures.h"
 #include "linux/UsersTurn.h"
+#include "shell/MResourceConstants.h"
 
 namespace dayvane::widgets {
 
@@ -75,8 +76,15 @@ void TrayPresenter::Show() {
   }
   m_show.setVisible(!m_form.Visible());
   m_hide.setVisible(m_form.Visible());
-  m_standIn.SetPicture(PictureIcon(m_control.Picture()));
   m_standIn.SetTip(QString::fromStdString(m_control.TipText()));
+  m_late.Changed(m_control.Picture() == kBusyIcon);
+}
+
+void TrayPresenter::ShowPicture() {
+  if (std::exchange(m_shownPicture, m_control.Picture()) == m_control.Picture()) return;
+  const QIcon icon = PictureIcon(m_shownPicture);
+  if (m_icon != nullptr) m_icon->setIcon(icon);
+  m_standIn.SetPicture(icon);
 }
 
 void TrayPresenter::ShowIcon() {
@@ -85,8 +93,8 @@ void TrayPresenter::ShowIcon() {
     m_icon->setContextMenu(&m_menu);
     QObject::connect(m_icon.get(), &QSystemTrayIcon::activated, m_icon.get(),
                      [this](QSystemTrayIcon::ActivationReason reason) { Activate(reason); });
+    m_icon->setIcon(PictureIcon(m_control.Picture()));
   }
-  m_icon->setIcon(PictureIcon(m_control.Picture()));
   m_icon->setToolTip(QString::fromStdString(m_control.TipText()));
   m_icon->setVisible(m_control.Visible());
 }

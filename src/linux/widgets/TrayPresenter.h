@@ -9,6 +9,7 @@
 
 #include "controls/Form.h"
 #include "controls/SimpleControls.h"
+#include "linux/widgets/LateShow.h"
 #include "linux/widgets/MenuPresenter.h"
 #include "linux/widgets/TrayStandIn.h"
 #include "linux/widgets/TrayWatch.h"
@@ -33,6 +34,7 @@ class TrayPresenter {
 
  private:
   void Show();
+  void ShowPicture();
   void ShowIcon();
   void ShowStandIn();
   QList<QAction*> Commands();  ///< of the stand-in
@@ -46,6 +48,8 @@ class TrayPresenter {
   TrayStandIn m_standIn;
   std::unique_ptr<QSystemTrayIcon> m_icon;  ///< once there was a tray
   QTimer m_patience;
+  int m_shownPicture = 0;
+  LateShow m_late{[this] { ShowPicture(); }};
   std::vector<controls::Connection> m_connections;
 };
 

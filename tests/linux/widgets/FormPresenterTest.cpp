@@ -288,5 +288,24 @@ TEST_F(FormPresenterTest, AClickInWhatsThisModeShowsTheControlsTopic) {
   EXPECT_FALSE(QWhatsThis::inWhatsThisMode());
 }
 
+TEST_F(FormPresenterTest, TheHourglassOfAPollThatIsOverInAMomentIsNeverSeen) {
+  {
+    const BackgroundScope poll;
+    m_form.SetPointer(controls::MousePointer::Hourglass);
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+    m_form.SetPointer(controls::MousePointer::Default);
+  }
+  QTest::qWait(200);
+  EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+}
+
+TEST_F(FormPresenterTest, TheHourglassOfAPollThatLastsIsSeen) {
+  const BackgroundScope poll;
+  m_form.SetPointer(controls::MousePointer::Hourglass);
+  EXPECT_TRUE(QTest::qWaitFor([] { return QGuiApplication::overrideCursor() != nullptr; }));
+  m_form.SetPointer(controls::MousePointer::Default);
+  EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+}
+
 }  // namespace
 }  // namespace dayvane::widgets

@@ -4,8 +4,10 @@
 #include <gmock/gmock.h>
 #include <optional>
 
+#include "linux/Pictures.h"
 #include "linux/UsersTurn.h"
 #include "linux/widgets/TrayPresenter.h"
+#include "shell/MResourceConstants.h"
 
 namespace dayvane::widgets {
 namespace {
@@ -26,6 +28,16 @@ class TestTray : public TrayWatch {
   bool m_isThere = false;
 };
 
+/// Counts how often a window's icon changes.
+class IconChanges : public QObject {
+ public:
+  bool eventFilter(QObject* /*object*/, QEvent* event) override {
+    if (event->type() == QEvent::WindowIconChange) ++changes;
+    return false;
+  }
+  int changes = 0;
+};
+
 class TrayPresenterTest : public testing::Test {
  protected:
   TrayPresenterTest() {
@@ -44,6 +56,9 @@ class TrayPresenterTest : public testing::Test {
     throw std::runtime_error(text);
   }
 
+  qint64 Shown() { return m_presenter.StandIn().windowIcon().cacheKey(); }
+
+  IconChanges m_icons;
   controls::SystemTray m_control;
   controls::Menu m_menu{"Tray", {{"&Show"}, {"&Hide"}, {"-"}, {"E&xit"}}};
   controls::Form m_form;
@@ -166,6 +181,35 @@ TEST_F(TrayPresenterTest, ClosingTheStandInLeavesAWayToTheProgram) {
   m_presenter.StandIn().close();
 
   EXPECT_TRUE(m_presenter.StandIn().isVisible());
+}
+
+TEST_F(TrayPresenterTest, APollThatIsOverInAMomentChangesNothingOnTheScreen) {
+  m_form.SetVisible(true);  // so that the stand-in is not about to be shown
+  m_control.SetPicture(kNormalIcon);
+  m_presenter.StandIn().installEventFilter(&m_icons);
+  {
+    const BackgroundScope poll;
+    m_control.SetPicture(kBusyIcon);
+    m_control.SetPicture(kNormalIcon);
+  }
+  QTest::qWait(200);
+  EXPECT_EQ(m_icons.changes, 0);
+  EXPECT_EQ(Shown(), PictureIcon(kNormalIcon).cacheKey());
+}
+
+TEST_F(TrayPresenterTest, APollThatLastsShowsThatTheProgramIsBusy) {
+  m_control.SetPicture(kNormalIcon);
+  const BackgroundScope poll;
+  m_control.SetPicture(kBusyIcon);
+  EXPECT_TRUE(QTest::qWaitFor([this] { return Shown() == PictureIcon(kBusyIcon).cacheKey(); }));
+  m_control.SetPicture(kNormalIcon);
+  EXPECT_EQ(Shown(), PictureIcon(kNormalIcon).cacheKey());
+}
+
+TEST_F(TrayPresenterTest, WorkThatTheUserAskedForShowsAtOnce) {
+  m_control.SetPicture(kNormalIcon);
+  m_control.SetPicture(kBusyIcon);
+  EXPECT_EQ(Shown(), PictureIcon(kBusyIcon).cacheKey());
 }
 
 }  // namespace

@@ -12,10 +12,16 @@ class Calendar : public Control {
  public:
   using Day = std::chrono::local_days;
 
+  /// The first and the last day that the program can spell and has folders for.
+  static constexpr Day kFirstDay{std::chrono::year{100} / 1 / 1};
+  static constexpr Day kLastDay{std::chrono::year{9999} / 12 / 31};
+
   Day CurrentDate() const { return m_current; }
 
-  /// Raises WillChangeDate, then DateChange, also when the date stays the same. A listener may cancel.
+  /// Raises WillChangeDate, then DateChange, also when the date stays the same. A listener may cancel. A day before the
+  /// first or after the last changes nothing.
   void SetCurrentDate(Day date) {
+    if (date < kFirstDay || date > kLastDay) return;
     bool cancel = false;
     const Day old = m_current;
     WillChangeDate.Raise(old, date, cancel);

@@ -159,7 +159,7 @@ void FMain::ConnectViews() {
   for (DocumentListView* view :
        {static_cast<DocumentListView*>(m_oDaily.get()), static_cast<DocumentListView*>(m_oFavorites.get())}) {
     view->DblClick.Connect([this](controls::ListItem& item) { m_oDaily_ListViewDblClick(item); });
-    view->ItemClick.Connect([this] { SetExploreOpen(true); });
+    view->ItemClick.Connect([this] { m_oDaily_ListViewItemClick(); });
     view->PopupMenu.Connect([this](double x, double y) { m_oDaily_ListViewPopupMenu(x, y); });
   }
 }

@@ -157,6 +157,7 @@ class FMain {
   void m_oCalendar_DateChange(const Date& newDate);
   void m_oDaily_TreeViewNodeClick(const controls::TreeNode& node);
   void m_oDaily_ListViewDblClick(const controls::ListItem& item);
+  void m_oDaily_ListViewItemClick();
   void m_oDaily_ListViewPopupMenu(double x, double y);
   void tvwMain_MouseUp(int button, double x, double y);
   void picMain_Resize(int index);

@@ -166,15 +166,15 @@ void FMain::sftToolbar_Click(int index) {
 }
 
 void FMain::tryMain_MouseUp(int button) {
-  auto& windowing = m_application.desktop.windowing;
-  windowing.SetForegroundWindow(form);
   ReportErrors(m_application, kHidingShowingSuspendingResuming, kName, "tryMain_MouseUp", [&] {
+    auto& windowing = m_application.desktop.windowing;
+    windowing.SetForegroundWindow(form);
     if (button == kLeftButton) SetVisible(!form.Visible());
     if (button == kRightButton)
       windowing.PopupMenuAtMouse(form, mnuSysTrayPopup, form.Visible() ? kTrayHide : kTrayShow);
+    // Without a message after it the menu would stay open when the user clicks elsewhere.
+    windowing.PostMessage(form, platform::kWmUser);
   });
-  // Without a message after it the menu would stay open when the user clicks elsewhere.
-  windowing.PostMessage(form, platform::kWmUser);
 }
 
 void FMain::Exit() {

@@ -61,7 +61,9 @@ void FMain::Form_Resize() {
 void FMain::picMain_Resize(int index) {
   constexpr int kToolbarStrip = 3;
   if (index != kToolbarStrip) return;
-  for (controls::Line& line : linToolbar) line.SetX2(picMain[kToolbarStrip].Width());
+  ReportErrors(m_application, kResizing, kName, "picMain_Resize", [this] {
+    for (controls::Line& line : linToolbar) line.SetX2(picMain[kToolbarStrip].Width());
+  });
 }
 
 void FMain::Form_QueryUnload(bool& cancel, controls::UnloadMode mode) {

@@ -1,5 +1,6 @@
 #include "views/CCalendar.h"
 
+#include "app/ReportErrors.h"
 #include "base/Required.h"
 #include "base/Text.h"
 #include "fs/Dir.h"
@@ -70,15 +71,17 @@ void CCalendar::Refresh() {
 }
 
 void CCalendar::Calendar_DateChange(const Date& newDate) {
-  const std::string text = Format(newDate, "Short Date", m_application.desktop.dates);
-  const DateParts parts = m_application.shellServices.SplitDate(text);
-  const std::string month = std::to_string(parts.month);
-  const std::string year = std::to_string(parts.year);
-  const bool changed = month != m_month || year != m_year;
-  m_month = month;
-  m_year = year;
-  if (changed) HighlightDays(newDate);
-  DateChange.Raise(newDate);
+  ReportErrors(m_application, kSelectingDate, ClassName, "Calendar_DateChange", [&] {
+    const std::string text = Format(newDate, "Short Date", m_application.desktop.dates);
+    const DateParts parts = m_application.shellServices.SplitDate(text);
+    const std::string month = std::to_string(parts.month);
+    const std::string year = std::to_string(parts.year);
+    const bool changed = month != m_month || year != m_year;
+    m_month = month;
+    m_year = year;
+    if (changed) HighlightDays(newDate);
+    DateChange.Raise(newDate);
+  });
 }
 
 }  // namespace dayvane

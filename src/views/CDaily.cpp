@@ -2,6 +2,7 @@
 
 #include <cstdint>
 
+#include "app/ReportErrors.h"
 #include "base/Required.h"
 #include "settings/SettingsStore.h"
 
@@ -28,7 +29,10 @@ void CDaily::SetControls(controls::TreeView* treeView, controls::ListView* listV
   m_treeView = treeView;
   m_nodeClick = controls::Connection();
   if (treeView == nullptr) return;
-  m_nodeClick = treeView->NodeClick.ConnectScoped([this](controls::TreeNode& node) { TreeViewNodeClick.Raise(node); });
+  m_nodeClick = treeView->NodeClick.ConnectScoped([this](controls::TreeNode& node) {
+    ReportErrors(m_application, kProcessingSelection, ClassName, "TreeView_NodeClick",
+                 [&] { TreeViewNodeClick.Raise(node); });
+  });
 }
 
 controls::TreeView& CDaily::Tree(const std::string& procedure) const {

@@ -38,18 +38,32 @@ controls::PictureBox& DocumentListView::Container(const std::string& procedure) 
   return Required(m_container);
 }
 
+template <class Handler>
+auto DocumentListView::Reported(StringId phrase, const char* procedure, Handler handler) {
+  return [this, phrase, procedure, handler](auto&&... arguments) {
+    ReportErrors(m_application, phrase, m_className, procedure, [&] { handler(arguments...); });
+  };
+}
+
 void DocumentListView::SetListControls(controls::ListView* listView, controls::PictureBox* container) {
   m_connections.clear();
   m_listView = listView;
   m_container = container;
   const auto keep = [this](controls::Connection connection) { m_connections.push_back(std::move(connection)); };
-  if (container != nullptr) keep(container->Resize.ConnectScoped([this] { Container_Resize(); }));
+  if (container != nullptr)
+    keep(container->Resize.ConnectScoped(Reported(kResizing, "Container_Resize", [this] { Container_Resize(); })));
   if (listView == nullptr) return;
-  keep(listView->ColumnClick.ConnectScoped([this](std::size_t column) { ListView_ColumnClick(column); }));
-  keep(listView->DblClick.ConnectScoped([this] { ListView_DblClick(); }));
-  keep(listView->ItemClick.ConnectScoped([this](controls::ListItem&) { ItemClick.Raise(); }));
-  keep(listView->KeyUp.ConnectScoped([this](int key, int modifiers) { ListView_KeyUp(key, modifiers); }));
-  keep(listView->MouseUp.ConnectScoped([this](int button, double x, double y) { ListView_MouseUp(button, x, y); }));
+  keep(listView->ColumnClick.ConnectScoped(Reported(kChangingSortOrder, "ListView_ColumnClick",
+                                                    [this](std::size_t column) { ListView_ColumnClick(column); })));
+  keep(listView->DblClick.ConnectScoped(
+      Reported(kOpeningDocument, "ListView_DblClick", [this] { ListView_DblClick(); })));
+  keep(listView->ItemClick.ConnectScoped(
+      Reported(kProcessingSelection, "ListView_ItemClick", [this](controls::ListItem&) { ItemClick.Raise(); })));
+  keep(listView->KeyUp.ConnectScoped(Reported(kProcessingSelection, "ListView_KeyUp",
+                                              [this](int key, int modifiers) { ListView_KeyUp(key, modifiers); })));
+  keep(listView->MouseUp.ConnectScoped(
+      Reported(kDisplayingContextMenu, "ListView_MouseUp",
+               [this](int button, double x, double y) { ListView_MouseUp(button, x, y); })));
 }
 
 controls::ListItem* DocumentListView::SelectedDocument() const {

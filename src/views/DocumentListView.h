@@ -6,6 +6,7 @@
 #include "app/Application.h"
 #include "controls/ListView.h"
 #include "controls/SimpleControls.h"
+#include "resources/StringTable.h"
 
 namespace dayvane {
 
@@ -57,6 +58,10 @@ class DocumentListView {
 
  private:
   void ListView_ColumnClick(std::size_t column);
+  /// An event's handler with its report block.
+  template <class Handler>
+  auto Reported(StringId phrase, const char* procedure, Handler handler);
+
   void ListView_DblClick();
   void ListView_KeyUp(int keyCode, int modifiers);
   void ListView_MouseUp(int button, double x, double y);

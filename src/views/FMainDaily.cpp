@@ -153,9 +153,16 @@ int FMain::ImageListIndex(controls::ImageList& large, controls::ImageList& small
 }
 
 void FMain::m_oDaily_ListViewDblClick(const controls::ListItem& item) {
-  auto waitCursor = ShowWait();
-  OpenDocument(&item);
-  RefreshStatusBar(std::move(waitCursor));
+  ReportErrors(m_application, kOpeningDocument, kName, "m_oDaily_ListViewDblClick", [&] {
+    auto waitCursor = ShowWait();
+    OpenDocument(&item);
+    RefreshStatusBar(std::move(waitCursor));
+  });
+}
+
+void FMain::m_oDaily_ListViewItemClick() {
+  ReportErrors(m_application, kProcessingSelection, kName, "m_oDaily_ListViewItemClick",
+               [this] { SetExploreOpen(true); });
 }
 
 void FMain::m_oDaily_ListViewPopupMenu(double x, double y) {
@@ -176,10 +183,12 @@ void FMain::tvwMain_MouseUp(int button, double x, double y) {
 
 void FMain::m_oCalendar_DateChange(const Date& newDate) {
   if (m_inTreeClick) return;
-  // Days without documents are walked over on the way to others: there the list stays as it was, and nobody is told of
-  // an error at every step.
-  if (tvwMain.Find(KeyOf(m_repository.DayFolder(newDate))) != nullptr) SelectDate(newDate);
-  RefreshStatusBar();
+  ReportErrors(m_application, kSelectingDate, kName, "m_oCalendar_DateChange", [&] {
+    // Days without documents are walked over on the way to others: there the list stays as it was, and nobody is told
+    // of an error at every step.
+    if (tvwMain.Find(KeyOf(m_repository.DayFolder(newDate))) != nullptr) SelectDate(newDate);
+    RefreshStatusBar();
+  });
 }
 
 void FMain::m_oDaily_TreeViewNodeClick(const controls::TreeNode& node) {

@@ -35,6 +35,15 @@ class CalendarTest : public ::testing::Test {
   Calendar::Day to;
 };
 
+TEST_F(CalendarTest, OnlyDaysThatTheProgramCanSpellAreTaken) {
+  calendar.SetCurrentDate(DayOf(100, 1, 1));
+  calendar.SetCurrentDate(DayOf(99, 12, 31));
+  EXPECT_EQ(calendar.CurrentDate(), DayOf(100, 1, 1));
+  calendar.SetCurrentDate(DayOf(9999, 12, 31));
+  calendar.SetCurrentDate(DayOf(10000, 1, 1));
+  EXPECT_EQ(calendar.CurrentDate(), DayOf(9999, 12, 31));
+}
+
 TEST_F(CalendarTest, AChangeIsAnnouncedShownAndToldInThisOrder) {
   calendar.SetCurrentDate(DayOf(2026, 5, 3));
   EXPECT_THAT(heard, ElementsAre("will change", "changed", "date change"));

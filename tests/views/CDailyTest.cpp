@@ -240,11 +240,13 @@ TEST_F(CDailyTest, ExploringWithoutAListIsLoggedByItsProcedure) {
               ElementsAre("2\tCDaily.Explore: ListView is Nothing", "2\tCDaily.OpenFolder: ListView is Nothing"));
 }
 
-TEST_F(CDailyTest, ResizingThePaneWithoutItsControlsIsLogged) {
+TEST_F(CDailyTest, ResizingThePaneWithoutItsControlsIsLoggedAndReported) {
   daily.SetControls(&tree, nullptr, &pane);
-  EXPECT_ANY_THROW(pane.Move(0, 0, 10, 10));
+  pane.Move(0, 0, 10, 10);
   daily.SetControls(nullptr, &list, &pane);
-  EXPECT_ANY_THROW(pane.Move(0, 0, 20, 20));
+  pane.Move(0, 0, 20, 20);
+  const std::string told = "An error occurred resizing the main window.";
+  EXPECT_THAT(desktop.windowing.Texts(), ElementsAre(told, told));
   EXPECT_THAT(Events(), ElementsAre("2\tCDaily.Container_Resize: ListView is Nothing",
                                     "2\tCDaily.Container_Resize: TreeView is Nothing"));
 }

@@ -150,9 +150,10 @@ TEST_F(CFavoritesViewTest, MissingControlsAreLoggedByTheirProcedure) {
                   "2\tCFavorites.SaveSettings: ListView is Nothing", "2\tCFavorites.SetSize: Container is Nothing"));
 }
 
-TEST_F(CFavoritesViewTest, ResizingThePaneWithoutItsListIsLogged) {
+TEST_F(CFavoritesViewTest, ResizingThePaneWithoutItsListIsLoggedAndReported) {
   favorites.SetListControls(nullptr, &pane);
-  EXPECT_ANY_THROW(pane.Move(0, 0, 10, 10));
+  pane.Move(0, 0, 10, 10);
+  EXPECT_THAT(desktop.windowing.Texts(), ElementsAre("An error occurred resizing the main window."));
   EXPECT_THAT(Events(), ElementsAre("2\tCFavorites.Container_Resize: ListView is Nothing"));
 }
 

@@ -98,14 +98,17 @@ TEST_F(DocumentListViewTest, WithoutASelectedRowNothingIsOpenedAndNoMenuShown) {
   EXPECT_THAT(heard, IsEmpty());
 }
 
-TEST_F(DocumentListViewTest, AMissingPaneIsLoggedUnderTheNameOfTheView) {
+TEST_F(DocumentListViewTest, AMissingPaneIsLoggedUnderTheNameOfTheViewAndReported) {
   CDaily daily(application);
   for (DocumentListView* either : {static_cast<DocumentListView*>(&view), static_cast<DocumentListView*>(&daily)}) {
     view.SetListControls(nullptr, nullptr);
     either->SetListControls(&list, nullptr);
-    EXPECT_ANY_THROW(list.KeyUp.Raise(kF10, kAlt));
-    EXPECT_ANY_THROW(list.MouseUp.Raise(kRightButton, 5, 7));
+    list.KeyUp.Raise(kF10, kAlt);
+    list.MouseUp.Raise(kRightButton, 5, 7);
   }
+  const std::string key = "An error occurred processing a document selection.";
+  const std::string mouse = "An error occurred displaying a context menu.";
+  EXPECT_THAT(desktop.windowing.Texts(), ElementsAre(key, mouse, key, mouse));
   EXPECT_THAT(desktop.LogLines("EventLog.txt"), ElementsAre("2\tCFavorites.ListView_KeyUp: Container is Nothing",
                                                             "2\tCFavorites.ListView_MouseUp: Container is Nothing",
                                                             "2\tCDaily.ListView_KeyUp: Container is Nothing",

@@ -16,7 +16,7 @@ namespace {
 
 using Day = controls::Calendar::Day;
 
-const QDate kFirstDay(1970, 1, 1);
+const QDate kDayZero(1970, 1, 1);
 constexpr int kBarHeight = 3;
 
 // The style's own red can hardly be read on a dark background.
@@ -24,11 +24,11 @@ constexpr QColor kWeekendOnLight(0xb0, 0x10, 0x20);
 constexpr QColor kWeekendOnDark(0xff, 0x9a, 0x8f);
 
 QDate ToQDate(Day day) {
-  return kFirstDay.addDays(day.time_since_epoch().count());
+  return kDayZero.addDays(day.time_since_epoch().count());
 }
 
 Day ToDay(QDate date) {
-  return Day{std::chrono::days{kFirstDay.daysTo(date)}};
+  return Day{std::chrono::days{kDayZero.daysTo(date)}};
 }
 
 bool IsDark(const QPalette& palette) {
@@ -40,6 +40,7 @@ bool IsDark(const QPalette& palette) {
 CalendarPresenter::CalendarPresenter(controls::Calendar& control, Qt::DayOfWeek firstDayOfWeek, QWidget* parent)
     : QCalendarWidget(parent), m_control(control), m_link(control, *this, [this] { Show(); }) {
   setFirstDayOfWeek(firstDayOfWeek);
+  setDateRange(ToQDate(controls::Calendar::kFirstDay), ToQDate(controls::Calendar::kLastDay));
   setVerticalHeaderFormat(NoVerticalHeader);
   connect(this, &QCalendarWidget::selectionChanged, this, [this] { SelectionMoved(); });
   for (const auto chosen : {&QCalendarWidget::clicked, &QCalendarWidget::activated})

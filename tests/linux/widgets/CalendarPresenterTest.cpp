@@ -1,6 +1,8 @@
 #include <QAbstractItemView>
+#include <QSpinBox>
 #include <QTest>
 #include <QTextCharFormat>
+#include <QWheelEvent>
 #include <gmock/gmock.h>
 
 #include "linux/widgets/CalendarPresenter.h"
@@ -9,8 +11,11 @@ namespace dayvane::widgets {
 namespace {
 
 using controls::Calendar;
+using testing::Each;
 using testing::ElementsAre;
+using testing::Ge;
 using testing::IsEmpty;
+using testing::Le;
 
 Calendar::Day Day(int year, unsigned month, unsigned day) {
   return std::chrono::local_days{std::chrono::year{year} / static_cast<int>(month) / static_cast<int>(day)};
@@ -21,6 +26,13 @@ class CalendarPresenterTest : public testing::Test {
   CalendarPresenterTest() {
     m_control.SetCurrentDate(Day(2026, 5, 20));
     m_control.DateChange.Connect([this](Calendar::Day, Calendar::Day to) { m_changes.push_back(to); });
+  }
+
+  static void TurnWheel(QAbstractItemView& days, int delta) {
+    const QPointF centre = days.viewport()->rect().center();
+    QWheelEvent event(centre, days.viewport()->mapToGlobal(centre), {}, {0, delta}, Qt::NoButton, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(days.viewport(), &event);
   }
 
   Calendar m_control;
@@ -93,6 +105,56 @@ TEST_F(CalendarPresenterTest, GoingToAnotherMonthMovesTheDateThere) {
   presenter.showPreviousYear();
 
   EXPECT_THAT(m_changes, ElementsAre(Day(2026, 6, 20), Day(2025, 6, 20)));
+}
+
+TEST_F(CalendarPresenterTest, AYearBeforeTheFirstCannotBeTyped) {
+  CalendarPresenter presenter(m_control, Qt::Monday);
+  presenter.show();
+  auto* year = presenter.findChild<QSpinBox*>();
+
+  year->selectAll();
+  QTest::keyClicks(year, "-4");
+  QTest::keyClick(year, Qt::Key_Return);
+  year->setValue(-4);
+
+  EXPECT_GE(year->minimum(), 100);
+  EXPECT_GE(presenter.selectedDate(), QDate(100, 1, 1));
+  EXPECT_THAT(m_changes, Each(Ge(Day(100, 1, 1))));
+}
+
+TEST_F(CalendarPresenterTest, TheFirstDayIsTheLastThatOneCanGoBackTo) {
+  m_control.SetCurrentDate(Day(100, 1, 20));
+  CalendarPresenter presenter(m_control, Qt::Monday);
+  presenter.show();
+  auto* days = presenter.findChild<QAbstractItemView*>();
+  m_changes.clear();
+
+  presenter.showPreviousMonth();
+  presenter.showPreviousYear();
+  QTest::keyClick(days, Qt::Key_PageUp);
+  TurnWheel(*days, 120);
+  for (int i = 0; i < 25; ++i) QTest::keyClick(days, Qt::Key_Left);
+
+  EXPECT_EQ(m_control.CurrentDate(), Day(100, 1, 1));
+  EXPECT_EQ(presenter.selectedDate(), QDate(100, 1, 1));
+  EXPECT_THAT(m_changes, Each(Ge(Day(100, 1, 1))));
+}
+
+TEST_F(CalendarPresenterTest, NoYearOfFiveDigitsCanBeGoneTo) {
+  m_control.SetCurrentDate(Day(9999, 12, 20));
+  CalendarPresenter presenter(m_control, Qt::Monday);
+  presenter.show();
+  auto* days = presenter.findChild<QAbstractItemView*>();
+  m_changes.clear();
+
+  presenter.showNextMonth();
+  presenter.showNextYear();
+  TurnWheel(*days, -120);
+  for (int i = 0; i < 25; ++i) QTest::keyClick(days, Qt::Key_Right);
+
+  EXPECT_EQ(presenter.maximumDate(), QDate(9999, 12, 31));
+  EXPECT_EQ(m_control.CurrentDate(), Day(9999, 12, 31));
+  EXPECT_THAT(m_changes, Each(Le(Day(9999, 12, 31))));
 }
 
 TEST_F(CalendarPresenterTest, AShorterMonthMovesTheDateToItsLastDay) {

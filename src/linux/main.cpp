@@ -9,7 +9,9 @@
 #include <optional>
 #include <utility>
 
+#include "app/ReportErrors.h"
 #include "base/Error.h"
+#include "linux/ErrorNet.h"
 #include "linux/EventSink.h"
 #include "linux/LinuxDateConventions.h"
 #include "linux/LinuxShell.h"
@@ -46,7 +48,7 @@ int Refuse(const std::string& reason) {
 
 /// The session's end, a stop from the terminal: the window saves what there is to save and goes.
 int EndOnSignal(void* windows) {
-  static_cast<widgets::ProgramWindows*>(windows)->EndSession();
+  CatchErrors(kExitingOrHiding, [&] { static_cast<widgets::ProgramWindows*>(windows)->EndSession(); });
   return G_SOURCE_CONTINUE;
 }
 
@@ -96,17 +98,24 @@ int Run() {
 
   const std::string helpFile = *programFolder + "\\Dayvane.hlp";
   Program program;
+  std::optional<ErrorNet> net;
   widgets::ProgramWindows windows(windowing, dates,
                                   [&](int contextId, QPoint at) { help.ShowPopup(helpFile, contextId, at); });
   const SignalHandlers signals(windows);
-  program = Main(desktop, *programFolder, !instance,
-                 {[&](FSplash& splash) { windows.Present(splash); },
-                  [&](FMain& mainWindow, Application& application) {
-                    events.SetLog(&application.eventLog);
-                    windows.Present(mainWindow);
-                    KeepHelpInFront(help, mainWindow);
-                  }});
-  const int result = !program.mainWindow ? kFailure : program.mainWindow->form.IsUnloaded() ? 0 : QApplication::exec();
+  program =
+      Main(desktop, *programFolder, !instance,
+           {[&](FSplash& splash) { windows.Present(splash); },
+            [&](FMain& mainWindow, Application& application) {
+              events.SetLog(&application.eventLog);
+              net.emplace(
+                  [&application](StringId phrase) { ReportCurrentError(application, phrase, "MDayvane", "EventLoop"); },
+                  [] { QCoreApplication::exit(kFailure); });
+              windows.Present(mainWindow);
+              KeepHelpInFront(help, mainWindow);
+            }});
+  int result = program.mainWindow ? 0 : kFailure;
+  if (program.mainWindow && !program.mainWindow->form.IsUnloaded())
+    result = RunEventLoop([&windows] { windows.EndSession(); });
   events.SetLog(nullptr);
   return result;
 }
@@ -119,7 +128,7 @@ int main(int argc, char** argv) {
     std::fputs("dayvane: there is no display to show its window on\n", stderr);
     return dayvane::kFailure;
   }
-  const QApplication qt(argc, argv);
+  const dayvane::NetApplication qt(argc, argv);
   QApplication::setApplicationName(QStringLiteral("dayvane"));
   QApplication::setApplicationDisplayName(QString());
   QApplication::setDesktopFileName(QStringLiteral("dayvane"));

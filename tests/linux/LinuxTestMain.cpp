@@ -1,10 +1,11 @@
-#include <QApplication>
 #include <gmock/gmock.h>
+
+#include "linux/ErrorNet.h"
 
 /// Widgets need an application, and a test no screen.
 int main(int argc, char** argv) {
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-  const QApplication application(argc, argv);
+  const dayvane::NetApplication application(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
   testing::InitGoogleMock(&argc, argv);
   return RUN_ALL_TESTS();

@@ -4,6 +4,8 @@
 #include <gio/gdesktopappinfo.h>
 #include <memory>
 
+#include "linux/ErrorNet.h"
+
 namespace dayvane::launch {
 
 namespace {
@@ -65,9 +67,11 @@ void ShowFoldersAnswered(GObject* bus, GAsyncResult* result, gpointer data) {
   glib::Failure failure;
   const glib::Variant answer(g_dbus_connection_call_finish(G_DBUS_CONNECTION(bus), result, failure.Slot()));
   if (answer || failure.Is(G_IO_ERROR, G_IO_ERROR_CANCELLED)) return;
-  const auto application = ApplicationForFolders();
-  if (application && StartApplication(application.get(), asked->uri, {}, asked->pending.get(), asked->report)) return;
-  asked->report("The folder could not be shown: " + asked->folder + ": " + failure.Message());
+  CatchErrors(kOpeningFolder, [&] {
+    const auto application = ApplicationForFolders();
+    if (application && StartApplication(application.get(), asked->uri, {}, asked->pending.get(), asked->report)) return;
+    asked->report("The folder could not be shown: " + asked->folder + ": " + failure.Message());
+  });
 }
 
 }  // namespace

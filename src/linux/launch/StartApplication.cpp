@@ -4,6 +4,8 @@
 #include <memory>
 #include <unistd.h>
 
+#include "linux/ErrorNet.h"
+
 namespace dayvane::launch {
 
 namespace {
@@ -23,8 +25,10 @@ void StartAnswered(GObject* application, GAsyncResult* result, gpointer data) {
   const std::unique_ptr<PendingStart> start(static_cast<PendingStart*>(data));
   glib::Failure failure;
   if (g_app_info_launch_uris_finish(G_APP_INFO(application), result, failure.Slot())) return;
-  if (!g_cancellable_is_cancelled(start->pending.get()))
-    start->report("\"" + start->name + "\" could not be started: " + failure.Message());
+  CatchErrors(kOpeningDocument, [&] {
+    if (!g_cancellable_is_cancelled(start->pending.get()))
+      start->report("\"" + start->name + "\" could not be started: " + failure.Message());
+  });
 }
 
 struct FreeList {

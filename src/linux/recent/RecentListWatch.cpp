@@ -3,6 +3,7 @@
 #include <chrono>
 #include <utility>
 
+#include "linux/ErrorNet.h"
 #include "linux/GlibHandles.h"
 
 namespace dayvane::recent {
@@ -34,8 +35,10 @@ RecentListWatch::~RecentListWatch() {
 
 void RecentListWatch::OnEvent(GFileMonitor*, GFile*, GFile*, GFileMonitorEvent, gpointer watch) {
   // A running delay is not started anew: where writes never cease, it would never end.
-  QTimer& delay = static_cast<RecentListWatch*>(watch)->m_delay;
-  if (!delay.isActive()) delay.start();
+  CatchErrors(kCheckingForDocuments, [watch] {
+    QTimer& delay = static_cast<RecentListWatch*>(watch)->m_delay;
+    if (!delay.isActive()) delay.start();
+  });
 }
 
 }  // namespace dayvane::recent

@@ -2,11 +2,16 @@
 
 #include <utility>
 
+#include "linux/ErrorNet.h"
+
 namespace dayvane::widgets {
 
 namespace {
 
 using Answer = std::function<void(GVariant*)>;
+
+// Objects on the bus are those of the tray.
+constexpr StringId kPhrase = kHidingShowingSuspendingResuming;
 
 }  // namespace
 
@@ -38,17 +43,17 @@ void BusObject::Appeared(GDBusConnection* connection, const char*, const char*, 
   object.m_subscription = g_dbus_connection_signal_subscribe(
       connection, object.m_address.name, object.m_address.interface, nullptr, object.m_address.path, nullptr,
       G_DBUS_SIGNAL_FLAGS_NONE, &BusObject::Signalled, self, nullptr);
-  object.m_events.appeared();
+  CatchErrors(kPhrase, object.m_events.appeared);
 }
 
 void BusObject::Vanished(GDBusConnection*, const char*, gpointer self) {
   static_cast<BusObject*>(self)->Unsubscribe();
-  static_cast<BusObject*>(self)->m_events.vanished();
+  CatchErrors(kPhrase, static_cast<BusObject*>(self)->m_events.vanished);
 }
 
 void BusObject::Signalled(GDBusConnection*, const char*, const char*, const char*, const char* signal,
                           GVariant* arguments, gpointer self) {
-  static_cast<BusObject*>(self)->m_events.signalled(signal, arguments);
+  CatchErrors(kPhrase, [&] { static_cast<BusObject*>(self)->m_events.signalled(signal, arguments); });
 }
 
 void BusObject::Answered(GObject* connection, GAsyncResult* result, gpointer answered) {
@@ -56,7 +61,7 @@ void BusObject::Answered(GObject* connection, GAsyncResult* result, gpointer ans
   glib::Failure failure;
   const glib::Variant results(g_dbus_connection_call_finish(G_DBUS_CONNECTION(connection), result, failure.Slot()));
   // A call that was cancelled belongs to an object that is gone.
-  if (!failure.Is(G_IO_ERROR, G_IO_ERROR_CANCELLED)) (*answer)(results.get());
+  if (!failure.Is(G_IO_ERROR, G_IO_ERROR_CANCELLED)) CatchErrors(kPhrase, [&] { (*answer)(results.get()); });
 }
 
 void BusObject::Unsubscribe() {

@@ -22,11 +22,19 @@ bool IsFolder(const std::string& native) {
   return stat(native.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
 }
 
+bool IsFile(const std::string& native) {
+  struct stat status {};
+  return stat(native.c_str(), &status) == 0 && !S_ISDIR(status.st_mode);
+}
+
+std::string FolderOf(const std::string& native) {
+  return native.substr(0, std::max<std::size_t>(1, native.rfind('/')));
+}
+
 /// Why a path could not be looked at. The system tells a missing file and a missing folder apart no further.
 int ResultForMissing(const std::string& native, int systemError) {
   if (systemError == EACCES) return kSeAccessDenied;
-  const std::string folder = native.substr(0, std::max<std::size_t>(1, native.rfind('/')));
-  return systemError == ENOENT && IsFolder(folder) ? kSeFileNotFound : kSePathNotFound;
+  return systemError == ENOENT && IsFolder(FolderOf(native)) ? kSeFileNotFound : kSePathNotFound;
 }
 
 /// The default application of a document. As on other desktops its name decides, where that is enough: by its content
@@ -54,16 +62,16 @@ bool IsExecutableFile(const std::string& native, const struct stat& status) {
   return S_ISREG(status.st_mode) && access(native.c_str(), X_OK) == 0;
 }
 
-/// The folder that an explorer command line is about.
-std::string FolderOf(const std::string& commandLine) {
+/// The folder or file that an explorer command line is about.
+std::string PathOf(const std::string& commandLine) {
   const auto program = commandLine.find(kExplorer);
   if (program == std::string::npos) throw Error(kInvalidProcedureCall, "Not an explorer command line", commandLine);
   std::string_view arguments = std::string_view(commandLine).substr(program + kExplorer.size());
   for (const std::string_view known : {kExploreArguments, kOpenFolderArguments}) {
     if (!arguments.starts_with(known)) continue;
-    const std::string folder(arguments.substr(known.size()));
-    const auto path = folder.starts_with('/') ? files::FromNative(folder) : folder;
-    return files::ResolveNative(path.value_or("")).value_or(folder);
+    const std::string named(arguments.substr(known.size()));
+    const auto path = named.starts_with('/') ? files::FromNative(named) : named;
+    return files::ResolveNative(path.value_or("")).value_or(named);
   }
   throw Error(kInvalidProcedureCall, "Not an explorer command line", commandLine);
 }
@@ -111,7 +119,9 @@ int Launcher::Start(GAppInfo* application, const std::string& uri, const std::st
 }
 
 void Launcher::Run(const std::string& commandLine) {
-  const std::string folder = FolderOf(commandLine);
+  std::string folder = PathOf(commandLine);
+  // The shortcut to a program has the program itself as its working folder.
+  if (IsFile(folder)) folder = FolderOf(folder);
   if (!IsFolder(folder)) throw Error(kPathNotFound, "The folder does not exist", folder);
   if (!m_fileManager.Show(folder)) throw Error(kFileNotFound, "No program on this desktop shows folders", folder);
 }

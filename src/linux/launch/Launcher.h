@@ -35,8 +35,9 @@ class Launcher {
 
   /// Runs one of the program's two explorer command lines: "…\EXPLORER.EXE /n,/e,/root,<folder>" and
   /// "…\EXPLORER.EXE /n,<folder>". Both show the folder; whether a tree stands beside it is the file manager's choice.
-  /// The folder may be in the program's form or in the one that a person reads. Fails with an Error when it does not
-  /// exist, when nothing can show it, or when the command line is another one.
+  /// The folder may be in the program's form or in the one that a person reads; for a file it is the folder that holds
+  /// the file. Fails with an Error when it does not exist, when nothing can show it, or when the command line is
+  /// another one.
   void Run(const std::string& commandLine);
 
   /// The path as a person reads it: "/home/ana/Report.odt" for a path on drive "Z:", any other path as it is.

@@ -156,6 +156,17 @@ TEST_F(LauncherTest, BothExplorerCommandLinesShowTheFolder) {
   EXPECT_THAT(files.Shown(), ElementsAre(uri.get(), uri.get()));
 }
 
+TEST_F(LauncherTest, OfAProgramTheFolderThatHoldsItIsShown) {
+  const PrivateBus bus;
+  FakeFileManager files(bus);
+  const glib::Text uri(g_filename_to_uri(m_folder.Native().c_str(), nullptr, nullptr));
+  m_folder.Write("Sketcher", "#!/bin/sh\n");
+  m_launcher.Run(kExplore + (m_folder / "sketcher"));
+  m_launcher.Run(kOpenFolder + Path("sketcher"));
+  EXPECT_TRUE(MainLoopRunsUntil([&] { return files.Shown().size() == 2; }));
+  EXPECT_THAT(files.Shown(), ElementsAre(uri.get(), uri.get()));
+}
+
 TEST_F(LauncherTest, TheFolderMayBeSpelledAsAPersonReadsItAndWithoutItsCapitals) {
   const PrivateBus bus;
   FakeFileManager files(bus);

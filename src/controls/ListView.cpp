@@ -22,6 +22,11 @@ const std::string& ListItem::Text(std::size_t column) const {
   return column <= subItems.size() ? subItems[column - 1] : kEmpty;
 }
 
+const std::string& ListItem::SortText(std::size_t column) const {
+  const auto sortText = sortTexts.find(column);
+  return sortText == sortTexts.end() ? Text(column) : sortText->second;
+}
+
 void ListView::SetColumns(std::vector<ColumnHeader> columns) {
   const UpdateScope update(*this);
   m_columns = std::move(columns);
@@ -117,7 +122,7 @@ void ListView::Sort() {
   keyed.reserve(m_rows.size());
   const UpdateScope update(*this);
   for (auto& row : m_rows) {
-    std::string key = text::ToLower(row->Text(m_sortKey));
+    std::string key = text::ToLower(row->SortText(m_sortKey));
     keyed.emplace_back(std::move(key), std::move(row));
   }
   const auto ascending = [](const auto& a, const auto& b) { return a.first < b.first; };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <map>
 #include <memory>
 #include <string>
 #include <unordered_map>
@@ -26,8 +27,10 @@ struct ListItem {
   std::string text;
   int icon = 0;  ///< number in both image lists
   std::vector<std::string> subItems;
+  std::map<std::size_t, std::string> sortTexts = {};  ///< by column, where the order is not that of the shown texts
 
   const std::string& Text(std::size_t column) const;  ///< empty for a column that the row does not fill
+  const std::string& SortText(std::size_t column) const;
 };
 
 enum class SortOrder { Ascending = 0, Descending = 1 };
@@ -67,8 +70,8 @@ class ListView : public Control, public UpdateTarget {
   SortOrder Order() const { return m_sortOrder; }
   bool Sorted() const { return m_sorted; }
 
-  /// While sorting is on, the rows stay in the order of the displayed texts of one column, without regard to case;
-  /// equal rows keep their order. A key beyond the columns sorts by nothing.
+  /// While sorting is on, the rows stay in the order of the sort texts of one column, without regard to case; equal
+  /// rows keep their order. A key beyond the columns sorts by nothing.
   void SetSortKey(std::size_t column);
   void SetSortOrder(SortOrder order);
   void SetSorted(bool sorted);

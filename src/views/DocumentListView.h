@@ -14,10 +14,11 @@ namespace dayvane {
 /// clicks, and the events that the main window handles. Assertions bear the name of the derived class.
 class DocumentListView {
  public:
-  /// Columns of both lists, counted from 0.
+  /// Columns, counted from 0; but for the last those of both lists.
   static constexpr std::size_t kNameColumn = 0;
   static constexpr std::size_t kTypeColumn = 1;
   static constexpr std::size_t kPathColumn = 2;
+  static constexpr std::size_t kModifiedColumn = 3;  ///< of the Daily list
 
   DocumentListView(Application& application, std::string className);
   DocumentListView(const DocumentListView&) = delete;
@@ -57,11 +58,11 @@ class DocumentListView {
   controls::SortOrder m_sortOrder = controls::SortOrder::Ascending;
 
  private:
-  void ListView_ColumnClick(std::size_t column);
   /// An event's handler with its report block.
   template <class Handler>
   auto Reported(StringId phrase, const char* procedure, Handler handler);
 
+  void ListView_ColumnClick(std::size_t column);
   void ListView_DblClick();
   void ListView_KeyUp(int keyCode, int modifiers);
   void ListView_MouseUp(int button, double x, double y);

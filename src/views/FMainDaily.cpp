@@ -41,6 +41,13 @@ bool IsDay(const controls::TreeNode& node) {
   return node.image == kDayPicture;
 }
 
+/// A text that sorts as the moments do: the time of day as people read it ("9:00 AM") does not.
+std::string OrderText(const platform::FileMoment& moment) {
+  constexpr std::size_t kDigits = 20;
+  const std::string text = std::to_string(static_cast<std::uint64_t>(moment.nanoseconds) + (std::uint64_t{1} << 63U));
+  return std::string(kDigits - text.size(), '0') + text;
+}
+
 std::string KeyOfItem(const controls::ListItem* item) {
   return item == nullptr ? std::string() : item->key;
 }
@@ -135,6 +142,7 @@ void FMain::AddDocument(const std::string& nodeKey, const std::string& folder, c
 
 int FMain::DailyImageListIndex(const std::string& shortcutFileName, const std::string& targetFileName) {
   Assert(!text::Trim(shortcutFileName).empty(), ".DailyImageListIndex: Shortcut file name is missing");
+  item.sortTexts[DocumentListView::kModifiedColumn] = OrderText(shortcut.LastWritten());
   Assert(!text::Trim(targetFileName).empty(), ".DailyImageListIndex: Target file name is missing");
   return ImageListIndex(imlLarge, imlSmall, shortcutFileName, targetFileName);
 }

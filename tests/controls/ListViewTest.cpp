@@ -36,6 +36,18 @@ TEST_F(ListViewTest, SortingComparesTheDisplayedTextsWithoutRegardToCase) {
   EXPECT_EQ(Names(), "Alpha beta gamma älter Ärger ");
 }
 
+TEST_F(ListViewTest, AColumnWhoseTextsHaveAnotherOrderSortsByTextsOfItsOwn) {
+  for (const auto& [name, sortText] : {std::pair{"nine", "09"}, {"one", "13"}, {"ten", "10"}}) {
+    Add(name, "same");
+    list.Item("K" + std::string(name)).sortTexts[1] = sortText;
+  }
+  list.SetSortKey(1);
+  list.SetSorted(true);
+  EXPECT_EQ(Names(), "nine ten one ");
+  list.SetSortKey(0);
+  EXPECT_EQ(Names(), "nine one ten ");
+}
+
 TEST_F(ListViewTest, EqualRowsKeepTheirOrderInBothDirections) {
   Add("first", "same");
   Add("second", "same");

@@ -52,6 +52,30 @@ TEST_F(DailyListTest, TheTimeOfARowIsWrittenAsTheUserWritesTimes) {
   EXPECT_THAT(ColumnOf(window.lvwDaily, 3), ElementsAre("10:00 AM"));
 }
 
+TEST_F(DailyListTest, ByModifiedTheDayIsInTheOrderInWhichItWentHoweverTimesAreWritten) {
+  desktop.dates.shortTime = "h:nn AM/PM";
+  File("2026/November/20", "Z:\\one.odt", "2026-11-20 13:00:00");
+  File("2026/November/20", "Z:\\nine.odt", "2026-11-20 09:00:00");
+  File("2026/November/20", "Z:\\ten.odt", "2026-11-20 10:00:00");
+  File("2026/November/20", "Z:\\soon.odt", "2026-11-20 10:00:20");
+  Load();
+  window.SelectDate(Date::Of(2026, 11, 20));
+  window.lvwDaily.ColumnClick.Raise(4);
+  EXPECT_THAT(ColumnOf(window.lvwDaily, 3), ElementsAre("9:00 AM", "10:00 AM", "10:00 AM", "1:00 PM"));
+  EXPECT_THAT(ColumnOf(window.lvwDaily, 0), ElementsAre("nine.odt", "ten.odt", "soon.odt", "one.odt"));
+  window.lvwDaily.ColumnClick.Raise(4);
+  EXPECT_THAT(ColumnOf(window.lvwDaily, 0), ElementsAre("one.odt", "soon.odt", "ten.odt", "nine.odt"));
+}
+
+TEST_F(DailyListTest, ByModifiedADayBeforeTheEpochIsInItsOrderToo) {
+  File("2026/November/20", "Z:\\later.odt", "1970-01-02 00:00:00");
+  File("2026/November/20", "Z:\\earlier.odt", "1969-12-30 00:00:00");
+  Load();
+  window.SelectDate(Date::Of(2026, 11, 20));
+  window.lvwDaily.ColumnClick.Raise(4);
+  EXPECT_THAT(ColumnOf(window.lvwDaily, 0), ElementsAre("earlier.odt", "later.odt"));
+}
+
 TEST_F(DailyListTest, ADayIsListedInTheOrderOfTheListBeforeIt) {
   FileAs("2026/November/19", "a.odt.lnk", "Z:\\a.odt");
   for (const char* name : {"a", "b", "c"}) FileAs("2026/November/20", std::string(name) + ".lnk", "Z:\\x");

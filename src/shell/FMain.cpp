@@ -239,9 +239,7 @@ std::unique_ptr<CWaitCursor> FMain::ShowWait() {
 
 void FMain::RefreshStatusBar(std::unique_ptr<CWaitCursor> waitCursor) {
   waitCursor.reset();
-  if (m_activeView != kDailyView && m_activeView != kFavoritesView) return;
-  const controls::ListView& list = m_activeView == kDailyView ? lvwDaily : lvwFavorites;
-  sbrMain.SetText(std::to_string(list.Count()) + " objects");
+  if (const controls::ListView* list = ActiveList()) sbrMain.SetText(std::to_string(list->Count()) + " objects");
 }
 
 }  // namespace dayvane

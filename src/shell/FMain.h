@@ -173,6 +173,9 @@ class FMain {
 
   void Exit();
   void ShowSuspendOrResume(bool active) const;
+  void FollowSelection();                        ///< SetExploreOpen as the list that is shown has it
+  const controls::ListView* ActiveList() const;  ///< nullptr when the settings name no view that exists
+  void SelectAgain(const std::string& nodeKey, const std::string& rowKey);
   bool AskToRemove(StringId before, const std::string& what, StringId after);
   void Tell(const std::string& text);
   void PutBackIntoRecent(const std::string& shortcutPath);

@@ -159,8 +159,7 @@ void FMain::SetActiveView(int view) {
       form.SetCaption(m_application.info.title + " - " + ResourceString(daily ? kDaily : kFavorites));
       m_oDaily->SetVisible(daily);
       m_oFavorites->SetVisible(!daily);
-      const auto* selected = daily ? m_oDaily->SelectedDocument() : m_oFavorites->SelectedDocument();
-      SetExploreOpen(selected != nullptr);
+      FollowSelection();
     }
     mnuViewPopup[0].SetChecked(view == kDailyView);
     mnuViewPopup[1].SetChecked(view == kFavoritesView);
@@ -186,6 +185,14 @@ void FMain::SetListView(int style) {
 void FMain::SetExploreOpen(bool enabled) {
   for (const int item : {2, 3}) mnuToolsPopup[item].SetEnabled(enabled);
   for (const std::size_t button : {3U, 4U}) sftToolbar[button].SetEnabled(enabled);
+}
+
+void FMain::FollowSelection() {
+  if (const controls::ListView* list = ActiveList()) SetExploreOpen(list->SelectedItem() != nullptr);
+}
+
+const controls::ListView* FMain::ActiveList() const {
+  return m_activeView == kDailyView ? &lvwDaily : m_activeView == kFavoritesView ? &lvwFavorites : nullptr;
 }
 
 void FMain::SetOptions() {

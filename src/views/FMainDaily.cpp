@@ -75,7 +75,11 @@ void FMain::RefreshDaily() {
   const std::string& root = m_repository.DailyPath();
   tvwMain.AddRoot(KeyOf(root), ResourceString(kDaily), kRepositoryPicture);
   LoadDailyTreeViewFolder(root, dailytree::kYearLevel);
-  if (nodeKey.empty()) return;
+  if (!nodeKey.empty()) SelectAgain(nodeKey, rowKey);
+  FollowSelection();
+}
+
+void FMain::SelectAgain(const std::string& nodeKey, const std::string& rowKey) {
   controls::TreeNode* node = tvwMain.Find(nodeKey);
   tvwMain.SetSelectedItem(node);
   lvwDaily.SetSorted(true);
@@ -138,11 +142,11 @@ void FMain::AddDocument(const std::string& nodeKey, const std::string& folder, c
   auto& item = lvwDaily.Add(nodeKey + "\\" + fileName, fileName.substr(0, fileName.size() - 4), icon);
   item.subItems = {shortcut.TargetClass(), m_application.shellServices.DisplayPath(shortcut.WorkingDirectory()),
                    Format(shortcut.Modified(), "Short Time", m_application.desktop.dates)};
+  item.sortTexts[DocumentListView::kModifiedColumn] = OrderText(shortcut.LastWritten());
 }
 
 int FMain::DailyImageListIndex(const std::string& shortcutFileName, const std::string& targetFileName) {
   Assert(!text::Trim(shortcutFileName).empty(), ".DailyImageListIndex: Shortcut file name is missing");
-  item.sortTexts[DocumentListView::kModifiedColumn] = OrderText(shortcut.LastWritten());
   Assert(!text::Trim(targetFileName).empty(), ".DailyImageListIndex: Target file name is missing");
   return ImageListIndex(imlLarge, imlSmall, shortcutFileName, targetFileName);
 }

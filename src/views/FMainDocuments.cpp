@@ -88,9 +88,11 @@ void FMain::RemoveLink(const controls::ListItem* item) {
       m_oFavorites->Save();  // or a kill would bring the link back
       RefreshFavorites();
     }
-    if (!m_repository.PurgeEmptyFolders()) return;
-    RefreshDaily();
-    RefreshCalendar();
+    if (m_repository.PurgeEmptyFolders()) {
+      RefreshDaily();
+      RefreshCalendar();
+    }
+    FollowSelection();
   });
 }
 

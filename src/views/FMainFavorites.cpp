@@ -49,8 +49,10 @@ void FMain::RefreshFavorites() {
         DaysText(record[favorites::kDaysAccessed]),
         LastAccessedText(record[favorites::kLastAccessed], m_application.desktop.dates)};
   }
-  m_oFavorites->SortAgain();
+  // By the list's own key and order: icons that were arranged stay so, whatever column was clicked last.
+  lvwFavorites.SetSorted(true);
   lvwFavorites.SetSelectedItem(lvwFavorites.Find(selectedKey));
+  FollowSelection();
 }
 
 int FMain::FavoritesImageListIndex(const std::string& shortcutFileName, const std::string& targetFileName) {

@@ -89,6 +89,24 @@ TEST_F(FavoritesListTest, NewRowsTakeTheOrderOfTheLastColumnClick) {
   EXPECT_THAT(Names(), ElementsAre("b", "a"));
 }
 
+TEST_F(FavoritesListTest, ArrangedIconsStayArrangedWhenTheListIsFilledAnew) {
+  std::string other = Record("3", "a");
+  other.replace(other.find("Text"), 4, "Yarn");
+  LoadWith(Record("2", "b") + other);
+  window.ArrangeIcons(0);
+  ASSERT_THAT(Names(), ElementsAre("b", "a"));
+  window.RefreshFavorites();
+  EXPECT_THAT(Names(), ElementsAre("b", "a"));
+}
+
+TEST_F(FavoritesListTest, ArrangingIconsLeavesTheOrderThatTheNextColumnClickGoesOnFrom) {
+  LoadWith(Record("2", "a") + Record("3", "b"));
+  window.ArrangeIcons(0);
+  window.RefreshFavorites();
+  window.lvwFavorites.ColumnClick.Raise(1);
+  EXPECT_THAT(Names(), ElementsAre("b", "a"));
+}
+
 TEST_F(FavoritesListTest, AnEmptyTableListsNothing) {
   Load();
   EXPECT_EQ(window.lvwFavorites.Count(), 0U);

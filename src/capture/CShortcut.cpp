@@ -32,8 +32,22 @@ void CShortcut::SetFile(const std::string& path) {
   if (text::Trim(path).empty()) m_application.asserts.Assert(false, std::string(ClassName) + ".File: Path is missing");
   m_file = path;
   m_fileName = m_application.shellServices.SplitPath(path).fileName;
+  m_isMissing = false;
   ReadLinkFields();
   ReadDates();
+  ReadTargetClass();
+}
+
+void CShortcut::SetMissingFile(const std::string& path, const std::string& target) {
+  m_file = path;
+  m_fileName = m_application.shellServices.SplitPath(path).fileName;
+  m_isMissing = true;
+  m_lastWritten = {};
+  m_modified = {};
+  m_year = m_month = m_day = {};
+  platform::ShellLink link;
+  link.target = target;
+  TakeLink(link);
   ReadTargetClass();
 }
 
@@ -51,12 +65,16 @@ void CShortcut::ReadDates() {
 void CShortcut::ReadLinkFields() {
   const platform::ReadLink read = m_application.shellServices.ReadShortcut(m_file);
   m_lastWritten = read.written;
-  m_targetFile = Field(read.link.target);
-  m_workingDirectory = text::ToLower(Field(read.link.workingDirectory));
-  m_arguments = Field(read.link.arguments);
-  m_iconFile = Field(read.link.iconFile);
-  m_iconIndex = read.link.iconIndex;
-  m_showCommand = read.link.showCommand;
+  TakeLink(read.link);
+}
+
+void CShortcut::TakeLink(const platform::ShellLink& link) {
+  m_targetFile = Field(link.target);
+  m_workingDirectory = text::ToLower(Field(link.workingDirectory));
+  m_arguments = Field(link.arguments);
+  m_iconFile = Field(link.iconFile);
+  m_iconIndex = link.iconIndex;
+  m_showCommand = link.showCommand;
   PathParts target = m_application.shellServices.SplitPath(m_targetFile);
   m_targetFileName = std::move(target.fileName);
   if (m_workingDirectory.empty()) m_workingDirectory = std::move(target.folder);

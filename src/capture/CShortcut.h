@@ -22,6 +22,10 @@ class CShortcut {
   /// shortcut has empty fields.
   void SetFile(const std::string& path);
 
+  /// Describes a document whose shortcut at that path is gone; what the shortcut alone knew is empty.
+  void SetMissingFile(const std::string& path, const std::string& target);
+  bool IsMissing() const { return m_isMissing; }
+
   const std::string& File() const { return m_file; }
   const std::string& FileName() const { return m_fileName; }  ///< with its extension
   const Date& Modified() const { return m_modified; }         ///< when the shortcut was last written
@@ -54,12 +58,14 @@ class CShortcut {
 
  private:
   void ReadLinkFields();
+  void TakeLink(const platform::ShellLink& link);
   void ReadDates();
   void ReadTargetClass();
 
   Application& m_application;
   std::string m_file;
   std::string m_fileName;
+  bool m_isMissing = false;
   Date m_modified;
   platform::FileMoment m_lastWritten;
   std::string m_year;

@@ -3,6 +3,7 @@
 #include <chrono>
 
 #include "base/Error.h"
+#include "base/Text.h"
 #include "linux/UsersTurn.h"
 #include "linux/files/NativePath.h"
 #include "linux/links/ShellLinkFormat.h"
@@ -36,7 +37,12 @@ std::string LinuxShell::SpecialFolderPath(int number) {
 }
 
 void LinuxShell::CreateShellLink(const std::string& path, const platform::ShellLink& link) {
-  links::WriteShellLinkFile(path, link);
+  // The program's records lose capitals; in a link other programs look for them.
+  platform::ShellLink written = link;
+  const auto native = files::ResolveNative(link.target);
+  const auto target = native ? files::FromNative(*native) : std::nullopt;
+  if (target && text::CompareIgnoringCase(*target, link.target) == 0) written.target = *target;
+  links::WriteShellLinkFile(path, written);
 }
 
 int LinuxShell::Open(const std::string& target, const std::string& workingDirectory, std::int32_t) {

@@ -178,7 +178,9 @@ class FMain {
   void SelectAgain(const std::string& nodeKey, const std::string& rowKey);
   bool AskToRemove(StringId before, const std::string& what, StringId after);
   void Tell(const std::string& text);
-  void PutBackIntoRecent(const std::string& shortcutPath);
+  void ReadShortcut(CShortcut& shortcut, const std::string& key);
+  std::string DocumentOf(const std::string& filedShortcut) const;
+  void PutBackIntoRecent(const CShortcut& shortcut);
   int ImageListIndex(controls::ImageList& large, controls::ImageList& small, const std::string& shortcutFileName,
                      const std::string& targetFileName);
   void SaveWindow();

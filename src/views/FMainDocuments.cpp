@@ -8,6 +8,8 @@
 #include "base/Text.h"
 #include "capture/CShortcut.h"
 #include "shell/FMain.h"
+#include "views/FavoritesTable.h"
+#include "views/NewestLink.h"
 
 namespace dayvane {
 
@@ -23,8 +25,9 @@ bool IsSystemError(int result) {
   return result == 0 || result == 11 || (result >= 26 && result <= 30);
 }
 
-std::string PathOf(const controls::ListItem& item) {
-  return item.key.substr(1);
+/// The path of the shortcut that a row with this key stands for.
+std::string PathOf(const std::string& key) {
+  return key.substr(1);
 }
 
 }  // namespace
@@ -35,9 +38,8 @@ void FMain::OpenDocument(const controls::ListItem* item) {
     Assert(!text::Trim(m_recentFolder).empty(), ".OpenDocument: Recent folder is missing");
     // A copy: while a question waits, the next capture may fill the lists anew.
     const controls::ListItem document = Required(item);
-    const std::string path = PathOf(document);
     CShortcut shortcut(m_application);
-    shortcut.SetFile(path);
+    ReadShortcut(shortcut, document.key);
     const ShellServices& shell = m_application.shellServices;
     const int result = shortcut.OpenDocument();
     bool remove = false;
@@ -51,7 +53,7 @@ void FMain::OpenDocument(const controls::ListItem* item) {
     else if (IsSystemError(result))
       Tell(ResourceString(kOperatingSystemError));
     else
-      PutBackIntoRecent(path);
+      PutBackIntoRecent(shortcut);
     if (remove) RemoveLink(&document);
   });
 }
@@ -63,11 +65,35 @@ bool FMain::AskToRemove(StringId before, const std::string& what, StringId after
   return answer == platform::MessageAnswer::Yes;
 }
 
-void FMain::PutBackIntoRecent(const std::string& shortcutPath) {
+void FMain::ReadShortcut(CShortcut& shortcut, const std::string& key) {
+  const std::string path = PathOf(key);
+  if (lvwFavorites.Find(key) == nullptr) return shortcut.SetFile(path);
+  // A favorite is known by its first filing, whose day may be purged long since: it opens as long as its document does.
+  if (IgnoreErrors([&] { shortcut.SetFile(path); }) && !shortcut.TargetFile().empty()) return;
+  const std::string document = DocumentOf(path);
+  if (document.empty()) return shortcut.SetFile(path);
+  const std::string newest = NewestLinkTo(m_application, m_repository.DailyPath(), document);
+  if (newest.empty())
+    shortcut.SetMissingFile(path, document);
+  else
+    shortcut.SetFile(newest);
+}
+
+std::string FMain::DocumentOf(const std::string& filedShortcut) const {
+  for (const favorites::Record& record : m_oFavorites->GetFavorites())
+    if (favorites::TextOf(record[favorites::kShortcutFile]) == filedShortcut)
+      return favorites::TextOf(record[favorites::kFolder]) + "\\" +
+             favorites::TextOf(record[favorites::kTargetFileName]);
+  return {};
+}
+
+void FMain::PutBackIntoRecent(const CShortcut& shortcut) {
+  const std::string path = m_recentFolder + "\\" + shortcut.FileName();
+  if (shortcut.IsMissing())
+    return m_application.shellServices.CreateShortcut(path, shortcut.TargetFile(), shortcut.WorkingDirectory());
   auto& files = m_application.desktop.files;
-  const std::string bytes = files.Read(shortcutPath, std::numeric_limits<std::size_t>::max()).bytes;
-  const std::string name = m_application.shellServices.SplitPath(shortcutPath).fileName;
-  files.Replace(m_recentFolder + "\\" + name, bytes);
+  const std::string bytes = files.Read(shortcut.File(), std::numeric_limits<std::size_t>::max()).bytes;
+  files.Replace(path, bytes);
 }
 
 void FMain::RemoveLink(const controls::ListItem* item) {
@@ -78,7 +104,7 @@ void FMain::RemoveLink(const controls::ListItem* item) {
     Assert(!text::Trim(m_recentFolder).empty(), ".RemoveLink: Recent folder is missing");
     auto& files = m_application.desktop.files;
     const std::string key = Required(item).key;
-    const std::string path = PathOf(*item);
+    const std::string path = PathOf(key);
     IgnoreErrors([&] { files.Delete(path); });
     IgnoreErrors([&] { files.Delete(m_recentFolder + "\\" + m_application.shellServices.SplitPath(path).fileName); });
     // From the Favorites view the day that is shown need not be the document's.

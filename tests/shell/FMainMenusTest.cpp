@@ -36,6 +36,13 @@ class MenusTest : public ::testing::Test, protected testing::MainWindow {
   void Open(const std::string& target, const std::string& time) { desktop.OpenDocument(target, time); }
   void SelectDocument() { window.lvwDaily.Click(window.lvwDaily.Item(Key("2026\\November\\21\\a.odt.lnk"))); }
 
+  /// Shows the Favorites view with a document selected that lies in another folder than the day's.
+  void ShowFavorite() {
+    window.mnuViewPopup.Choose(1);
+    window.lvwFavorites.Click(window.lvwFavorites.Add("Kx", "x.odt", 1));
+    window.lvwFavorites.SelectedItem()->subItems = {"Text", "z:\\elsewhere"};
+  }
+
   std::vector<std::string> status;  ///< what the status bar showed since the window loaded
 };
 
@@ -239,6 +246,32 @@ TEST_F(MenusTest, TheToolsMenuShowsTheFolderOfTheDaysDocumentEvenInTheFavoritesV
   EXPECT_THAT(desktop.shell.commandLines,
               ElementsAre("C:\\WINDOWS\\EXPLORER.EXE /n,/e,/root,z:\\home\\ana",
                           "C:\\WINDOWS\\EXPLORER.EXE /n,z:\\home\\ana", "C:\\WINDOWS\\EXPLORER.EXE /n,z:\\home\\ana"));
+}
+
+TEST_F(MenusTest, ExploreAndOpenOfTheToolsMenuActOnTheDaysDocumentWhileAFavoriteIsSelected) {
+  SelectDocument();
+  ShowFavorite();
+  window.mnuToolsPopup.Choose(2);
+  window.mnuToolsPopup.Choose(3);
+  EXPECT_THAT(desktop.shell.commandLines, ElementsAre("C:\\WINDOWS\\EXPLORER.EXE /n,/e,/root,z:\\home\\ana",
+                                                      "C:\\WINDOWS\\EXPLORER.EXE /n,z:\\home\\ana"));
+}
+
+TEST_F(MenusTest, OpenInTheListsMenuOpensTheDaysDocumentWhileAFavoriteIsSelected) {
+  SelectDocument();
+  ShowFavorite();
+  window.mnuListViewPopup.Choose(0);
+  EXPECT_THAT(desktop.shell.opened, ElementsAre("Z:\\home\\ana\\a.odt|z:\\home\\ana|1"));
+}
+
+TEST_F(MenusTest, WithNoDocumentOfTheDaySelectedAFavoritesFolderOnlyBeeps) {
+  ShowFavorite();
+  window.mnuToolsPopup.Choose(2);
+  window.mnuToolsPopup.Choose(3);
+  window.sftToolbar[3].Press();
+  window.sftToolbar[4].Press();
+  EXPECT_EQ(desktop.windowing.beeps, 4);
+  EXPECT_THAT(desktop.shell.commandLines, IsEmpty());
 }
 
 TEST_F(MenusTest, WhileAFolderIsBeingShownTheUserIsAskedToWait) {

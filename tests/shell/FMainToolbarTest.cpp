@@ -80,6 +80,18 @@ TEST_F(ToolbarTest, ExploreAndOpenFolderShowTheFolderOfTheSelectedDocument) {
                                                       "C:\\WINDOWS\\EXPLORER.EXE /n,z:\\home\\ana"));
 }
 
+TEST_F(ToolbarTest, ExploreAndOpenFolderShowTheFolderOfTheDaysDocumentWhileAFavoriteIsSelected) {
+  SelectDocument();
+  Press(1);
+  controls::ListItem& favorite = window.lvwFavorites.Add("Kx", "x.odt", 1);
+  favorite.subItems = {"Text", "z:\\elsewhere"};
+  window.lvwFavorites.Click(favorite);
+  Press(3);
+  Press(4);
+  EXPECT_THAT(desktop.shell.commandLines, ElementsAre("C:\\WINDOWS\\EXPLORER.EXE /n,/e,/root,z:\\home\\ana",
+                                                      "C:\\WINDOWS\\EXPLORER.EXE /n,z:\\home\\ana"));
+}
+
 TEST_F(ToolbarTest, AFolderThatCannotBeShownIsReportedWithThePhraseOfItsButton) {
   SelectDocument();
   desktop.shell.cannotLaunch = true;

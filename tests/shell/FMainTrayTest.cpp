@@ -111,5 +111,11 @@ TEST_F(TrayTest, TheIconIsBusyWhileThePollRunsAndSuspendedWhileCaptureIs) {
   EXPECT_THAT(desktop.windowing.Texts(), IsEmpty());
 }
 
+TEST_F(TrayTest, AMenuOfTheTrayThatCannotBeShownIsReported) {
+  desktop.windowing.noPopup = true;
+  window.tryMain.MouseUp.Raise(2, 0);
+  EXPECT_THAT(desktop.windowing.Texts(), ElementsAre("An error occurred hiding, showing, suspending, or resuming."));
+}
+
 }  // namespace
 }  // namespace dayvane

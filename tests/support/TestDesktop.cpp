@@ -99,6 +99,7 @@ void TestWindowing::PostMessage(controls::Form& form, int message) {
 }
 
 void TestWindowing::PopupMenu(controls::Form&, controls::Menu& menu, double x, double y) {
+  if (noPopup) throw Error(kDeviceIoError, "No menu");
   happenings.emplace_back("popup");
   popupMenu = &menu;
   popupX = x;
@@ -106,6 +107,7 @@ void TestWindowing::PopupMenu(controls::Form&, controls::Menu& menu, double x, d
 }
 
 void TestWindowing::PopupMenuAtMouse(controls::Form&, controls::Menu& menu, int defaultItem) {
+  if (noPopup) throw Error(kDeviceIoError, "No menu");
   happenings.emplace_back("popup");
   popupMenu = &menu;
   popupDefault = defaultItem;

@@ -61,6 +61,7 @@ class TestWindowing : public platform::Windowing {
   int beeps = 0;
   std::vector<platform::About> abouts;
   bool noAbout = false;                 ///< the about box cannot be shown
+  bool noPopup = false;                 ///< no menu can be popped up
   std::vector<std::string> happenings;  ///< what was asked of the desktop, one word each, in order
   std::vector<int> posted;
   controls::Menu* popupMenu = nullptr;

@@ -209,6 +209,16 @@ TEST_F(DocumentActionsTest, TheDaysLastDocumentTakesTheDayAlong) {
   EXPECT_THAT(Errors(), IsEmpty());
 }
 
+TEST_F(DocumentActionsTest, ADayThatGoesWithItsLastDocumentStandsOutNoLongerInTheCalendar) {
+  File("19", "b.odt");
+  Load();
+  window.form.Activate.Raise();
+  ASSERT_TRUE(window.calMain.Highlight(20));
+  window.RemoveLink(&Row("a.odt"));
+  EXPECT_FALSE(window.calMain.Highlight(20));
+  EXPECT_TRUE(window.calMain.Highlight(19));
+}
+
 TEST_F(DocumentActionsTest, WhileTheDayHoldsAnotherDocumentTheTreeIsLeftAlone) {
   File("20", "b.odt");
   LoadDay();
@@ -280,6 +290,15 @@ TEST_F(DocumentActionsTest, TheMenuOfADocumentShowsAtTheMouse) {
   EXPECT_EQ(desktop.windowing.popupMenu, &window.mnuListViewPopup);
   EXPECT_EQ(desktop.windowing.popupX, 130);
   EXPECT_EQ(desktop.windowing.popupY, 240);
+}
+
+TEST_F(DocumentActionsTest, AMenuOfADocumentThatCannotBeShownIsReported) {
+  LoadDay();
+  desktop.windowing.noPopup = true;
+  window.lvwDaily.Click(Row("a.odt"));
+  window.lvwDaily.MouseUp.Raise(2, 30, 40);
+  EXPECT_THAT(desktop.windowing.Texts(), ElementsAre("An error occurred displaying a context menu."));
+  EXPECT_THAT(Errors().at(0), ::testing::StartsWith("FMain.m_oDaily_ListViewPopupMenu\t"));
 }
 
 TEST_F(DocumentActionsTest, AShortcutThatIsGoneIsReported) {

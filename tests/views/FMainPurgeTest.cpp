@@ -125,6 +125,15 @@ TEST_F(PurgeTest, TheMenuOfADayShowsAtTheMouse) {
   EXPECT_EQ(desktop.windowing.popupY, 249);
 }
 
+TEST_F(PurgeTest, AMenuOfADayThatCannotBeShownIsReported) {
+  FileOnThreeDays();
+  Load();
+  desktop.windowing.noPopup = true;
+  RightClick(Node("2026\\November\\19"));
+  EXPECT_THAT(desktop.windowing.Texts(), ElementsAre("An error occurred displaying a context menu."));
+  EXPECT_THAT(desktop.LogLines("ErrorLog.txt").at(0), ::testing::StartsWith("FMain.tvwMain_MouseUp\t"));
+}
+
 TEST_F(PurgeTest, OnlyADayHasAMenu) {
   FileOnThreeDays();
   Load();

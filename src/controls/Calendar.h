@@ -2,6 +2,7 @@
 
 #include <array>
 #include <chrono>
+#include <optional>
 
 #include "controls/Control.h"
 
@@ -35,6 +36,11 @@ class Calendar : public Control {
   bool Highlight(int day) const { return m_highlights.at(static_cast<std::size_t>(day)); }
   void SetHighlight(int day, bool highlighted) { m_highlights.at(static_cast<std::size_t>(day)) = highlighted; }
 
+  /// The day whose documents are listed beside the calendar, which need not be the current date: a day without
+  /// documents can be chosen, and the list stays as it was.
+  std::optional<Day> ListedDay() const { return m_listed; }
+  void SetListedDay(std::optional<Day> day) { Assign(m_listed, day); }
+
   /// Shows highlights that were set since.
   void Redraw() { Changed.Raise(); }
 
@@ -43,6 +49,7 @@ class Calendar : public Control {
 
  private:
   Day m_current{std::chrono::days{0}};
+  std::optional<Day> m_listed;
   std::array<bool, 32> m_highlights{};
 };
 

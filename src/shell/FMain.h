@@ -185,6 +185,7 @@ class FMain {
                      const std::string& targetFileName);
   void SaveWindow();
   void SaveViews();
+  void ShowListedDay(const controls::TreeNode* node);
   void AddDocument(const std::string& nodeKey, const std::string& folder, const std::string& fileName);
   void File(CShortcut& shortcut, const std::string& destination);
   void SaveCounts();

@@ -70,6 +70,11 @@ void CCalendar::Refresh() {
   m_calendar->Redraw();
 }
 
+void CCalendar::SetListed(const Date& date) {
+  if (m_calendar == nullptr) return;
+  m_calendar->SetListedDay(date.IsZero() ? std::nullopt : std::optional(ToDay(date)));
+}
+
 void CCalendar::Calendar_DateChange(const Date& newDate) {
   ReportErrors(m_application, kSelectingDate, ClassName, "Calendar_DateChange", [&] {
     const std::string text = Format(newDate, "Short Date", m_application.desktop.dates);

@@ -27,6 +27,9 @@ class CCalendar {
   void HighlightDays(const Date& date);
   void Refresh();
 
+  /// Tells the day whose documents are listed, or with the zero date that no day is.
+  void SetListed(const Date& date);
+
   controls::Signal<const Date&> DateChange;  ///< the new date
 
  private:

@@ -1,5 +1,6 @@
 // The Daily view: the repository as a tree, the selected day's documents as a list.
 
+#include "app/IgnoreErrors.h"
 #include "app/MDayvane.h"
 #include "app/ReportErrors.h"
 #include "base/Error.h"
@@ -72,6 +73,7 @@ void FMain::RefreshDaily() {
   tvwMain.Clear();
   const std::string rowKey = KeyOfItem(lvwDaily.SelectedItem());
   lvwDaily.Clear();
+  ShowListedDay(nullptr);
   const std::string& root = m_repository.DailyPath();
   tvwMain.AddRoot(KeyOf(root), ResourceString(kDaily), kRepositoryPicture);
   LoadDailyTreeViewFolder(root, dailytree::kYearLevel);
@@ -127,12 +129,20 @@ void FMain::LoadDailyListView(const controls::TreeNode* node) {
   for (controls::ImageList* images : {&imlLarge, &imlSmall})
     while (images->Count() > 1) images->RemoveLast();
   lvwDaily.SetImages(&imlLarge, &imlSmall);
+  ShowListedDay(node);
   if (node == nullptr) return;
   if (!m_inTreeClick) SetExploreOpen(false);
   const std::string folder = PathOf(node->key);
   for (const auto& entry : Dir(m_application.desktop.files, folder + "\\*.lnk", DirKinds::Files))
     AddDocument(node->key, folder, entry.name);
   lvwDaily.SetSorted(lvwDaily.Sorted());
+}
+
+/// A day without documents can be chosen in the calendar: there it is seen that the list is still of another.
+void FMain::ShowListedDay(const controls::TreeNode* node) {
+  Date day;
+  if (node != nullptr && IsDay(*node)) IgnoreErrors([&] { day = PathToDate(m_application, node->key); });
+  if (m_oCalendar) m_oCalendar->SetListed(day);
 }
 
 void FMain::AddDocument(const std::string& nodeKey, const std::string& folder, const std::string& fileName) {

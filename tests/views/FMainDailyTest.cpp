@@ -255,5 +255,29 @@ TEST_F(DailyViewTest, MissingArgumentsOfTheTreesLoaderAreLogged) {
                                                             "2\tFMain.LoadDailyTreeViewFolder: Level is 0"));
 }
 
+TEST_F(DailyViewTest, TheCalendarKnowsWhichDayIsListed) {
+  const auto may = [](int day) { return std::chrono::local_days{std::chrono::year{2026} / 5 / day}; };
+  File("2026/May/05", "Z:\\a.odt", "2026-05-05 10:00:00");
+  File("2026/May/06", "Z:\\a.odt", "2026-05-06 10:00:00");
+  Load();
+  EXPECT_EQ(window.calMain.ListedDay(), std::nullopt);
+  window.SelectDate(Date::Of(2026, 5, 5));
+  EXPECT_EQ(window.calMain.ListedDay(), may(5));
+  window.calMain.SetCurrentDate(may(9));
+  EXPECT_EQ(window.calMain.ListedDay(), may(5)) << "a day without documents leaves the list";
+  window.tvwMain.Click(Node("2026\\May\\06"));
+  EXPECT_EQ(window.calMain.ListedDay(), may(6));
+  window.tvwMain.Click(Node("2026\\May"));
+  EXPECT_EQ(window.calMain.ListedDay(), std::nullopt);
+}
+
+TEST_F(DailyViewTest, WhenTheListedDayIsPurgedTheCalendarKnowsThatNoneIsListed) {
+  File("2026/May/05", "Z:\\a.odt", "2026-05-05 10:00:00");
+  Load();
+  window.SelectDate(Date::Of(2026, 5, 5));
+  window.PurgeDay(&Node("2026\\May\\05"));
+  EXPECT_EQ(window.calMain.ListedDay(), std::nullopt);
+}
+
 }  // namespace
 }  // namespace dayvane

@@ -1,6 +1,7 @@
 #include "linux/widgets/CalendarPresenter.h"
 
 #include <QEvent>
+#include <QLocale>
 #include <QPainter>
 #include <QScopedValueRollback>
 #include <QTextCharFormat>
@@ -18,6 +19,7 @@ using Day = controls::Calendar::Day;
 
 const QDate kDayZero(1970, 1, 1);
 constexpr int kBarHeight = 3;
+constexpr const char* kDaysPart = "qt_calendar_calendarview";  ///< Qt's own name (qcalendarwidget.cpp)
 
 // The style's own red can hardly be read on a dark background.
 constexpr QColor kWeekendOnLight(0xb0, 0x10, 0x20);
@@ -54,7 +56,7 @@ CalendarPresenter::CalendarPresenter(controls::Calendar& control, Qt::DayOfWeek 
 void CalendarPresenter::NameParts() {
   // Qt's own names of the parts (qcalendarwidget.cpp); it leaves some without words for screen readers.
   static constexpr std::array<std::pair<const char*, const char*>, 3> kNames{
-      {{"qt_calendar_calendarview", "Days of the month"},
+      {{kDaysPart, "Days of the month"},
        {"qt_calendar_prevmonth", "Previous month"},
        {"qt_calendar_nextmonth", "Next month"}}};
   for (const auto& [part, words] : kNames)
@@ -66,10 +68,42 @@ bool CalendarPresenter::IsHighlighted(QDate date) const {
   return date.year() == current.year() && date.month() == current.month() && m_control.Highlight(date.day());
 }
 
+bool CalendarPresenter::IsListed(QDate date) const {
+  const auto listed = m_control.ListedDay();
+  return listed && ToQDate(*listed) == date;
+}
+
+void CalendarPresenter::PaintFrame(QPainter& painter, const QRect& cell, QDate date) const {
+  constexpr int kThickness = 2;
+  painter.save();
+  painter.fillRect(cell, palette().color(QPalette::Base));
+  painter.setPen(palette().color(QPalette::Text));
+  painter.drawText(cell, Qt::AlignCenter, QString::number(date.day()));
+  painter.setPen(QPen(palette().color(QPalette::Highlight), kThickness));
+  painter.drawRect(cell.adjusted(1, 1, -kThickness, -kThickness));
+  painter.restore();
+}
+
+void CalendarPresenter::PaintFilled(QPainter& painter, const QRect& cell, QDate date) const {
+  painter.save();
+  painter.fillRect(cell, palette().color(QPalette::Highlight));
+  painter.setPen(palette().color(QPalette::HighlightedText));
+  QFont bold = font();
+  bold.setBold(IsHighlighted(date));
+  painter.setFont(bold);
+  painter.drawText(cell, Qt::AlignCenter, QString::number(date.day()));
+  painter.restore();
+}
+
 void CalendarPresenter::paintCell(QPainter* painter, const QRect& cell, QDate date) const {
-  QCalendarWidget::paintCell(painter, cell, date);
+  if (IsListed(date) && date != selectedDate())
+    PaintFilled(*painter, cell, date);
+  else if (date == selectedDate() && !IsListed(date))
+    PaintFrame(*painter, cell, date);
+  else
+    QCalendarWidget::paintCell(painter, cell, date);
   if (!IsHighlighted(date)) return;
-  const QColor colour = palette().color(date == selectedDate() ? QPalette::HighlightedText : QPalette::Highlight);
+  const QColor colour = palette().color(IsListed(date) ? QPalette::HighlightedText : QPalette::Highlight);
   const int width = cell.width() / 2;
   painter->fillRect(cell.center().x() - width / 2, cell.bottom() - kBarHeight, width, kBarHeight, colour);
 }
@@ -84,6 +118,25 @@ void CalendarPresenter::Show() {
   const Day day = m_control.CurrentDate();
   setSelectedDate(day == Day{} ? QDate::currentDate() : ToQDate(day));
   ShowHighlights();
+  ShowExplanation();
+}
+
+QString CalendarPresenter::Explanation() const {
+  const QDate chosen = selectedDate();
+  if (IsListed(chosen)) return {};
+  const auto words = [](QDate date) { return QLocale().toString(date, QLocale::LongFormat); };
+  const auto listed = m_control.ListedDay();
+  const QString list =
+      listed ? QStringLiteral("The list is of %1.").arg(words(ToQDate(*listed))) : QStringLiteral("No day is listed.");
+  if (IsHighlighted(chosen)) return list;
+  return QStringLiteral("No documents on %1. %2").arg(words(chosen), list);
+}
+
+void CalendarPresenter::ShowExplanation() {
+  const QString text = Explanation();
+  setToolTip(text);
+  // Where the keyboard is, a screen reader reads.
+  if (auto* days = findChild<QWidget*>(QLatin1String(kDaysPart))) days->setAccessibleDescription(text);
 }
 
 void CalendarPresenter::ShowHighlights() {

@@ -8,7 +8,9 @@
 namespace dayvane::widgets {
 
 /// Shows a calendar. Going to another month or year moves the current date there, so that the highlighted days are
-/// always those of the month shown. A highlighted day is bold and underlined by a bar: colour alone would not do.
+/// always those of the month shown. A highlighted day is bold and underlined by a bar: colour alone would not do. The
+/// day that is listed is filled; a chosen day that is not, because it has no documents, has a frame, and a tip tells
+/// so.
 class CalendarPresenter : public QCalendarWidget {
  public:
   /// A calendar that has no date yet shows today's month.
@@ -21,9 +23,14 @@ class CalendarPresenter : public QCalendarWidget {
   void changeEvent(QEvent* event) override;
 
  private:
+  bool IsListed(QDate date) const;
+  QString Explanation() const;
+  void PaintFrame(QPainter& painter, const QRect& cell, QDate date) const;
+  void PaintFilled(QPainter& painter, const QRect& cell, QDate date) const;
   void NameParts();
   void Show();
   void ShowHighlights();
+  void ShowExplanation();
   void ShowWeekend();
   void ShowMonth(int year, int month);
   void SelectionMoved();

@@ -223,5 +223,56 @@ TEST_F(CalendarPresenterTest, TheWeekendCanBeReadOnADarkBackground) {
   EXPECT_GT(presenter.weekdayTextFormat(Qt::Sunday).foreground().color().lightness(), light.lightness());
 }
 
+/// The colour in the corner of a day's cell: of its frame or of what fills it.
+class ListedDayTest : public CalendarPresenterTest {
+ protected:
+  ListedDayTest() {
+    m_presenter.resize(350, 250);
+    m_presenter.show();
+    m_control.SetHighlight(18, true);
+    m_control.SetListedDay(Day(2026, 5, 18));
+  }
+
+  QRect Cell(int row, int column) {
+    auto& days = *m_presenter.findChild<QAbstractItemView*>();
+    const QRect cell = days.visualRect(days.model()->index(row, column));
+    return cell.translated(days.viewport()->mapTo(&m_presenter, QPoint()));
+  }
+  QColor At(QPoint point) { return m_presenter.grab().toImage().pixelColor(point); }
+
+  CalendarPresenter m_presenter{m_control, Qt::Monday};
+};
+
+TEST_F(ListedDayTest, TheDayOfTheListIsFilledAndAChosenDayWithoutDocumentsOnlyFramed) {
+  const QColor highlight = m_presenter.palette().color(QPalette::Highlight);
+  const QColor base = m_presenter.palette().color(QPalette::Base);
+  const QRect listed = Cell(4, 0);  // Monday, 18 May 2026, below the names of the weekdays
+  const QRect chosen = Cell(4, 2);  // Wednesday, 20 May
+
+  EXPECT_EQ(At(listed.topLeft() + QPoint(4, 4)), highlight);
+  EXPECT_EQ(At(chosen.topLeft() + QPoint(4, 4)), base);
+  EXPECT_EQ(At(chosen.topLeft() + QPoint(1, 1)), highlight) << "the frame";
+}
+
+TEST_F(ListedDayTest, TheCalendarSaysThatTheChosenDayHasNoDocumentsAndWhichDayIsListed) {
+  const QLocale locale;
+  const QString text = QStringLiteral("No documents on %1. The list is of %2.")
+                           .arg(locale.toString(QDate(2026, 5, 20), QLocale::LongFormat),
+                                locale.toString(QDate(2026, 5, 18), QLocale::LongFormat));
+  EXPECT_EQ(m_presenter.toolTip(), text);
+  EXPECT_EQ(m_presenter.findChild<QWidget*>("qt_calendar_calendarview")->accessibleDescription(), text);
+}
+
+TEST_F(ListedDayTest, OnTheDayOfTheListThereIsNothingToExplain) {
+  m_control.SetCurrentDate(Day(2026, 5, 18));
+  EXPECT_EQ(m_presenter.toolTip(), "");
+  EXPECT_EQ(At(Cell(4, 0).topLeft() + QPoint(4, 4)), m_presenter.palette().color(QPalette::Highlight));
+}
+
+TEST_F(ListedDayTest, WhenNoDayIsListedTheCalendarSaysSo) {
+  m_control.SetListedDay(std::nullopt);
+  EXPECT_TRUE(m_presenter.toolTip().endsWith("No day is listed."));
+}
+
 }  // namespace
 }  // namespace dayvane::widgets

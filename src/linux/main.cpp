@@ -68,6 +68,14 @@ class SignalHandlers {
   std::vector<guint> m_sources;
 };
 
+/// What escapes every handler is reported as any other error of the program.
+void LayNet(std::optional<ErrorNet>& net, Application& application) {
+  const auto report = [&application](StringId phrase) {
+    ReportCurrentError(application, phrase, "MDayvane", "EventLoop");
+  };
+  net.emplace(report, [] { QCoreApplication::exit(kFailure); });
+}
+
 /// Whoever asked for help when welcomed wants to read it, and not to see the main window come over it.
 void KeepHelpInFront(help::DesktopHelp& help, FMain& mainWindow) {
   mainWindow.form.Activate.Connect([&help, isFirst = true]() mutable {
@@ -102,17 +110,14 @@ int Run() {
   widgets::ProgramWindows windows(windowing, dates,
                                   [&](int contextId, QPoint at) { help.ShowPopup(helpFile, contextId, at); });
   const SignalHandlers signals(windows);
-  program =
-      Main(desktop, *programFolder, !instance,
-           {[&](FSplash& splash) { windows.Present(splash); },
-            [&](FMain& mainWindow, Application& application) {
-              events.SetLog(&application.eventLog);
-              net.emplace(
-                  [&application](StringId phrase) { ReportCurrentError(application, phrase, "MDayvane", "EventLoop"); },
-                  [] { QCoreApplication::exit(kFailure); });
-              windows.Present(mainWindow);
-              KeepHelpInFront(help, mainWindow);
-            }});
+  program = Main(desktop, *programFolder, !instance,
+                 {[&](FSplash& splash) { windows.Present(splash); },
+                  [&](FMain& mainWindow, Application& application) {
+                    events.SetLog(&application.eventLog);
+                    LayNet(net, application);
+                    windows.Present(mainWindow);
+                    KeepHelpInFront(help, mainWindow);
+                  }});
   int result = program.mainWindow ? 0 : kFailure;
   if (program.mainWindow && !program.mainWindow->form.IsUnloaded())
     result = RunEventLoop([&windows] { windows.EndSession(); });

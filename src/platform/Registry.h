@@ -1,8 +1,10 @@
 #pragma once
 
 #include <cstdint>
+#include <exception>
 #include <memory>
 #include <string>
+#include <utility>
 
 namespace dayvane::platform {
 
@@ -23,7 +25,7 @@ class RegistryKey {
   /// The text of a value; the name "" is the key's default value.
   virtual std::string Value(const std::string& name) = 0;
 
-  /// Assigns a new text to a value that exists, at once.
+  /// Assigns a new text to a value that exists: at once, or with the others while writes are held together.
   virtual void SetValue(const std::string& name, const std::string& text) = 0;
 
   /// Adds a value, or gives an existing one the text. `type` is kRegistryString.
@@ -40,6 +42,35 @@ class Registry {
 
   /// The key of a full path such as "\HKEY_CURRENT_USER\Software\Korvath\Dayvane\Options".
   virtual std::unique_ptr<RegistryKey> KeyFromPath(const std::string& path) = 0;
+
+  /// Where every write costs a whole file, those between these two become one; readers see them all the time. Pairs
+  /// may stand inside others. The last StoreWrites fails when the values cannot be stored, which then keep the texts
+  /// that they had. A registry to which a write is a small thing need not do anything here.
+  virtual void HoldWrites() {}
+  virtual void StoreWrites() {}
+};
+
+/// Holds together what is written to the registry as long as it lives.
+class WritesTogether {
+ public:
+  explicit WritesTogether(Registry& registry) : m_registry(&registry) { registry.HoldWrites(); }
+  WritesTogether(const WritesTogether&) = delete;
+  WritesTogether& operator=(const WritesTogether&) = delete;
+
+  /// For whoever does not ask: what was written before an error is stored too, and a failure is not told.
+  ~WritesTogether() {
+    try {
+      Store();
+    } catch (const std::exception&) {  // NOLINT(bugprone-empty-catch): told to those who call Store
+    }
+  }
+
+  void Store() {
+    if (Registry* registry = std::exchange(m_registry, nullptr)) registry->StoreWrites();
+  }
+
+ private:
+  Registry* m_registry;
 };
 
 }  // namespace dayvane::platform

@@ -41,6 +41,7 @@ void COptions::ReadValues() {
   }
   // One bad value resets those after it too, however good they are: a damaged subtree is set back from there on.
   bool failed = false;
+  const platform::WritesTogether writes(registry);
   std::int32_t* const fields[] = {&m_favoritesThreshold, &m_purgeAge, &m_timerInterval};
   for (std::size_t i = 0; i < Defaults().size(); ++i) {
     const settings::NamedText& standard = Defaults()[i];
@@ -62,10 +63,13 @@ bool COptions::ChangeValues() {
   m_favoritesThreshold = dialog.FavoritesThreshold();
   m_purgeAge = dialog.PurgeAge();
   m_timerInterval = dialog.TimerInterval();
-  const auto key = settings::OpenSubtree(m_application.desktop.registry, kSubtree);
+  auto& registry = m_application.desktop.registry;
+  const auto key = settings::OpenSubtree(registry, kSubtree);
+  platform::WritesTogether writes(registry);
   key->SetValue("Favorites Threshold", std::to_string(m_favoritesThreshold));
   key->SetValue("Purge Age", std::to_string(m_purgeAge));
   key->SetValue("Timer Interval", std::to_string(m_timerInterval));
+  writes.Store();
   return true;
 }
 

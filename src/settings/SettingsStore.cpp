@@ -45,7 +45,9 @@ void CreateSubtree(platform::Registry& registry, const std::string& subtree, con
     key = OpenLevel(*key, level);
   }
   if (!key) return;
+  platform::WritesTogether writes(registry);
   for (const NamedText& value : values) key->AddValue(value.name, value.text, platform::kRegistryString);
+  writes.Store();
 }
 
 std::string NumberText(double number) {
@@ -77,7 +79,7 @@ std::optional<bool> ToFlag(std::string_view text) {
 }
 
 Subtree::Subtree(platform::Registry& registry, const std::string& subtree, std::vector<NamedText> values)
-    : m_values(std::move(values)) {
+    : m_values(std::move(values)), m_writes(registry) {
   if (IgnoreErrors([&] { m_key = OpenSubtree(registry, subtree); })) return;
   CreateSubtree(registry, subtree, m_values);
   m_key = OpenSubtree(registry, subtree);

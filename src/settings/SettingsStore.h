@@ -50,6 +50,7 @@ class Subtree {
   Result Converted(std::size_t value, std::optional<Result> (*convert)(std::string_view)) const;
 
   std::vector<NamedText> m_values;
+  platform::WritesTogether m_writes;
   std::unique_ptr<platform::RegistryKey> m_key;
 };
 

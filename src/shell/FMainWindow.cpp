@@ -78,6 +78,8 @@ void FMain::Form_Unload() {
     Assert(m_oDaily != nullptr, ".Form_Unload: Daily object is nothing");
     Assert(m_oFavorites != nullptr, ".Form_Unload: Favorites object is nothing");
     tmrMain.SetEnabled(false);
+    // A session that ends waits for the disk once, and not for every value.
+    platform::WritesTogether writes(m_application.desktop.registry);
     if (m_isRestored) {
       SaveWindow();
       SaveViews();
@@ -85,6 +87,7 @@ void FMain::Form_Unload() {
     }
     m_oFavorites->Save();
     if (m_isRestored) m_oFavorites->SaveSettings();
+    writes.Store();
   });
   m_oCalendar.reset();
   m_oDaily.reset();

@@ -20,6 +20,8 @@ class LinuxRegistry : public platform::Registry {
 
   std::unique_ptr<platform::RegistryKey> KeyFromRoot(std::uint32_t root) override;
   std::unique_ptr<platform::RegistryKey> KeyFromPath(const std::string& path) override;
+  void HoldWrites() override { m_settings.HoldWrites(); }
+  void StoreWrites() override { m_settings.StoreWrites(); }
 
  private:
   registry::SettingsFile m_settings;

@@ -31,6 +31,17 @@ std::string FreeNameBeside(const std::string& nativePath) {
   return name;
 }
 
+const std::string* Find(const SettingsKeys& keys, std::string_view path, std::string_view name) {
+  const auto key = keys.find(path);
+  if (key == keys.end()) return nullptr;
+  const auto value = key->second.find(name);
+  return value == key->second.end() ? nullptr : &value->second;
+}
+
+void Put(SettingsKeys& keys, std::string_view path, std::string_view name, const std::string& text) {
+  keys[std::string(path)][std::string(name)] = text;
+}
+
 }  // namespace
 
 SettingsFile::SettingsFile(std::string nativePath, Reporter report)
@@ -44,8 +55,9 @@ bool SettingsFile::HasKey(std::string_view path) {
            (key.size() > below.size() &&
             text::CompareIgnoringCase(std::string_view(key).substr(0, below.size()), below) == 0);
   };
-  for (const auto& [key, values] : m_keys)
-    if (!values.empty() && covers(key)) return true;
+  for (const SettingsKeys* keys : {&m_changes, &m_keys})
+    for (const auto& [key, values] : *keys)
+      if (!values.empty() && covers(key)) return true;
   return std::any_of(m_addedKeys.begin(), m_addedKeys.end(), covers);
 }
 
@@ -55,17 +67,29 @@ void SettingsFile::AddKey(std::string_view path) {
 
 std::optional<std::string> SettingsFile::Value(std::string_view path, std::string_view name) {
   Refresh();
-  const auto key = m_keys.find(path);
-  if (key == m_keys.end()) return std::nullopt;
-  const auto value = key->second.find(name);
-  if (value == key->second.end()) return std::nullopt;
-  return value->second;
+  for (const SettingsKeys* keys : {&m_changes, &m_keys})
+    if (const std::string* text = Find(*keys, path, name)) return *text;
+  return std::nullopt;
 }
 
 void SettingsFile::SetValue(std::string_view path, std::string_view name, const std::string& text) {
   if (Value(path, name) == text) return;
+  Put(m_changes, path, name, text);
+  if (m_holders == 0) Store();
+}
+
+void SettingsFile::StoreWrites() {
+  if (--m_holders == 0) Store();
+}
+
+void SettingsFile::Store() {
+  const SettingsKeys changes = std::exchange(m_changes, {});
+  if (changes.empty()) return;
+  Refresh();
   SettingsKeys changed = m_keys;
-  changed[std::string(path)][std::string(name)] = text;
+  for (const auto& [path, values] : changes)
+    for (const auto& [name, text] : values) Put(changed, path, name, text);
+  if (changed == m_keys) return;
 
   xdg::MakeFolder(ParentOf(m_nativePath));
   const std::string file = FilePath();

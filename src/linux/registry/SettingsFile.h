@@ -11,7 +11,8 @@
 
 namespace dayvane::registry {
 
-/// The user's settings in one text file (form: SettingsText.h), which is replaced whole each time a value changes.
+/// The user's settings in one text file (form: SettingsText.h), which is replaced whole each time a value changes, or
+/// once for all that change while writes are held.
 ///
 /// The file is the only truth: it is read again whenever it has changed on the disk, so that a value that its user
 /// edits or removes by hand while the program runs is seen, and kept when another one is written.
@@ -32,8 +33,14 @@ class SettingsFile {
 
   std::optional<std::string> Value(std::string_view path, std::string_view name);
 
-  /// On the disk when it returns. Fails when the file cannot be replaced, which leaves the old one as it was.
+  /// On the disk when it returns, unless writes are held. Fails when the file cannot be replaced, which leaves the old
+  /// one as it was.
   void SetValue(std::string_view path, std::string_view name, const std::string& text);
+
+  /// Holds writes until StoreWrites was called as often; the last one replaces the file if a value did change. When
+  /// that fails the values are those of the file again.
+  void HoldWrites() { ++m_holders; }
+  void StoreWrites();
 
  private:
   struct Version {
@@ -47,10 +54,13 @@ class SettingsFile {
   void Read(const std::string& path);
   void KeepDamagedFile(const std::string& path);
   void Remember(const std::string& path);
+  void Store();
 
   std::string m_nativePath;
   Reporter m_report;
   SettingsKeys m_keys;
+  SettingsKeys m_changes;  ///< held, not yet on the disk
+  int m_holders = 0;
   std::set<std::string, IgnoringCase> m_addedKeys;
   std::optional<Version> m_version;  ///< of the file that `m_keys` came from; none when there was no file
   bool m_damaged = false;

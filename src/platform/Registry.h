@@ -28,7 +28,8 @@ class RegistryKey {
   /// Assigns a new text to a value that exists: at once, or with the others while writes are held together.
   virtual void SetValue(const std::string& name, const std::string& text) = 0;
 
-  /// Adds a value, or gives an existing one the text. `type` is kRegistryString.
+  /// Adds a value, or gives an existing one the text. `type` is kRegistryString. Values are added with their defaults:
+  /// a registry may keep one that it cannot store for as long as the program runs.
   virtual void AddValue(const std::string& name, const std::string& text, int type) = 0;
 };
 

@@ -91,7 +91,7 @@ Result Subtree::Converted(std::size_t value, std::optional<Result> (*convert)(st
   std::optional<Result> result;
   IgnoreErrors([&] { result = convert(m_key->Value(setting.name)); });
   if (result) return *result;
-  m_key->AddValue(setting.name, setting.text, platform::kRegistryString);
+  IgnoreErrors([&] { m_key->AddValue(setting.name, setting.text, platform::kRegistryString); });
   return convert(setting.text).value_or(Result{});
 }
 

@@ -36,7 +36,8 @@ std::optional<std::int16_t> ToInt16(std::string_view text);
 std::optional<bool> ToFlag(std::string_view text);
 
 /// A subtree opened for reading, created with its default values first when it does not exist. A value that is missing
-/// or does not convert is set back to its default, so that a later save finds it.
+/// or does not convert is set back to its default, so that a later save finds it, and read as its default even where
+/// that cannot be stored.
 class Subtree {
  public:
   Subtree(platform::Registry& registry, const std::string& subtree, std::vector<NamedText> values);

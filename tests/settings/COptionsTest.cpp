@@ -85,6 +85,14 @@ TEST_F(COptionsTest, AKeyThatCannotBeCreatedIsAnErrorForTheCaller) {
   EXPECT_THROW(options.ReadValues(), Error);
 }
 
+TEST_F(COptionsTest, AMissingOptionThatCannotBeAddedHasItsDefault) {
+  Stored() = {{"Favorites Threshold", "7"}, {"Purge Age", "8"}};
+  desktop.registry.refusesValues = true;
+  EXPECT_NO_THROW(options.ReadValues());
+  EXPECT_EQ(options.PurgeAge(), 8);
+  EXPECT_EQ(options.TimerInterval(), 60);
+}
+
 TEST_F(COptionsTest, BeforeAReadAllValuesAreZero) {
   EXPECT_EQ(options.FavoritesThreshold() + options.PurgeAge() + options.TimerInterval(), 0);
 }
@@ -189,6 +197,15 @@ TEST(SettingsStore, AValueThatDoesNotConvertIsSetBackToItsDefault) {
   EXPECT_EQ(view.Number(1), 3);
   const std::map<std::string, std::string> expected{{"Data", "0"}, {"ListViews", "3"}};
   EXPECT_EQ(registry.keys[kProduct + "\\View"], expected);
+}
+
+TEST(SettingsStore, AValueThatCannotBeSetBackReadsAsItsDefaultAllTheSame) {
+  testing::TestRegistry registry;
+  registry.keys[kProduct + "\\View"] = {{"Data", "1"}};
+  registry.refusesValues = true;
+  const settings::Subtree view(registry, "View", {{"Data", "0"}, {"ListViews", "3"}});
+  EXPECT_EQ(view.Number(0), 1);
+  EXPECT_EQ(view.Number(1), 3);
 }
 
 }  // namespace

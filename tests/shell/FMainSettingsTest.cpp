@@ -161,6 +161,17 @@ TEST_F(SettingsTest, AStoredViewThatDoesNotExistShowsTheDailyPaneAlone) {
   EXPECT_FALSE(window.picFavorites.Visible());
 }
 
+TEST_F(SettingsTest, ASettingThatIsMissingAndCannotBeStoredDoesNotStopTheStart) {
+  Load();
+  for (const char* subtree : {"Window", "View", "Daily", "Favorites"}) Stored(subtree).erase(Stored(subtree).begin());
+  desktop.registry.refusesValues = true;
+  FMain next(application, repository);
+  next.Form_Load();
+  EXPECT_TRUE(next.tmrMain.Enabled());
+  EXPECT_TRUE(next.form.Visible());
+  EXPECT_THAT(desktop.windowing.Texts(), IsEmpty());
+}
+
 TEST_F(SettingsTest, WhatOneRunLeavesTheNextTakesUp) {
   Load();
   window.form.Move(1000, 1100, 5000, 6000);

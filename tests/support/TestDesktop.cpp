@@ -36,10 +36,11 @@ class TestKey : public platform::RegistryKey {
 
   void SetValue(const std::string& name, const std::string& text) override {
     Value(name);
-    m_registry.keys.at(m_path)[name] = text;
+    AddValue(name, text, platform::kRegistryString);
   }
 
   void AddValue(const std::string& name, const std::string& text, int) override {
+    if (m_registry.refusesValues) throw Error(kPermissionDenied, "Permission denied", m_path);
     m_registry.keys.at(m_path)[name] = text;
   }
 

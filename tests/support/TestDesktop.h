@@ -37,6 +37,7 @@ class TestRegistry : public platform::Registry {
 
   std::map<std::string, std::map<std::string, std::string>> keys;
   std::string unwritable;  ///< adding below this path fails
+  bool refusesValues = false;
 };
 
 /// Message boxes that answer as told and keep what they were asked; nothing else is shown.

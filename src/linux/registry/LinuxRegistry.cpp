@@ -64,7 +64,7 @@ class SettingsKey : public RegistryKey {
   void AddValue(const std::string& name, const std::string& text, int type) override {
     if (type != platform::kRegistryString)
       throw Error(kInvalidProcedureCall, "Not a string value", Below(m_path, name));
-    m_file.SetValue(m_path, name, text);
+    m_file.AddValue(m_path, name, text);
   }
 
  private:

@@ -38,8 +38,9 @@ const std::string* Find(const SettingsKeys& keys, std::string_view path, std::st
   return value == key->second.end() ? nullptr : &value->second;
 }
 
-void Put(SettingsKeys& keys, std::string_view path, std::string_view name, const std::string& text) {
-  keys[std::string(path)][std::string(name)] = text;
+void Merge(SettingsKeys& keys, const SettingsKeys& newer) {
+  for (const auto& [path, values] : newer)
+    for (const auto& [name, text] : values) keys[path][name] = text;
 }
 
 }  // namespace
@@ -55,7 +56,7 @@ bool SettingsFile::HasKey(std::string_view path) {
            (key.size() > below.size() &&
             text::CompareIgnoringCase(std::string_view(key).substr(0, below.size()), below) == 0);
   };
-  for (const SettingsKeys* keys : {&m_changes, &m_keys})
+  for (const SettingsKeys* keys : {&m_changes, &m_keys, &m_thisRuns})
     for (const auto& [key, values] : *keys)
       if (!values.empty() && covers(key)) return true;
   return std::any_of(m_addedKeys.begin(), m_addedKeys.end(), covers);
@@ -67,14 +68,23 @@ void SettingsFile::AddKey(std::string_view path) {
 
 std::optional<std::string> SettingsFile::Value(std::string_view path, std::string_view name) {
   Refresh();
-  for (const SettingsKeys* keys : {&m_changes, &m_keys})
+  for (const SettingsKeys* keys : {&m_changes, &m_keys, &m_thisRuns})
     if (const std::string* text = Find(*keys, path, name)) return *text;
   return std::nullopt;
 }
 
 void SettingsFile::SetValue(std::string_view path, std::string_view name, const std::string& text) {
+  Hold(path, name, text, true);
+}
+
+void SettingsFile::AddValue(std::string_view path, std::string_view name, const std::string& text) {
+  Hold(path, name, text, false);
+}
+
+void SettingsFile::Hold(std::string_view path, std::string_view name, const std::string& text, bool mustReachDisk) {
   if (Value(path, name) == text) return;
-  Put(m_changes, path, name, text);
+  m_changes[std::string(path)][std::string(name)] = text;
+  m_mustReachDisk = m_mustReachDisk || mustReachDisk;
   if (m_holders == 0) Store();
 }
 
@@ -84,11 +94,22 @@ void SettingsFile::StoreWrites() {
 
 void SettingsFile::Store() {
   const SettingsKeys changes = std::exchange(m_changes, {});
+  const bool mustReachDisk = std::exchange(m_mustReachDisk, false);
   if (changes.empty()) return;
+  try {
+    Replace(changes);
+    m_thisRuns.clear();
+  } catch (const Error& error) {
+    if (mustReachDisk) throw;
+    KeepForThisRun(changes, error.what());
+  }
+}
+
+void SettingsFile::Replace(const SettingsKeys& changes) {
   Refresh();
-  SettingsKeys changed = m_keys;
-  for (const auto& [path, values] : changes)
-    for (const auto& [name, text] : values) Put(changed, path, name, text);
+  SettingsKeys changed = m_thisRuns;
+  Merge(changed, m_keys);
+  Merge(changed, changes);
   if (changed == m_keys) return;
 
   xdg::MakeFolder(ParentOf(m_nativePath));
@@ -97,6 +118,12 @@ void SettingsFile::Store() {
   files::PosixFileSystem().Replace(file, WriteSettings(changed));
   m_keys = std::move(changed);
   Remember(file);
+}
+
+void SettingsFile::KeepForThisRun(const SettingsKeys& added, const std::string& reason) {
+  Merge(m_thisRuns, added);
+  if (std::exchange(m_reportedUnstored, true)) return;
+  m_report("The settings cannot be stored; those that are missing have their defaults: " + reason);
 }
 
 /// The file's path in the program's form. A symbolic link, which people use to keep their settings elsewhere, is

@@ -37,6 +37,10 @@ class SettingsFile {
   /// one as it was.
   void SetValue(std::string_view path, std::string_view name, const std::string& text);
 
+  /// The same for a value that has its default: where that cannot be stored it is reported once and the value holds for
+  /// this run, until the file has one or the next write succeeds. A default is nothing that a user could lose.
+  void AddValue(std::string_view path, std::string_view name, const std::string& text);
+
   /// Holds writes until StoreWrites was called as often; the last one replaces the file if a value did change. When
   /// that fails the values are those of the file again.
   void HoldWrites() { ++m_holders; }
@@ -54,12 +58,18 @@ class SettingsFile {
   void Read(const std::string& path);
   void KeepDamagedFile(const std::string& path);
   void Remember(const std::string& path);
+  void Hold(std::string_view path, std::string_view name, const std::string& text, bool mustReachDisk);
   void Store();
+  void Replace(const SettingsKeys& changes);
+  void KeepForThisRun(const SettingsKeys& added, const std::string& reason);
 
   std::string m_nativePath;
   Reporter m_report;
   SettingsKeys m_keys;
-  SettingsKeys m_changes;  ///< held, not yet on the disk
+  SettingsKeys m_changes;        ///< held, not yet on the disk
+  bool m_mustReachDisk = false;  ///< there are others than defaults among the held ones
+  SettingsKeys m_thisRuns;       ///< defaults that the disk did not take
+  bool m_reportedUnstored = false;
   int m_holders = 0;
   std::set<std::string, IgnoringCase> m_addedKeys;
   std::optional<Version> m_version;  ///< of the file that `m_keys` came from; none when there was no file

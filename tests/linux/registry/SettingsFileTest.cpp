@@ -137,6 +137,43 @@ TEST_F(SettingsFileTest, AFolderThatMayNotBeWrittenIsAnErrorAndKeepsTheOldFile) 
   EXPECT_EQ(ReadFile(m_path), kStored);
 }
 
+TEST_F(SettingsFileTest, ADefaultThatCannotBeStoredHoldsForThisRunAndIsToldOnce) {
+  m_folder.Write("config/dayvane", "a file in the folder's place");
+  SettingsFile file = Open();
+  file.AddValue(kKey, "Purge Age", "30");
+  file.AddValue(kKey, "Timer Interval", "60");
+  EXPECT_TRUE(file.HasKey(kKey));
+  EXPECT_EQ(file.Value(kKey, "Purge Age"), "30");
+  EXPECT_THAT(m_events, ElementsAre(HasSubstr("cannot be stored")));
+  EXPECT_FALSE(Open().HasKey(kKey));
+}
+
+TEST_F(SettingsFileTest, AChangeThatCannotBeStoredIsAnErrorAndNoNewValue) {
+  m_folder.Write("config/dayvane", "a file in the folder's place");
+  SettingsFile file = Open();
+  file.AddValue(kKey, "Purge Age", "30");
+  EXPECT_THROW(file.SetValue(kKey, "Purge Age", "31"), Error);
+  EXPECT_EQ(file.Value(kKey, "Purge Age"), "30");
+}
+
+TEST_F(SettingsFileTest, ADefaultThatCouldNotBeStoredIsStoredWithTheNextChange) {
+  m_folder.Write("config/dayvane", "a file in the folder's place");
+  SettingsFile file = Open();
+  file.AddValue(kKey, "Purge Age", "30");
+  fs::remove(m_folder / "config/dayvane");
+  file.SetValue(kKey, "Timer Interval", "60");
+  EXPECT_THAT(ReadFile(m_path), HasSubstr("Purge Age=30\nTimer Interval=60\n"));
+}
+
+TEST_F(SettingsFileTest, AValueThatTheUserWritesIntoTheFileIsStrongerThanADefaultOfThisRun) {
+  m_folder.Write("config/dayvane", "a file in the folder's place");
+  SettingsFile file = Open();
+  file.AddValue(kKey, "Purge Age", "31");
+  fs::remove(m_folder / "config/dayvane");
+  m_folder.Write("config/dayvane/dayvane.ini", kStored);
+  EXPECT_EQ(file.Value(kKey, "Purge Age"), "30");
+}
+
 TEST_F(SettingsFileTest, ADamagedFileIsReadAsFarAsItCanBeAndReportedOnce) {
   m_folder.Write("config/dayvane/dayvane.ini", std::string(kStored) + "\xFFgarbage\nTimer Interval=60\n");
   SettingsFile file = Open();

@@ -9,6 +9,7 @@
 #include "shell/FMain.h"
 #include "tests/support/FullDisk.h"
 #include "tests/support/TestDesktop.h"
+#include "tests/support/UnprivilegedUser.h"
 
 namespace dayvane {
 namespace {
@@ -52,6 +53,12 @@ class SettingsOnDiskTest : public ::testing::Test {
   std::string File() const { return Config() + "/dayvane.ini"; }
   void Load() { window.Form_Load(); }
   void End() { window.form.RequestUnload(controls::UnloadMode::SystemSession); }
+
+  /// Puts a file where the folder of the settings should be, so that not even root can write them.
+  void LockSettings() {
+    fs::remove_all(Config());
+    desktop.folder.Write("config", "");
+  }
 
   /// What a user changes in the course of a day: place, views, columns of both lists.
   void ChangeEverything() {
@@ -151,6 +158,69 @@ TEST_F(SettingsOnDiskTest, ValuesThatAreMissingAreAddedInOneReplacementForEachGr
   EXPECT_LE(replacements.Count(), 5);
   EXPECT_THAT(testing::ReadFile(File()), HasSubstr("Favorites Threshold=3\nPurge Age=30\nTimer Interval=60\n"));
   EXPECT_THAT(desktop.windowing.Texts(), IsEmpty());
+}
+
+TEST_F(SettingsOnDiskTest, WithoutAFolderForItsSettingsAFirstStartWelcomesAndRunsWithTheDefaults) {
+  LockSettings();
+  Load();
+  EXPECT_THAT(desktop.windowing.Texts(), ElementsAre(StartsWith("Welcome")));
+  EXPECT_THAT(events, ElementsAre(HasSubstr("settings cannot be stored")));
+  EXPECT_TRUE(window.tmrMain.Enabled());
+  EXPECT_EQ(window.tmrMain.Interval(), 60000);
+  EXPECT_TRUE(window.form.Visible());
+}
+
+TEST_F(SettingsOnDiskTest, SettingsThatCannotBeStoredAndDidNotChangeAreNothingToTellOfAtTheEnd) {
+  LockSettings();
+  Load();
+  End();
+  EXPECT_THAT(desktop.windowing.Texts(), ElementsAre(StartsWith("Welcome")));
+}
+
+TEST_F(SettingsOnDiskTest, SettingsThatChangedAndCannotBeStoredAreToldOnceAtTheEnd) {
+  LockSettings();
+  Load();
+  ChangeEverything();
+  End();
+  EXPECT_THAT(desktop.windowing.Texts(),
+              ElementsAre(StartsWith("Welcome"), "An error occurred saving the current settings."));
+}
+
+TEST_F(SettingsOnDiskTest, AReadOnlyFolderOfSettingsThatLackAValueDoesNotStopTheStart) {
+  Load();
+  End();
+  std::string stored = testing::ReadFile(File());
+  stored.erase(stored.find("ListViews=3\n"), 12);
+  stored.erase(stored.find("Purge Age=30\n"), 13);
+  desktop.folder.Write("config/dayvane.ini", stored);
+  for (const std::string& folder : {desktop.folder.Native(), desktop.NativeFolder(), desktop.NativeRecent()})
+    fs::permissions(folder, fs::perms::all);
+  for (const std::string& file : {desktop.NativeFolder() + "/Daily", File()}) fs::permissions(file, fs::perms::all);
+  fs::permissions(Config(), fs::perms(0555));
+  desktop.windowing.messages.clear();
+  FMain next(application, repository);
+  {
+    const testing::UnprivilegedUser nobody;
+    next.Form_Load();
+  }
+  fs::permissions(Config(), fs::perms(0755));
+  EXPECT_THAT(desktop.windowing.Texts(), IsEmpty());
+  EXPECT_THAT(events, ElementsAre(HasSubstr("settings cannot be stored")));
+  EXPECT_TRUE(next.tmrMain.Enabled());
+}
+
+TEST_F(SettingsOnDiskTest, OptionsThatCannotBeStoredAreToldAndNotTaken) {
+  Load();
+  LockSettings();
+  FOptions* dialog = nullptr;
+  window.OptionsLoaded.Connect([&](FOptions& loaded) { dialog = &loaded; });
+  desktop.windowing.showModal = [&](controls::Form&) {
+    for (auto& box : dialog->txtOptions) box.SetText("9");
+    dialog->cmdOptions[FOptions::kOk].Press();
+  };
+  window.SetOptions();
+  EXPECT_THAT(desktop.windowing.Texts(), ElementsAre(StartsWith("Welcome"), "An error occurred setting options."));
+  EXPECT_EQ(window.tmrMain.Interval(), 60000);
 }
 
 }  // namespace

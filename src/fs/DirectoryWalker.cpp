@@ -10,17 +10,20 @@ using platform::EntryKind;
 
 void DirectoryWalker::WalkDirectoryTree(const std::string& sourceDirectory, const std::string& searchItem, long flags) {
   m_cancel = false;
-  Walk(sourceDirectory, searchItem, flags);
+  std::string listed = sourceDirectory;
+  if (listed.ends_with('\\')) listed = m_files.Resolve(listed.substr(0, listed.size() - 1)) + "\\";
+  Walk(sourceDirectory, listed, searchItem, flags);
 }
 
-void DirectoryWalker::Walk(const std::string& sourceDirectory, const std::string& searchItem, long flags) {
+void DirectoryWalker::Walk(const std::string& sourceDirectory, const std::string& listed, const std::string& searchItem,
+                           long flags) {
   // One listing serves the items and the sub-folders, and is complete before anything of it is reported or entered.
-  const auto entries = Dir(m_files, sourceDirectory + "*.*", DirKinds::FilesAndFolders);
+  const auto entries = Dir(m_files, listed + "*.*", DirKinds::FilesAndFolders);
   ReportItems(entries, sourceDirectory, searchItem, (flags & kWalkReportFolders) != 0);
   if ((flags & kWalkNoSubFolders) != 0 || m_cancel) return;
   for (const auto& entry : entries) {
     if (entry.kind != EntryKind::Folder || entry.name.starts_with('.')) continue;
-    Walk(sourceDirectory + entry.name + "\\", searchItem, flags);
+    Walk(sourceDirectory + entry.name + "\\", listed + entry.name + "\\", searchItem, flags);
     if (m_cancel) return;
   }
 }

@@ -16,7 +16,8 @@ enum WalkFlags : long {
 };
 
 /// Enumerates a folder, optionally with all below it, in pre-order: a folder's own items come before anything of its
-/// sub-folders. Names that begin with "." are neither reported nor entered; symbolic links never.
+/// sub-folders. Names that begin with "." are neither reported nor entered, and so are symbolic links: only the folder
+/// that the walk starts from may be one, because its user put it there. What is reported has the link in its path.
 class DirectoryWalker {
  public:
   static constexpr const char* ClassName = "DirectoryWalker";
@@ -32,7 +33,7 @@ class DirectoryWalker {
   controls::Signal<const std::string&, const std::string&, bool&> ItemFound;
 
  private:
-  void Walk(const std::string& sourceDirectory, const std::string& searchItem, long flags);
+  void Walk(const std::string& sourceDirectory, const std::string& listed, const std::string& searchItem, long flags);
   void ReportItems(const std::vector<platform::DirectoryEntry>& entries, const std::string& sourceDirectory,
                    const std::string& searchItem, bool folders);
 

@@ -8,11 +8,17 @@ namespace dayvane {
 
 namespace {
 
+/// Where the root is a symbolic link, which is how its user keeps the record on another disk, the folder that it leads
+/// to is meant. It is made when only itself is missing: what it should lie in may be a disk that is not there today.
 void CreateRootFolder(platform::FileSystem& files, const std::string& path) {
+  const std::string folder = files.Resolve(path);
   try {
-    files.CreateFolder(path);
+    files.CreateFolder(folder);
   } catch (const Error& error) {
-    if (error.Number() != kFileAlreadyExists) throw;  // On every start but the first the folder is there.
+    if (folder == path && error.Number() == kFileAlreadyExists) return;  // On every start but the first it is there.
+    if (folder == path) throw;
+    if (!FolderExists(files, folder))
+      throw Error(error.Number(), path + " is a link that leads to no folder: " + error.Description(), folder);
   }
 }
 
@@ -53,7 +59,7 @@ Date CRepository::FindLatestDay() const {
   Assert(!text::Trim(m_dailyPath).empty(), ".FindLatestDay: Daily path is missing");
   auto& files = m_application.desktop.files;
   const auto& dates = m_application.desktop.dates;
-  if (!FolderExists(files, m_dailyPath)) return {};
+  if (!FolderExists(files, files.Resolve(m_dailyPath))) return {};
 
   int yearNumber = m_application.Now().Year();
   std::string year = Format(m_application.Now(), "yyyy", dates);

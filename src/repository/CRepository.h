@@ -18,11 +18,15 @@ namespace dayvane {
 /// with the month's full name in the user's language and two-digit days. A day folder holds a copy of each shortcut
 /// filed for the day and, beside them, shortcuts to the programs that open them. There is no index: that a folder is
 /// there is the fact that the day has documents.
+///
+/// "Daily" may be a symbolic link to a folder elsewhere. Its path stays the one in the program folder all the same, so
+/// that what was recorded before the folder moved is still named rightly. Links below it are not followed.
 class CRepository {
  public:
   static constexpr const char* ClassName = "CRepository";
 
-  /// Creates the root folder when it is missing. The application must outlive this object.
+  /// Creates the root folder when it is missing; an error when it is a link to a folder that cannot be made. The
+  /// application must outlive this object.
   explicit CRepository(Application& application);
 
   const std::string& DailyPath() const { return m_dailyPath; }

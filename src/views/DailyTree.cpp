@@ -20,9 +20,10 @@ std::string MonthPrefix(const std::string& name, const platform::DateConventions
 
 }  // namespace
 
-std::vector<std::string> NodeNames(platform::FileSystem& files, const std::string& folder) {
+std::vector<std::string> NodeNames(platform::FileSystem& files, const std::string& folder, int level) {
   std::vector<std::string> names;
-  for (auto& entry : Dir(files, folder + "\\" + "*.*", DirKinds::FilesAndFolders))
+  const std::string listed = level == kYearLevel ? files.Resolve(folder) : folder;
+  for (auto& entry : Dir(files, listed + "\\" + "*.*", DirKinds::FilesAndFolders))
     if (!entry.name.ends_with(".lnk")) names.push_back(std::move(entry.name));
   return names;
 }

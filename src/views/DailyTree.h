@@ -13,8 +13,9 @@ inline constexpr int kYearLevel = 2;
 inline constexpr int kMonthLevel = 3;
 inline constexpr int kDayLevel = 4;
 
-/// The names of a folder that become nodes: all but those that end in ".lnk", in exactly these letters.
-std::vector<std::string> NodeNames(platform::FileSystem& files, const std::string& folder);
+/// The names of a folder that become nodes of a level: all but those that end in ".lnk", in exactly these letters. The
+/// folder of the years, which is the repository itself, may be a symbolic link to it.
+std::vector<std::string> NodeNames(platform::FileSystem& files, const std::string& folder, int level);
 
 /// Puts names in the order of their level: months by the calendar, English or the user's own, others after them by
 /// text; days by text; years as they come.

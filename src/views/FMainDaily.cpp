@@ -100,7 +100,7 @@ void FMain::LoadDailyTreeViewFolder(const std::string& folder, int level) {
   std::vector<std::string> names;
   // A folder that cannot be read is shown as a leaf, so that one of them does not hide all other days.
   try {
-    names = dailytree::NodeNames(m_application.desktop.files, folder);
+    names = dailytree::NodeNames(m_application.desktop.files, folder, level);
   } catch (const Error& error) {
     m_application.eventLog.Append(error.what(), EventKind::Warning);
   }

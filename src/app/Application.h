@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "app/CAssert.h"
 #include "app/ErrorReporter.h"
@@ -48,6 +49,9 @@ class Application {
   EventLogWriter eventLog;
   CAssert asserts;
   ShellServices shellServices;
+
+  /// Month names of the languages that the record was ever kept in. The repository learns them from the settings.
+  std::vector<platform::MonthNames> monthLanguages;
 
   /// The window whose pointer a wait cursor changes: a modal form while one is shown, else the main window.
   controls::Form* activeForm = nullptr;

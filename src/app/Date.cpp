@@ -28,11 +28,20 @@ const platform::DateConventions& English() {
   return conventions;
 }
 
-std::optional<int> MonthNumber(std::string_view text, const platform::DateConventions& conventions) {
+std::optional<int> MonthNumber(std::string_view text, const platform::MonthNames& names) {
+  for (std::size_t i = 0; i < names.size(); ++i)
+    if (text::CompareIgnoringCase(text, names[i]) == 0) return static_cast<int>(i) + 1;
+  return std::nullopt;
+}
+
+/// A name may mean different months in different languages: the user's own language decides, then English.
+std::optional<int> MonthNumber(std::string_view text, const platform::DateConventions& conventions,
+                               std::span<const platform::MonthNames> otherLanguages = {}) {
   if (text::IsNumeric(text)) return text::ToInt32(text);
   for (const auto* names : {&conventions.monthNames, &English().monthNames})
-    for (std::size_t i = 0; i < names->size(); ++i)
-      if (text::CompareIgnoringCase(text, (*names)[i]) == 0) return static_cast<int>(i) + 1;
+    if (const auto month = MonthNumber(text, *names)) return month;
+  for (const auto& names : otherLanguages)
+    if (const auto month = MonthNumber(text, names)) return month;
   return std::nullopt;
 }
 
@@ -176,10 +185,11 @@ std::string Format(const Date& date, std::string_view pattern, const platform::D
   return out;
 }
 
-Date ParseMonthFirst(std::string_view text, const platform::DateConventions& conventions) {
+Date ParseMonthFirst(std::string_view text, const platform::DateConventions& conventions,
+                     std::span<const platform::MonthNames> otherLanguages) {
   const auto parts = SplitAt(text, '/');
   if (parts.size() != 2 && parts.size() != 3) FailNoDate(text);
-  const auto month = MonthNumber(parts.front(), conventions);
+  const auto month = MonthNumber(parts.front(), conventions, otherLanguages);
   const auto day = parts.size() == 3 ? Number(parts[1]) : 1;
   const auto year = Number(parts.back());
   if (!month || !day || !year) FailNoDate(text);

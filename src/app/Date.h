@@ -3,6 +3,7 @@
 #include <chrono>
 #include <compare>
 #include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -53,9 +54,10 @@ class Date {
 std::string Format(const Date& date, std::string_view pattern, const platform::DateConventions& conventions);
 
 /// A month-first date text, "January/05/1998", "1/5/1998", or month and year alone, "1/98". The month is a number or a
-/// full month name, the user's or English; two-digit years are 1930 … 2029. The result is midnight.
-/// Fails with kTypeMismatch when the text is no date.
-Date ParseMonthFirst(std::string_view text, const platform::DateConventions& conventions);
+/// full month name: the user's, English, or of one of the other languages; two-digit years are 1930 … 2029. The result
+/// is midnight. Fails with kTypeMismatch when the text is no date.
+Date ParseMonthFirst(std::string_view text, const platform::DateConventions& conventions,
+                     std::span<const platform::MonthNames> otherLanguages = {});
 
 struct DateParts {
   int month = 0;

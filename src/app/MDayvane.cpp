@@ -25,7 +25,7 @@ Date PathToDate(const Application& application, const std::string& path) {
   const std::string day = TakeLastPart(rest);
   const std::string month = TakeLastPart(rest);
   const std::string year = TakeLastPart(rest);
-  return ParseMonthFirst(month + "/" + day + "/" + year, application.desktop.dates);
+  return ParseMonthFirst(month + "/" + day + "/" + year, application.desktop.dates, application.monthLanguages);
 }
 
 }  // namespace dayvane

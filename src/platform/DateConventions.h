@@ -5,11 +5,14 @@
 
 namespace dayvane::platform {
 
+/// Full month names of a language, January first.
+using MonthNames = std::array<std::string, 12>;
+
 /// How the user's language and country write dates. Filled by the platform, read by app/Date.
 struct DateConventions {
-  /// Full month names, January first, in the form in which a name stands alone.
-  std::array<std::string, 12> monthNames{"January", "February", "March",     "April",   "May",      "June",
-                                         "July",    "August",   "September", "October", "November", "December"};
+  /// In the form in which a name stands alone.
+  MonthNames monthNames{"January", "February", "March",     "April",   "May",      "June",
+                        "July",    "August",   "September", "October", "November", "December"};
 
   /// The short date: d, dd, m, mm, yy, yyyy and literal separators. Here and in the short time a text in apostrophes
   /// is literal, whatever letters it holds.

@@ -1,8 +1,12 @@
 #include "repository/CRepository.h"
 
+#include <algorithm>
+
+#include "app/IgnoreErrors.h"
 #include "base/Error.h"
 #include "base/Text.h"
 #include "fs/Dir.h"
+#include "settings/MonthLanguages.h"
 
 namespace dayvane {
 
@@ -43,6 +47,8 @@ CRepository::CRepository(Application& application)
   connect(m_oMonthlyWalker, &CRepository::m_oMonthlyWalker_ItemFound);
   connect(m_oPurgeWalker, &CRepository::m_oPurgeWalker_ItemFound);
   CreateRootFolder(application.desktop.files, m_dailyPath);
+  application.monthLanguages =
+      settings::RememberMonthNames(application.desktop.registry, application.desktop.dates.monthNames);
 }
 
 void CRepository::Assert(bool condition, std::string_view message) const {
@@ -55,29 +61,49 @@ std::string CRepository::DayFolder(const Date& date) const {
          Format(date, "dd", dates);
 }
 
-Date CRepository::FindLatestDay() const {
-  Assert(!text::Trim(m_dailyPath).empty(), ".FindLatestDay: Daily path is missing");
+std::optional<std::string> CRepository::LatestYear() const {
   auto& files = m_application.desktop.files;
-  const auto& dates = m_application.desktop.dates;
-  if (!FolderExists(files, files.Resolve(m_dailyPath))) return {};
-
+  if (!FolderExists(files, files.Resolve(m_dailyPath))) return std::nullopt;
   int yearNumber = m_application.Now().Year();
-  std::string year = Format(m_application.Now(), "yyyy", dates);
+  std::string year = Format(m_application.Now(), "yyyy", m_application.desktop.dates);
   while (!FolderExists(files, m_dailyPath + "\\" + year)) {
-    if (--yearNumber < 1) return {};
+    if (--yearNumber < 1) return std::nullopt;
     year = std::to_string(yearNumber);
   }
-  // The name of month n is that of a date in month n, here of the year 98, so that it is the user's own.
-  const auto monthFolder = [&](int n) {
-    return m_dailyPath + "\\" + year + "\\" + Format(ParseMonthFirst(std::to_string(n) + "/98", dates), "mmmm", dates);
-  };
-  int month = 12;
+  return year;
+}
+
+Date CRepository::LatestDayIn(const std::string& year, const platform::MonthNames& months) const {
+  auto& files = m_application.desktop.files;
+  const auto monthFolder = [&](std::size_t n) { return m_dailyPath + "\\" + year + "\\" + months[n - 1]; };
+  std::size_t month = months.size();
   while (month > 0 && !FolderExists(files, monthFolder(month))) --month;
   const std::string days = monthFolder(month > 0 ? month : 1);
   int day = 31;
   while (day > 0 && !FolderExists(files, days + "\\" + text::Padded(day, 2))) --day;
   // With no month or no day found the text is no date, and that is the error.
-  return ParseMonthFirst(std::to_string(month) + "/" + std::to_string(day) + "/" + year, dates);
+  return ParseMonthFirst(std::to_string(month) + "/" + std::to_string(day) + "/" + year, m_application.desktop.dates);
+}
+
+Date CRepository::FindLatestDay() const {
+  Assert(!text::Trim(m_dailyPath).empty(), ".FindLatestDay: Daily path is missing");
+  const auto year = LatestYear();
+  if (!year) return {};
+  const auto& dates = m_application.desktop.dates;
+  // The name of month n is that of a date in month n, here of the year 98, so that it is the user's own.
+  platform::MonthNames months;
+  for (std::size_t n = 1; n <= months.size(); ++n)
+    months[n - 1] = Format(ParseMonthFirst(std::to_string(n) + "/98", dates), "mmmm", dates);
+  return LatestDayIn(*year, months);
+}
+
+Date CRepository::FindLatestDayOfFormerLanguages() const {
+  Date latest;
+  const auto year = LatestYear();
+  if (!year) return latest;
+  for (const auto& months : m_application.monthLanguages)
+    IgnoreErrors([&] { latest = std::max(latest, LatestDayIn(*year, months)); });
+  return latest;
 }
 
 }  // namespace dayvane

@@ -2,6 +2,7 @@
 
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "app/Application.h"
@@ -15,9 +16,10 @@ namespace dayvane {
 ///
 ///     <program folder>\Daily\<yyyy>\<month name>\<dd>\*.lnk
 ///
-/// with the month's full name in the user's language and two-digit days. A day folder holds a copy of each shortcut
-/// filed for the day and, beside them, shortcuts to the programs that open them. There is no index: that a folder is
-/// there is the fact that the day has documents.
+/// with the month's full name in the user's language and two-digit days. Months that were filed under another language
+/// keep their names; those of every language that the program was ever run in are known from the settings. A day folder
+/// holds a copy of each shortcut filed for the day and, beside them, shortcuts to the programs that open them. There is
+/// no index: that a folder is there is the fact that the day has documents.
 ///
 /// "Daily" may be a symbolic link to a folder elsewhere. Its path stays the one in the program folder all the same, so
 /// that what was recorded before the folder moved is still named rightly. Links below it are not followed.
@@ -37,6 +39,9 @@ class CRepository {
   /// The latest day that has a folder, or the zero date when there is none. Fails with kTypeMismatch when the latest
   /// year has no month, or its latest month no day.
   Date FindLatestDay() const;
+
+  /// The same by the month names of the languages that the record was kept in before; the zero date instead of failing.
+  Date FindLatestDayOfFormerLanguages() const;
 
   /// Deletes, after one question, every day that lies more than `purgeAge` whole days back. Returns whether any went.
   bool PurgeOldShortcuts(int purgeAge);
@@ -60,6 +65,11 @@ class CRepository {
   void m_oMonthlyWalker_ItemFound(const std::string& path, const std::string& fileName, bool& cancel);
 
   bool SweepEmptyFolders(DirectoryWalker& counter, long counterFlags, FolderTest sweeps);
+  std::optional<std::string> LatestYear() const;
+  Date LatestDayIn(const std::string& year, const platform::MonthNames& months) const;
+  std::optional<Date> DateOf(const std::string& dayFolder) const;
+  bool SweepFolder(const std::string& path);
+  void PassOver(const std::string& folder);
   void Count(const std::string& path, bool counts, const char* procedure);
   void Assert(bool condition, std::string_view message) const;
 
@@ -69,6 +79,7 @@ class CRepository {
   bool m_purged = false;
   bool m_purgeAsked = false;
   bool m_purgeConfirmed = false;
+  bool m_passedOver = false;                                           ///< and told so, once for the run
   std::unique_ptr<std::map<std::string, CFolderFiles>> m_folderFiles;  ///< by path with its trailing "\"
   DirectoryWalker m_oDailyWalker;
   DirectoryWalker m_oFileWalker;

@@ -1,6 +1,10 @@
 // The purge: old days, a single day, and the sweep of the folders that it empties.
 
+#include <utility>
+
+#include "app/IgnoreErrors.h"
 #include "app/MDayvane.h"
+#include "base/Error.h"
 #include "base/Text.h"
 #include "fs/Dir.h"
 #include "repository/CRepository.h"
@@ -35,7 +39,9 @@ bool CRepository::PurgeOldShortcuts(int purgeAge) {
 void CRepository::m_oPurgeWalker_ItemFound(const std::string& path, const std::string& fileName, bool& cancel) {
   Assert(!m_purgeDate.IsZero(), ".m_oPurgeWalker_ItemFound: Purge date is missing");
   if (!IsDayName(fileName)) return;
-  if (PathToDate(m_application, path + fileName) > m_purgeDate) return;
+  const auto date = DateOf(path + fileName);
+  if (!date) return PassOver(path + fileName);
+  if (*date > m_purgeDate) return;
   if (!m_purgeAsked) {
     m_purgeAsked = true;
     m_purgeConfirmed = ConfirmPurge();
@@ -47,6 +53,20 @@ void CRepository::m_oPurgeWalker_ItemFound(const std::string& path, const std::s
   PurgeDay(path + fileName);
   m_purged = true;
   m_application.desktop.windowing.ProcessPendingMessages();
+}
+
+std::optional<Date> CRepository::DateOf(const std::string& dayFolder) const {
+  // Users keep folders of their own here, and a language that the settings have forgotten: one of them must not keep
+  // the days behind it from being looked at, now and at every start.
+  std::optional<Date> date;
+  IgnoreErrors([&] { date = PathToDate(m_application, dayFolder); });
+  return date;
+}
+
+void CRepository::PassOver(const std::string& folder) {
+  if (std::exchange(m_passedOver, true)) return;
+  m_application.eventLog.Append(
+      "A folder that is no day of the record is passed over, with all others like it: " + folder, EventKind::Warning);
 }
 
 bool CRepository::ConfirmPurge() const {
@@ -85,11 +105,22 @@ bool CRepository::SweepEmptyFolders(DirectoryWalker& counter, long counterFlags,
   for (const auto& [key, folder] : *m_folderFiles) {
     const std::string path = key.substr(0, key.size() - 1);
     if (folder.FileCount != 0 || !sweeps(path.substr(path.rfind('\\') + 1))) continue;
-    m_application.desktop.files.RemoveFolder(path);
-    removed = true;
+    removed = SweepFolder(path) || removed;
   }
   m_folderFiles.reset();
   return removed;
+}
+
+bool CRepository::SweepFolder(const std::string& path) {
+  auto& files = m_application.desktop.files;
+  try {
+    files.RemoveFolder(path);
+    return true;
+  } catch (const Error&) {
+    if (DateOf(path) || files.List(path).empty()) throw;
+    PassOver(path);  // It holds something that is not the program's.
+    return false;
+  }
 }
 
 void CRepository::m_oFolderWalker_ItemFound(const std::string& path, const std::string& fileName, bool&) {

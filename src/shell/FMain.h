@@ -171,6 +171,7 @@ class FMain {
   void mnuListViewPopup_Click(int index);
   void sftToolbar_Click(int index);
 
+  Date LatestDay() const;
   void Exit();
   void ShowSuspendOrResume(bool active) const;
   void FollowSelection();                        ///< SetExploreOpen as the list that is shown has it

@@ -9,13 +9,20 @@ namespace dayvane::dailytree {
 
 namespace {
 
+std::string MonthPrefix(const std::string& name, const platform::MonthNames& months) {
+  const auto found = std::find(months.begin(), months.end(), name);
+  return found == months.end() ? std::string() : text::Padded(found - months.begin() + 1, 2);
+}
+
 /// "01" … "12" for a month's name, nothing for another: a name that is no month sorts by its own text.
-std::string MonthPrefix(const std::string& name, const platform::DateConventions& dates) {
+std::string MonthPrefix(const std::string& name, const platform::DateConventions& dates,
+                        std::span<const platform::MonthNames> otherLanguages) {
   static const platform::DateConventions kEnglish;
-  for (const auto* months : {&kEnglish.monthNames, &dates.monthNames})
-    for (std::size_t i = 0; i < months->size(); ++i)
-      if ((*months)[i] == name) return text::Padded(static_cast<int>(i) + 1, 2);
-  return {};
+  std::string prefix = MonthPrefix(name, kEnglish.monthNames);
+  if (prefix.empty()) prefix = MonthPrefix(name, dates.monthNames);
+  for (const auto& months : otherLanguages)
+    if (prefix.empty()) prefix = MonthPrefix(name, months);
+  return prefix;
 }
 
 }  // namespace
@@ -28,11 +35,10 @@ std::vector<std::string> NodeNames(platform::FileSystem& files, const std::strin
   return names;
 }
 
-void Arrange(std::vector<std::string>& names, int level, const platform::DateConventions& dates) {
-  if (level == kMonthLevel)
-    std::sort(names.begin(), names.end(), [&](const std::string& a, const std::string& b) {
-      return MonthPrefix(a, dates) + a < MonthPrefix(b, dates) + b;
-    });
+void Arrange(std::vector<std::string>& names, int level, const platform::DateConventions& dates,
+             std::span<const platform::MonthNames> otherLanguages) {
+  const auto sortText = [&](const std::string& name) { return MonthPrefix(name, dates, otherLanguages) + name; };
+  if (level == kMonthLevel) std::ranges::sort(names, {}, sortText);
   if (level == kDayLevel) std::sort(names.begin(), names.end());
 }
 

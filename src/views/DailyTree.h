@@ -1,5 +1,6 @@
 #pragma once
 
+#include <span>
 #include <string>
 #include <vector>
 
@@ -17,8 +18,9 @@ inline constexpr int kDayLevel = 4;
 /// folder of the years, which is the repository itself, may be a symbolic link to it.
 std::vector<std::string> NodeNames(platform::FileSystem& files, const std::string& folder, int level);
 
-/// Puts names in the order of their level: months by the calendar, English or the user's own, others after them by
-/// text; days by text; years as they come.
-void Arrange(std::vector<std::string>& names, int level, const platform::DateConventions& dates);
+/// Puts names in the order of their level: months by the calendar, English, the user's own or of one of the other
+/// languages, what else there is after them by text; days by text; years as they come.
+void Arrange(std::vector<std::string>& names, int level, const platform::DateConventions& dates,
+             std::span<const platform::MonthNames> otherLanguages);
 
 }  // namespace dayvane::dailytree

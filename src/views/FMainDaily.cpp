@@ -61,9 +61,20 @@ std::string KeyOfNode(const controls::TreeNode* node) {
 void FMain::FindLatestDay() {
   ReportErrors(m_application, kFindingLatestDay, kName, "FindLatestDay", [this] {
     Assert(m_oCalendar != nullptr, ".FindLatestDay: Calendar object is nothing");
-    const Date latest = m_repository.FindLatestDay();
+    const Date latest = LatestDay();
     if (!latest.IsZero()) m_oCalendar->SetValue(latest);
   });
+}
+
+Date FMain::LatestDay() const {
+  try {
+    return m_repository.FindLatestDay();
+  } catch (const Error&) {
+    // Until something is filed in a new language the latest year may hold only months of those before.
+    const Date latest = m_repository.FindLatestDayOfFormerLanguages();
+    if (latest.IsZero()) throw;
+    return latest;
+  }
 }
 
 void FMain::RefreshDaily() {
@@ -104,7 +115,7 @@ void FMain::LoadDailyTreeViewFolder(const std::string& folder, int level) {
   } catch (const Error& error) {
     m_application.eventLog.Append(error.what(), EventKind::Warning);
   }
-  dailytree::Arrange(names, level, m_application.desktop.dates);
+  dailytree::Arrange(names, level, m_application.desktop.dates, m_application.monthLanguages);
   for (const std::string& name : names) {
     const std::string path = folder + "\\" + name;
     tvwMain.AddChild(KeyOf(folder), KeyOf(path), name, level);

@@ -68,6 +68,17 @@ TEST(Date, MonthFirstTextsAreReadMonthFirstWhateverTheShortDate) {
   EXPECT_EQ(ParseMonthFirst("märz/05/1998", German()), Date::Of(1998, 3, 5));
 }
 
+TEST(Date, MonthsOfOtherLanguagesAreReadWhereTheUsersOwnHasNoSuchName) {
+  const std::vector<platform::MonthNames> others{German().monthNames};
+  EXPECT_EQ(ParseMonthFirst("Mai/05/1998", kEnglish, others), Date::Of(1998, 5, 5));
+  EXPECT_THROW(ParseMonthFirst("Mai/05/1998", kEnglish), Error);
+  platform::DateConventions croatian;
+  croatian.monthNames[9] = "listopad";
+  std::vector<platform::MonthNames> polish(1);
+  polish[0][10] = "listopad";
+  EXPECT_EQ(ParseMonthFirst("listopad/05/1998", croatian, polish), Date::Of(1998, 10, 5));
+}
+
 TEST(Date, MonthAndYearAloneMeanTheFirstOfTheMonth) {
   EXPECT_EQ(Format(ParseMonthFirst("5/98", kEnglish), "mmmm", kEnglish), "May");
 }

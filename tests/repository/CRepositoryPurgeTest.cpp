@@ -135,10 +135,23 @@ TEST_F(CRepositoryPurgeTest, FoldersThatAreNoDaysAreLeft) {
   EXPECT_THAT(desktop.windowing.messages, IsEmpty());
 }
 
-TEST_F(CRepositoryPurgeTest, ADayOutsideTheCalendarIsAnErrorForTheCaller) {
-  File("1997/February/31");
-  EXPECT_THROW(repository.PurgeOldShortcuts(30), Error);
-  EXPECT_TRUE(Exists("1997/February/31/a.odt.lnk"));
+TEST_F(CRepositoryPurgeTest, FoldersThatAreNoDatesArePassedOverAndOldDaysBehindThemAskedAbout) {
+  for (const char* folder : {"1997/February/31", "1997/Mai/01", "1997/May/07", "1997/12/05", "Photos/1997/01"})
+    File(folder);
+  EXPECT_TRUE(repository.PurgeOldShortcuts(30));
+  EXPECT_FALSE(Exists("1997/May/07"));
+  EXPECT_FALSE(Exists("1997/12/05")) << "a month may be a number";
+  for (const char* folder : {"1997/February/31", "1997/Mai/01", "Photos/1997/01"})
+    EXPECT_TRUE(Exists(std::string(folder) + "/a.odt.lnk")) << folder;
+}
+
+TEST_F(CRepositoryPurgeTest, WhatIsPassedOverIsLoggedOnceARun) {
+  for (const char* folder : {"1997/February/31", "1997/Mai/01", "1997/Mai/02"}) File(folder);
+  File("1997/Other", "letter.odt");
+  repository.PurgeOldShortcuts(30);
+  repository.PurgeEmptyFolders();
+  repository.PurgeOldShortcuts(30);
+  EXPECT_THAT(desktop.LogLines("EventLog.txt"), ElementsAre(::testing::HasSubstr("passed over")));
 }
 
 TEST_F(CRepositoryPurgeTest, APurgeNeverFollowsALinkOutOfTheRepository) {
@@ -235,6 +248,17 @@ TEST_F(CRepositoryPurgeTest, ADayThatHoldsOnlySomethingElseCannotBeSwept) {
   File("1998/June/09", "letter.odt");
   EXPECT_THROW(repository.PurgeEmptyFolders(), Error);
   EXPECT_TRUE(Exists("1998/June/09/letter.odt"));
+}
+
+TEST_F(CRepositoryPurgeTest, FoldersOfTheUsersOwnStayAndKeepNoEmptyDaysFromBeingSwept) {
+  for (const char* folder : {"1996/Photos", "1996/12/Photos", "1998/June/09/mine", "Photos", "Photos/12/01"})
+    File(folder, "letter.odt");
+  File("1998/June/09");
+  MakeFolder("1997/May/01");
+  EXPECT_TRUE(repository.PurgeEmptyFolders());
+  EXPECT_FALSE(Exists("1997"));
+  for (const char* folder : {"1996/Photos", "1996/12/Photos", "1998/June/09/mine", "Photos", "Photos/12/01"})
+    EXPECT_TRUE(Exists(std::string(folder) + "/letter.odt")) << folder;
 }
 
 TEST_F(CRepositoryPurgeTest, AFileInTheRootKeepsNothingFromBeingSwept) {

@@ -103,6 +103,7 @@ TEST_F(SettingsOnDiskTest, AnEndAfterWhichNothingIsNewDoesNotTouchTheSettingsFil
 }
 
 TEST_F(SettingsOnDiskTest, AFirstStartReplacesTheSettingsFileOnceForEachGroupOfSettings) {
+  desktop.folder.Write("config/dayvane.ini", "");
   Replacements replacements(Config());
   Load();
   EXPECT_LE(replacements.Count(), 5) << "options, window, view, both lists";

@@ -24,12 +24,18 @@ constexpr int kPatience = 20000;  // milliseconds, on a busy machine
 /// Tells its working folder and its arguments through the pipe of the test.
 constexpr const char* kTellingProgram = "#!/bin/sh\nprintf '%s\\n' \"$PWD\" \"$@\" > \"$DAYVANE_TEST_STARTS\"\n";
 
+/// Tells the same, then hangs until the desktop is gone.
+constexpr const char* kHangingProgram =
+    "#!/bin/sh\nprintf '%s\\n' \"$PWD\" \"$@\" > \"$DAYVANE_TEST_STARTS\"\n"
+    "while [ -e \"$DAYVANE_TEST_STARTS\" ]; do sleep 0.2; done\n";
+
 /// The weight of a pattern, its type, the pattern, and "cs" where letter case matters (shared-mime-info, "globs2").
 constexpr const char* kPatterns =
     "50:application/x-letter:*.letter\n"
     "50:application/x-sketch:*.sketch\n"
     "50:application/x-chart:*.chart\n"
     "50:application/x-silent:*.silent\n"
+    "50:application/x-stuck:*.stuck\n"
     "50:application/x-chosen:*.chosen\n"
     "50:application/x-orphan:*.orphan\n"
     "50:application/x-first:*.both\n"
@@ -74,6 +80,7 @@ class PrivateDesktop : public ::testing::Environment {
     for (const char* name : {"bin/letter-writer", "bin/sketcher", "bin/files", "bin/flatpak", "bin/paint.sketch",
                              "exports/bin/org.example.Chart"})
       fs::permissions(m_folder->Write(name, kTellingProgram), fs::perms(0755));
+    fs::permissions(m_folder->Write("bin/stuck", kHangingProgram), fs::perms(0755));
     // Opened for both, so that a program never waits for the test to read.
     const std::string pipe = *m_folder / "starts";
     if (mkfifo(pipe.c_str(), 0600) != 0) throw std::runtime_error("no pipe");
@@ -95,6 +102,7 @@ class PrivateDesktop : public ::testing::Environment {
     m_folder->Write(
         folder + "org.example.Silent.desktop",
         Application("Silent", "Exec=files --service\nDBusActivatable=true\nMimeType=application/x-silent;\n"));
+    m_folder->Write(folder + "stuck.desktop", Application("Stuck", "Exec=stuck %f\nMimeType=application/x-stuck;\n"));
     m_folder->Write(folder + "texts.desktop",
                     Application("Texts", "Exec=letter-writer --text %u\nMimeType=text/plain;\n"));
     m_folder->Write(folder + "a-viewer.desktop",
@@ -116,6 +124,7 @@ class PrivateDesktop : public ::testing::Environment {
                     "application/x-chosen=letters.desktop;\n"
                     "application/x-sketch=sketches.desktop;\n"
                     "application/x-silent=org.example.Silent.desktop;\n"
+                    "application/x-stuck=stuck.desktop;\n"
                     "text/plain=texts.desktop;\n"
                     "x-scheme-handler/https=letters.desktop;\n"
                     "inode/directory=a-viewer.desktop;files.desktop;\n");

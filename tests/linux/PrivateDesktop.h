@@ -5,7 +5,8 @@
 /// All tests of the Linux desktop run on a desktop of their own, whatever is installed on the machine: its content
 /// types, applications, settings and folders live in a temporary folder, and it has no message bus.
 ///
-/// Endings and their types: ".letter", ".sketch", ".chart", ".chosen", ".silent" (its application does not answer) and
+/// Endings and their types: ".letter", ".sketch", ".chart", ".chosen", ".silent" (its application does not answer),
+/// ".stuck" (its program never ends) and
 /// ".orphan" (which has no application) are "application/x-letter" and so on; ".both" is two types; ".small" and
 /// ".SMALL" differ. "Letters" (letter-writer) has the icon "letters", "Paint" (paint.sketch) a picture of its own.
 namespace dayvane::testing::desktop {

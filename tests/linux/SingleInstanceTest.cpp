@@ -54,6 +54,56 @@ class OtherInstance {
   bool m_isTheOne = false;
 };
 
+/// Processes that all try to be the instance at the same moment and live on, whatever came of it.
+class Race {
+ public:
+  Race(const std::string& folder, int starters) {
+    int go[2];
+    int told[2];
+    if (pipe(go) != 0 || pipe(told) != 0) throw std::runtime_error("no pipe");
+    for (int i = 0; i < starters; ++i) m_processes.push_back(Starter(folder, go, told[1]));
+    for (const int end : {go[0], go[1], told[1]}) close(end);  // Nobody can write there any more: that is the signal.
+    char answer = '0';
+    for (int i = 0; i < starters && read(told[0], &answer, 1) == 1; ++i) m_winners += answer == '1' ? 1 : 0;
+    close(told[0]);
+  }
+  Race(const Race&) = delete;
+  Race& operator=(const Race&) = delete;
+  ~Race() {
+    for (const pid_t process : m_processes) {
+      kill(process, SIGKILL);
+      waitpid(process, nullptr, 0);
+    }
+  }
+
+  int Winners() const { return m_winners; }
+
+ private:
+  static pid_t Starter(const std::string& folder, const int (&go)[2], int tell) {
+    const pid_t process = fork();
+    if (process != 0) return process;
+    prctl(PR_SET_PDEATHSIG, SIGKILL);
+    close(go[1]);
+    char signal = 0;
+    [[maybe_unused]] const auto none = read(go[0], &signal, 1);
+    const auto instance = SingleInstance::Acquire(folder);
+    [[maybe_unused]] const auto told = write(tell, instance ? "1" : "0", 1);
+    for (;;) pause();
+  }
+
+  std::vector<pid_t> m_processes;
+  int m_winners = 0;
+};
+
+TEST(SingleInstance, OfTwoStartsAtTheSameMomentExactlyOneLives) {
+  const TemporaryFolder folder;
+  for (int round = 0; round < 50; ++round) {
+    EXPECT_EQ(Race(folder.Native(), 2).Winners(), 1) << round;
+    // Every other time there is no lock file of an earlier run.
+    if (round % 2 == 0) fs::remove(folder / "dayvane.lock");
+  }
+}
+
 TEST(SingleInstance, ASecondProcessIsRefused) {
   const TemporaryFolder folder;
   const auto instance = SingleInstance::Acquire(folder.Native());

@@ -98,6 +98,11 @@ class PrivateDesktop:
         if text is not None:
             self.run(["xdotool", "type", "--delay", "5", text])
 
+    def end_bus(self):
+        """Ends the session bus as a crash would."""
+        self._bus.kill()
+        self._bus.wait(END_SECONDS)
+
     def said(self):
         """What the programs of the desktop have printed so far."""
         return self.log.read_text(errors="replace") if self.log.exists() else ""
@@ -201,7 +206,7 @@ class PrivateDesktop:
         self.environment["DISPLAY"] = f":{display}"
 
     def _start_bus(self):
-        self._serve(["dbus-daemon", "--session", "--nofork", "--nopidfile",
+        self._bus = self._serve(["dbus-daemon", "--session", "--nofork", "--nopidfile",
                      f"--address={self.environment['DBUS_SESSION_BUS_ADDRESS']}"])
         wait_until((self.folder / "runtime/bus").exists, START_SECONDS, "the session bus")
 

@@ -5,6 +5,7 @@
 #include "linux/files/NativePath.h"
 #include "linux/launch/Launcher.h"
 #include "tests/linux/FakeFileManager.h"
+#include "tests/linux/HangingApplication.h"
 #include "tests/linux/MainLoop.h"
 #include "tests/linux/PrivateDesktop.h"
 #include "tests/support/TemporaryFolder.h"
@@ -16,6 +17,7 @@ namespace {
 namespace desktop = dayvane::testing::desktop;
 namespace fs = std::filesystem;
 using dayvane::testing::FakeFileManager;
+using dayvane::testing::HangingApplication;
 using dayvane::testing::MainLoopRunsUntil;
 using dayvane::testing::PrivateBus;
 using dayvane::testing::TemporaryFolder;
@@ -23,6 +25,7 @@ using dayvane::testing::UnprivilegedUser;
 using ::testing::Each;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
+using ::testing::IsEmpty;
 using ::testing::Not;
 using ::testing::StartsWith;
 
@@ -132,6 +135,26 @@ TEST_F(LauncherTest, AnApplicationThatDoesNotAnswerIsReportedLater) {
   EXPECT_EQ(m_launcher.Open(Path("Plan.silent"), {}), kSeOpened);
   EXPECT_TRUE(MainLoopRunsUntil([&] { return !m_events.empty(); }));
   EXPECT_THAT(m_events, ElementsAre(HasSubstr("Silent")));
+}
+
+TEST_F(LauncherTest, AnApplicationThatHangsOnTheBusDoesNotHoldTheProgramUp) {
+  const PrivateBus bus;
+  const HangingApplication application(bus);
+  const std::string plan = m_folder.Write("Plan.silent", "");
+  // It lives in this thread and could not even hear the question if someone waited here for its answer.
+  EXPECT_EQ(m_launcher.Open(Path("Plan.silent"), {}), kSeOpened);
+  EXPECT_EQ(m_launcher.Open(Path("Plan.silent"), {}), kSeOpened);
+  EXPECT_EQ(application.Asked(), 0);
+  EXPECT_TRUE(MainLoopRunsUntil([&] { return application.Asked() == 2; }));
+  EXPECT_THAT(m_events, IsEmpty());
+}
+
+TEST_F(LauncherTest, AProgramThatHangsDoesNotHoldTheProgramUp) {
+  const std::string native = m_folder.Write("Plan.stuck", "");
+  for (int start = 0; start < 2; ++start) {
+    EXPECT_EQ(m_launcher.Open(Path("Plan.stuck"), m_folder.Path()), kSeOpened);
+    EXPECT_EQ(desktop::NextStart(), Told(m_folder.Native(), native));
+  }
 }
 
 TEST_F(LauncherTest, ALauncherThatIsGoneReportsNothing) {

@@ -15,8 +15,14 @@ namespace {
 
 using namespace favorites;  // NOLINT(google-build-using-namespace): the table's own words, in its own file
 
+/// Upper case, by way of small letters: a record's folder has come in those, and the capital of a small letter is not
+/// always the one that it came from ("İ", "ẞ").
+std::string UpperCase(const std::string& path) {
+  return text::ToUpper(text::ToLower(path));
+}
+
 std::string Identity(const Record& record) {
-  return text::ToUpper(TextOf(record[kFolder]) + "\\" + TextOf(record[kTargetFileName]));
+  return UpperCase(TextOf(record[kFolder]) + "\\" + TextOf(record[kTargetFileName]));
 }
 
 Value OneMore(const Value& count) {
@@ -52,7 +58,7 @@ void CFavorites::ProcessShortcut(const CShortcut* shortcut) {
 
 std::optional<std::size_t> CFavorites::Find(const std::string& targetFile) {
   for (; m_indexed < m_table.size(); ++m_indexed) m_index.emplace(Identity(m_table[m_indexed]), m_indexed);
-  const auto found = m_index.find(text::ToUpper(targetFile));
+  const auto found = m_index.find(UpperCase(targetFile));
   if (found == m_index.end()) return std::nullopt;
   return found->second;
 }

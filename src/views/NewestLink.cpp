@@ -35,7 +35,7 @@ class NewestLinkSearch {
       for (const auto& entry : Dir(m_application.desktop.files, folder + "\\*.*", DirKinds::FilesAndFolders))
         if (entry.kind == platform::EntryKind::Folder) names.push_back(entry.name);
     });
-    dailytree::Arrange(names, level, m_application.desktop.dates);
+    dailytree::Arrange(names, level, m_application.desktop.dates, m_application.monthLanguages);
     std::reverse(names.begin(), names.end());
     return names;
   }

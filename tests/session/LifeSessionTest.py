@@ -82,6 +82,37 @@ class TheSessionsEndDuringTheWelcome(SessionTest):
         self.assertIn("Window", self.dayvane.settings_file.read_text(encoding="utf-8"))
 
 
+class TheSessionsEndDuringThePurgeQuestion(SessionTest):
+    @classmethod
+    def setUpClass(cls):
+        cls.arrange()
+        cls.dayvane.write_settings()
+        cls.old_day = cls.dayvane.daily / "2020/January/05"
+        cls.old_day.mkdir(parents=True)
+        (cls.old_day / "Letter.txt.lnk").touch()
+        cls.dayvane.launch()
+        cls.wait_for_box()
+
+    def test_ends_the_program_well_and_removes_nothing(self):
+        self.dayvane.stop()
+        self.assertTrue((self.old_day / "Letter.txt.lnk").exists())
+
+
+class TheSessionsEndWithoutAPlaceToSave(SessionTest):
+    @classmethod
+    def setUpClass(cls):
+        super().setUpClass()
+        cls.open_elsewhere("Letter.txt")
+        wait_until(cls.dayvane.favorites_file.exists, SOON_SECONDS, "the favorites on the disk")
+        cls.dayvane.favorites_file.unlink()
+        (cls.dayvane.favorites_file / "in the way").mkdir(parents=True)
+
+    def test_is_held_up_by_no_box(self):
+        self.dayvane.stop()
+        self.assertIn("An error occurred saving the current settings.",
+                      (self.dayvane.folder / "ErrorLog.txt").read_text(encoding="utf-8"))
+
+
 class ASecondStart(SessionTest):
     def test_tells_that_the_program_runs_and_ends_with_the_session(self):
         second = self.desktop.start([self.dayvane.executable])

@@ -56,7 +56,6 @@ FormPresenter::FormPresenter(controls::Form& form, QWidget& window, QWidget& ins
   m_placeTimer.setSingleShot(true);
   m_placeTimer.setInterval(kRestMilliseconds);
   connect(&m_placeTimer, &QTimer::timeout, this, [this] { TellPlace(); });
-  connect(qApp, &QGuiApplication::commitDataRequest, this, [this] { EndSession(); });
   m_connections.push_back(form.Changed.ConnectScoped([this] { Show(); }));
   m_connections.push_back(form.WhatsThisWanted.ConnectScoped([] { QWhatsThis::enterWhatsThisMode(); }));
   m_connections.push_back(form.RefreshWanted.ConnectScoped([this] {

@@ -73,8 +73,14 @@ void LinuxWindowing::Forget(FormPresenter& presenter) {
   m_presenters.erase(&presenter.Form());
 }
 
+void LinuxWindowing::EndSession() {
+  m_sessionEnds = true;
+  if (QWidget* asking = QApplication::activeModalWidget()) asking->close();
+}
+
 MessageAnswer LinuxWindowing::ShowMessage(const Message& message) {
   const bool question = message.buttons == platform::MessageButtons::YesNo;
+  if (m_sessionEnds) return question ? MessageAnswer::No : MessageAnswer::Ok;
   const QMessageBox::StandardButtons buttons = question ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok;
   QMessageBox box(IconOf(message), QString::fromStdString(message.title), TextOf(message), buttons, OwnerOfBox());
   box.setTextFormat(Qt::PlainText);  // a document's name may look like markup
@@ -87,6 +93,7 @@ MessageAnswer LinuxWindowing::ShowMessage(const Message& message) {
 }
 
 void LinuxWindowing::ShowAbout(const platform::About& about) {
+  if (m_sessionEnds) return;
   const auto paragraph = [](const std::string& text) {
     return QStringLiteral("<p>%1</p>").arg(QString::fromStdString(text).toHtmlEscaped());
   };
@@ -137,7 +144,7 @@ QWidget* LinuxWindowing::ShownSplash() const {
 
 void LinuxWindowing::ShowModal(controls::Form& form) {
   FormPresenter* presenter = Find(form);
-  if (presenter == nullptr) return;
+  if (presenter == nullptr || m_sessionEnds) return;
   const ArrowPointer arrow;
   presenter->ShowModal();
 }

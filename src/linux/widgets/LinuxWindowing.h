@@ -19,6 +19,10 @@ class LinuxWindowing : public platform::Windowing {
   void Register(FormPresenter& presenter);
   void Forget(FormPresenter& presenter);
 
+  /// The user's session ends, and nobody is there any more to answer: from now on a question is answered as by closing
+  /// its box, and a message, which the logs have too, is not shown. A box or dialog that is open is closed.
+  void EndSession();
+
   platform::MessageAnswer ShowMessage(const platform::Message& message) override;
   void Beep() override;
   void ShowAbout(const platform::About& about) override;
@@ -40,6 +44,7 @@ class LinuxWindowing : public platform::Windowing {
   QWidget* OwnerOfBox() const;  ///< the window that a box belongs to, over which it opens
   void Popup(FormPresenter* presenter, controls::Menu& menu, int defaultItem, QPoint at);
 
+  bool m_sessionEnds = false;
   std::map<const controls::Form*, FormPresenter*> m_presenters;
   std::unique_ptr<MenuPresenter> m_popup;  ///< the menu popped up last
   QElapsedTimer m_sinceEvents;             ///< since pending messages were run last

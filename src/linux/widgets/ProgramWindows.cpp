@@ -10,7 +10,9 @@
 namespace dayvane::widgets {
 
 ProgramWindows::ProgramWindows(LinuxWindowing& windowing, const platform::DateConventions& dates, TopicHelp topicHelp)
-    : m_windowing(windowing), m_dates(dates), m_topicHelp(std::move(topicHelp)) {}
+    : m_windowing(windowing), m_dates(dates), m_topicHelp(std::move(topicHelp)) {
+  QObject::connect(qApp, &QGuiApplication::commitDataRequest, &m_context, [this] { EndSession(); });
+}
 
 ProgramWindows::~ProgramWindows() {
   Close(m_options);
@@ -40,9 +42,9 @@ void ProgramWindows::Present(FOptions& options) {
 }
 
 void ProgramWindows::EndSession() {
-  if (m_main) return m_main->Presenter().EndSession();
+  m_windowing.EndSession();
   m_sessionEnds = true;
-  if (QWidget* asking = QApplication::activeModalWidget()) asking->close();
+  if (m_main) m_main->Presenter().EndSession();
 }
 
 template <class Window, class... Arguments>

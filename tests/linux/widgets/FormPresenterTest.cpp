@@ -3,11 +3,8 @@
 #include <QMainWindow>
 #include <QMenuBar>
 #include <QMessageBox>
-#include <QSessionManager>
 #include <QTest>
 #include <QWhatsThis>
-#include <array>
-#include <cstddef>
 #include <gmock/gmock.h>
 #include <optional>
 
@@ -160,10 +157,8 @@ TEST_F(FormPresenterTest, TheEndOfTheSessionIsToldAsSuch) {
   Open();
   std::vector<UnloadMode> modes;
   m_form.QueryUnload.Connect([&](bool&, UnloadMode mode) { modes.push_back(mode); });
-  // Only Qt can make a session manager; nobody looks into this one.
-  alignas(QSessionManager) std::array<std::byte, sizeof(QSessionManager)> session{};
 
-  Q_EMIT qApp->commitDataRequest(reinterpret_cast<QSessionManager&>(session));
+  m_presenter.EndSession();
 
   EXPECT_THAT(modes, ElementsAre(UnloadMode::SystemSession));
 }

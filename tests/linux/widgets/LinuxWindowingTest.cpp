@@ -103,6 +103,27 @@ TEST_F(LinuxWindowingTest, EscapeAnswersNo) {
   EXPECT_EQ(answer, MessageAnswer::No);
 }
 
+TEST_F(LinuxWindowingTest, NobodyIsAskedOrToldOnceTheSessionEnds) {
+  int shown = 0;
+  QTimer watch;
+  QObject::connect(&watch, &QTimer::timeout, qApp, [&] {
+    QWidget* box = QApplication::activeModalWidget();
+    if (box == nullptr) return;
+    ++shown;
+    box->close();
+  });
+  watch.start(0);
+
+  m_windowing.EndSession();
+
+  EXPECT_EQ(m_windowing.ShowMessage({"Remove?", "Dayvane", MessageButtons::YesNo}), MessageAnswer::No);
+  EXPECT_EQ(m_windowing.ShowMessage({"One", "Dayvane"}), MessageAnswer::Ok);
+  m_windowing.ShowAbout({});
+  m_windowing.ShowModal(m_form);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(shown, 0);
+}
+
 TEST_F(LinuxWindowingTest, ThePointerIsAnArrowWhileAMessageWaits) {
   m_form.SetPointer(controls::MousePointer::Hourglass);
   Qt::CursorShape shape{};

@@ -24,6 +24,7 @@ bool HasEmbeddingTray() {
   const auto* x11 = qApp->nativeInterface<QNativeInterface::QX11Application>();
   if (x11 == nullptr) return false;
   xcb_connection_t* connection = x11->connection();
+  if (connection == nullptr) return false;  // the platform without a screen has the interface and nothing behind it
   const QByteArray name = "_NET_SYSTEM_TRAY_S0";
   const std::unique_ptr<xcb_intern_atom_reply_t, Free> atom(xcb_intern_atom_reply(
       connection, xcb_intern_atom(connection, 0, static_cast<uint16_t>(name.size()), name.constData()), nullptr));

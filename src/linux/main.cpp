@@ -86,7 +86,7 @@ void KeepHelpInFront(help::DesktopHelp& help, FMain& mainWindow) {
 int Run() {
   const xdg::Environment environment = xdg::Environment::OfProcess();
   const ProgramFolders folders = FindProgramFolders(QCoreApplication::applicationFilePath().toStdString(), environment);
-  MakeDataFolder(folders.data);
+  MakeDataFolder(folders);
   const auto programFolder = files::FromNative(folders.data);
   if (!programFolder) return Refuse("The folder for its data has a name that cannot be used: " + folders.data);
 

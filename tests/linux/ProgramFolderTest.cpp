@@ -49,7 +49,7 @@ TEST(ProgramFolder, TheSharedFolderAloneIsNoInstallation) {
 
 TEST(ProgramFolder, IsMadeForTheUserAlone) {
   const TemporaryFolder folder;
-  MakeDataFolder(folder / "share/dayvane");
+  MakeDataFolder({folder / "share/dayvane", {}, {}});
   EXPECT_EQ(fs::status(folder / "share/dayvane").permissions(), fs::perms::owner_all);
 }
 
@@ -58,7 +58,7 @@ TEST(ProgramFolder, ThatCannotBeMadeIsAnErrorWithPathAndReason) {
   fs::permissions(folder.Native(), fs::perms(0555));
   try {
     const UnprivilegedUser nobody;
-    MakeDataFolder(folder / "dayvane");
+    MakeDataFolder({folder / "dayvane", {}, {}});
     FAIL() << "nothing was reported";
   } catch (const Error& error) {
     EXPECT_EQ(error.Number(), kPermissionDenied);
@@ -73,13 +73,34 @@ TEST(ProgramFolder, ThatCannotBeWrittenIsAnErrorWithPathAndReason) {
   fs::permissions(folder.Native(), fs::perms(0555));
   try {
     const UnprivilegedUser nobody;
-    MakeDataFolder(folder.Native());
+    MakeDataFolder({folder.Native(), {}, {}});
     FAIL() << "nothing was reported";
   } catch (const Error& error) {
     EXPECT_EQ(error.Number(), kPermissionDenied);
     EXPECT_EQ(error.Path(), folder.Native());
   }
   fs::permissions(folder.Native(), fs::perms::owner_all);
+}
+
+TEST(ProgramFolder, AnInstallationThatLostItsSharedFolderIsToldAsThat) {
+  const TemporaryFolder prefix;
+  fs::create_directory(prefix / "bin");
+  for (const std::string& folder : {prefix.Native(), prefix / "bin"}) fs::permissions(folder, fs::perms(0555));
+  try {
+    const UnprivilegedUser nobody;
+    MakeDataFolder(FindProgramFolders(prefix / "bin/dayvane", Ana()));
+    FAIL() << "nothing was reported";
+  } catch (const Error& error) {
+    EXPECT_EQ(error.what(), "Dayvane is not completely installed. Its folder is missing: " + prefix / "share/dayvane");
+  }
+  fs::permissions(prefix.Native(), fs::perms::owner_all);
+}
+
+TEST(ProgramFolder, AProgramThatIsCarriedAboutMayLieInAFolderCalledBin) {
+  const TemporaryFolder folder;
+  fs::create_directory(folder / "bin");
+
+  EXPECT_NO_THROW(MakeDataFolder(FindProgramFolders(folder / "bin/dayvane", Ana())));
 }
 
 }  // namespace

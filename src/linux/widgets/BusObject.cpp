@@ -13,6 +13,11 @@ using Answer = std::function<void(GVariant*)>;
 // Objects on the bus are those of the tray.
 constexpr StringId kPhrase = kHidingShowingSuspendingResuming;
 
+/// By default a program is ended when the connection that it shares with all of GLib closes. The record must go on.
+void OutliveBus(GDBusConnection* connection) {
+  if (connection != nullptr) g_dbus_connection_set_exit_on_close(connection, FALSE);
+}
+
 }  // namespace
 
 BusObject::BusObject(const Address& address, Start start, Events events)
@@ -37,6 +42,7 @@ void BusObject::Call(const char* interface, const char* method, GVariant* argume
 }
 
 void BusObject::Appeared(GDBusConnection* connection, const char*, const char*, gpointer self) {
+  OutliveBus(connection);
   auto& object = *static_cast<BusObject*>(self);
   object.Unsubscribe();
   object.m_connection.reset(G_DBUS_CONNECTION(g_object_ref(connection)));
@@ -46,7 +52,8 @@ void BusObject::Appeared(GDBusConnection* connection, const char*, const char*, 
   CatchErrors(kPhrase, object.m_events.appeared);
 }
 
-void BusObject::Vanished(GDBusConnection*, const char*, gpointer self) {
+void BusObject::Vanished(GDBusConnection* connection, const char*, gpointer self) {
+  OutliveBus(connection);
   static_cast<BusObject*>(self)->Unsubscribe();
   CatchErrors(kPhrase, static_cast<BusObject*>(self)->m_events.vanished);
 }

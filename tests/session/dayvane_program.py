@@ -31,6 +31,7 @@ class Dayvane:
         self.settings_file = desktop.config / "dayvane/dayvane.ini"
         self.favorites_file = self.folder / "Favorites.dat"
         self.process = None
+        self.witness = None  # SystemCalls that write down what the program does
 
     def write_settings(self, options=(), **subtrees):
         """Stores settings: subtrees by name, values by name. With the options stored, a start is no first run and asks
@@ -51,7 +52,12 @@ class Dayvane:
 
     def launch(self):
         """Starts the program and returns at once."""
-        self.process = self.desktop.start([self.executable])
+        if self.witness is None:
+            self.process = self.desktop.start([self.executable])
+        else:
+            # A build that looks for leaks cannot do so beside another witness.
+            options = f"{self.desktop.environment.get('ASAN_OPTIONS', '')}:detect_leaks=0"
+            self.process = self.desktop.start(self.witness.recorded([self.executable]), ASAN_OPTIONS=options)
 
     def start(self):
         """Starts the program and returns when its window is on the screen."""
@@ -69,6 +75,8 @@ class Dayvane:
         """Returns when the program has ended well."""
         if self.process.wait(END_SECONDS) != 0:
             raise AssertionError(f"Dayvane ended with {self.process.returncode}")
+        if self.witness:
+            self.witness.wait_for_end(self.process)
 
     def kill(self):
         self.process.kill()

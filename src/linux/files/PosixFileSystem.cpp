@@ -131,11 +131,13 @@ OpenFolder OpenToList(const std::string& native, const std::string& path) {
   return folder;
 }
 
-/// Gives a file the present time if it holds exactly these bytes. Returns whether it does.
+/// Gives a file the present time if it holds exactly these bytes and has no other name, by which it may be a copy that
+/// somebody keeps. Returns whether it does.
 bool TouchIfSame(const std::string& native, std::string_view bytes) {
   const FileDescriptor file(open(native.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOFOLLOW));
   struct stat status {};
   if (!file.IsOpen() || fstat(file.Number(), &status) != 0 || !S_ISREG(status.st_mode)) return false;
+  if (status.st_nlink != 1) return false;
   if (static_cast<std::size_t>(status.st_size) != bytes.size()) return false;
   std::string found(bytes.size(), '\0');
   const ssize_t count = read(file.Number(), found.data(), found.size());

@@ -70,6 +70,16 @@ TEST_F(PosixFileSystemTest, AFileReplacedUnflushedIsWholeAndWrittenNow) {
   EXPECT_GE(m_files.Status(Path("a.lnk"))->written.nanoseconds, m_files.Status(Path("reference"))->written.nanoseconds);
 }
 
+TEST_F(PosixFileSystemTest, ACopyThatSomebodyKeepsUnderAnotherNameKeepsItsTime) {
+  const std::string kept = m_folder.Write("backup.lnk", "the same bytes");
+  SetWritten(kept, "2001-01-01 00:00:00");
+  fs::create_hard_link(kept, m_folder / "a.lnk");
+  const auto before = fs::last_write_time(kept);
+  ReplaceUnflushed(Path("a.lnk"), "the same bytes");
+  EXPECT_EQ(fs::last_write_time(kept), before);
+  EXPECT_NE(fs::last_write_time(m_folder / "a.lnk"), before);
+}
+
 TEST_F(PosixFileSystemTest, AFileReplacedWithATimeHasItToTheNanosecond) {
   for (const std::int64_t time :
        {std::int64_t{1'795'000'000'123'456'789}, std::int64_t{-1'500'000'001}, std::int64_t{0}}) {

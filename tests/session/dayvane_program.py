@@ -102,5 +102,10 @@ class Dayvane:
         """Days accessed by document name."""
         return {record[3]: int(record[0]) for record in self.favorites()}
 
+    def errors(self):
+        """The lines of its error log."""
+        log = self.folder / "ErrorLog.txt"
+        return log.read_text(encoding="utf-8").splitlines() if log.exists() else []
+
     def _window_or_end(self):
         return self.process.poll() is not None or self.desktop.windows(WINDOW_TITLE)

@@ -1,8 +1,7 @@
-#include "capture/FiledShortcuts.h"
-
 #include <filesystem>
 #include <gtest/gtest.h>
 
+#include "capture/FiledShortcuts.h"
 #include "linux/files/PosixFileSystem.h"
 #include "tests/support/TemporaryFolder.h"
 

@@ -68,12 +68,12 @@ TEST_F(DailyListTest, ByModifiedTheDayIsInTheOrderInWhichItWentHoweverTimesAreWr
 }
 
 TEST_F(DailyListTest, ByModifiedADayBeforeTheEpochIsInItsOrderToo) {
-  File("2026/November/20", "Z:\\later.odt", "1970-01-02 00:00:00");
-  File("2026/November/20", "Z:\\earlier.odt", "1969-12-30 00:00:00");
+  File("2026/November/20", "Z:\\a.odt", "1970-01-02 00:00:00");
+  File("2026/November/20", "Z:\\b.odt", "1969-12-30 00:00:00");
   Load();
   window.SelectDate(Date::Of(2026, 11, 20));
   window.lvwDaily.ColumnClick.Raise(4);
-  EXPECT_THAT(ColumnOf(window.lvwDaily, 0), ElementsAre("earlier.odt", "later.odt"));
+  EXPECT_THAT(ColumnOf(window.lvwDaily, 0), ElementsAre("b.odt", "a.odt"));
 }
 
 TEST_F(DailyListTest, ADayIsListedInTheOrderOfTheListBeforeIt) {
@@ -85,63 +85,6 @@ TEST_F(DailyListTest, ADayIsListedInTheOrderOfTheListBeforeIt) {
   window.lvwDaily.ColumnClick.Raise(1);
   window.tvwMain.Click(Node("2026\\November\\20"));
   EXPECT_THAT(ColumnOf(window.lvwDaily, 0), ElementsAre("c", "b", "a"));
-}
-
-TEST_F(DailyListTest, ExploringGoesOnForTheSelectedDocumentAfterACapture) {
-  File("2026/November/20", "Z:\\a.odt", "2026-11-20 10:00:00");
-  Load();
-  window.SelectDate(Date::Of(2026, 11, 20));
-  window.lvwDaily.Click(Row("2026\\November\\20\\a.odt.lnk"));
-  desktop.OpenDocument("Z:\\b.odt", "2026-11-20 11:00:00");
-  Tick();
-  ASSERT_EQ(window.lvwDaily.Count(), 2U);
-  EXPECT_TRUE(CanExplore());
-}
-
-TEST_F(DailyListTest, NoFolderCanBeExploredWhenACaptureFindsTheDayGone) {
-  File("2026/November/20", "Z:\\a.odt", "2026-11-20 10:00:00");
-  Load();
-  window.SelectDate(Date::Of(2026, 11, 20));
-  window.lvwDaily.Click(Row("2026\\November\\20\\a.odt.lnk"));
-  fs::remove_all(Daily("2026/November/20"));
-  desktop.OpenDocument("Z:\\b.odt", "2026-11-21 11:00:00");
-  Tick();
-  EXPECT_FALSE(CanExplore());
-}
-
-TEST_F(DailyListTest, NoFolderCanBeExploredOnceTheSelectedDocumentIsRemoved) {
-  for (const char* name : {"Z:\\a.odt", "Z:\\b.odt"}) File("2026/November/20", name, "2026-11-20 10:00:00");
-  Load();
-  window.SelectDate(Date::Of(2026, 11, 20));
-  window.lvwDaily.Click(Row("2026\\November\\20\\a.odt.lnk"));
-  window.RemoveLink(&Row("2026\\November\\20\\b.odt.lnk"));
-  EXPECT_TRUE(CanExplore());
-  window.RemoveLink(&Row("2026\\November\\20\\a.odt.lnk"));
-  EXPECT_FALSE(CanExplore());
-}
-
-TEST_F(DailyListTest, NoFolderCanBeExploredOnceTheDayIsPurged) {
-  for (const char* day : {"19", "20"})
-    File(std::string("2026/November/") + day, "Z:\\a.odt", std::string("2026-11-") + day + " 10:00:00");
-  Load();
-  window.SelectDate(Date::Of(2026, 11, 20));
-  window.lvwDaily.Click(Row("2026\\November\\20\\a.odt.lnk"));
-  window.PurgeDay(&Node("2026\\November\\20"));
-  EXPECT_FALSE(CanExplore());
-}
-
-TEST_F(DailyListTest, ExploringFollowsTheFavoriteThatIsSelectedWhileTheFavoritesAreShown) {
-  for (const char* day : {"19", "20"})
-    File(std::string("2026/November/") + day, "Z:\\a.odt", std::string("2026-11-") + day + " 10:00:00");
-  Load();
-  window.SelectDate(Date::Of(2026, 11, 20));
-  window.SetActiveView(FMain::kFavoritesView);
-  window.lvwFavorites.SetSelectedItem(&window.lvwFavorites.Item(window.lvwFavorites.Row(0).key));
-  desktop.OpenDocument("Z:\\b.odt", "2026-11-20 11:00:00");
-  Tick();
-  EXPECT_TRUE(CanExplore());
-  window.RemoveLink(window.lvwFavorites.SelectedItem());
-  EXPECT_FALSE(CanExplore());
 }
 
 TEST_F(DailyListTest, ShortcutsToOneTargetNameShareOneIcon) {

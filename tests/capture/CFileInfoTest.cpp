@@ -65,6 +65,11 @@ TEST_F(CFileInfoTest, ADriveRootIsDescribedWithoutASearch) {
   EXPECT_THAT(Asked([&] { fileInfo.SetItem("Z:"); }), ElementsAre("Z:|0|600"));
 }
 
+TEST_F(CFileInfoTest, TheShortestPathInADriveIsSearchedFor) {
+  EXPECT_THAT(Asked([&] { fileInfo.SetItem("Z:\\a"); }), ElementsAre("Z:\\a|0|610"));
+  EXPECT_THAT(Asked([&] { fileInfo.SetItem("a"); }), ElementsAre("a|0|610"));
+}
+
 TEST_F(CFileInfoTest, ADriveRootForgetsTheAttributesOfTheItemBefore) {
   fileInfo.SetItem(Path("program"));
   EXPECT_THAT(Asked([&] { fileInfo.SetItem("Z:\\"); }), ElementsAre("Z:\\|0|600"));

@@ -13,6 +13,18 @@ namespace {
 namespace fs = std::filesystem;
 using ::testing::ElementsAre;
 
+/// A shell whose texts come in buffers that are longer than they.
+class PaddingShell : public testing::TestShell {
+ public:
+  using TestShell::TestShell;
+  platform::ReadLink ReadShellLink(const std::string& path) override {
+    platform::ReadLink read = TestShell::ReadShellLink(path);
+    for (std::string* text : {&read.link.target, &read.link.workingDirectory, &read.link.iconFile})
+      text->append(" \0left over", 11);
+    return read;
+  }
+};
+
 class CShortcutTest : public ::testing::Test {
  protected:
   /// Reads a shortcut of this name with these contents, written on 5 January 2026.
@@ -75,6 +87,20 @@ TEST_F(CShortcutTest, FieldsAreTrimmedAndTheWorkingFolderIsLowerCased) {
   EXPECT_EQ(shortcut.ShowCommand(), 3);
 }
 
+TEST_F(CShortcutTest, FieldsEndWhereTheirTextsEnd) {
+  PaddingShell padding(desktop.files, desktop.shell.recentFolder);
+  const platform::Desktop padded{desktop.files,     padding,      desktop.icons, desktop.registry,
+                                 desktop.windowing, desktop.help, desktop.clock, desktop.dates};
+  Application program(padded, desktop.Folder());
+  Read({"Z:\\home\\a.odt", "Z:\\work", "", "icons.dll", 7, 3});
+  CShortcut read(program);
+  read.SetFile(shortcut.File());
+  EXPECT_EQ(read.TargetFile(), "Z:\\home\\a.odt");
+  EXPECT_EQ(read.TargetFileName(), "a.odt");
+  EXPECT_EQ(read.WorkingDirectory(), "z:\\work");
+  EXPECT_EQ(read.IconFile(), "icons.dll");
+}
+
 TEST_F(CShortcutTest, WithoutAWorkingFolderItIsTheTargetsFolder) {
   ReadTarget("Z:\\home\\ana\\Report.odt");
   EXPECT_EQ(shortcut.WorkingDirectory(), "Z:\\home\\ana");
@@ -102,15 +128,8 @@ TEST_F(CShortcutTest, TheClassDescribesTheDocumentAndGivesItsIcon) {
   EXPECT_EQ(shortcut.IconIndex(), 12);
 }
 
-TEST_F(CShortcutTest, AnIconWithoutANumberKeepsTheShortcutsOwn) {
-  desktop.registry.AddClass(".ODT", "OpenDocument Text", "writer.dll");
-  Read({"Z:\\a.odt", "", "", "own.dll", 4, 1});
-  EXPECT_EQ(shortcut.IconFile(), "own.dll");
-  EXPECT_EQ(shortcut.IconIndex(), 4);
-}
-
-TEST_F(CShortcutTest, AnIconWhoseNumberIsNoneKeepsTheShortcutsOwn) {
-  for (const char* icon : {"writer.dll,", "writer.dll,x", "writer, the best.dll,12"}) {
+TEST_F(CShortcutTest, AnIconThatIsNoFileWithANumberKeepsTheShortcutsOwn) {
+  for (const char* icon : {"writer.dll", "12", "writer.dll,", "writer.dll,x", "writer, the best.dll,12"}) {
     desktop.registry.AddClass(".ODT", "OpenDocument Text", icon);
     testing::WriteShortcut(desktop.NativeFolder() + "/a.lnk", {"Z:\\a.odt", "", "", "own.dll", 4, 1},
                            "2026-01-05 14:03:27");
@@ -163,6 +182,14 @@ TEST_F(CShortcutTest, AnotherFileForgetsTheClassOfTheOneBefore) {
   ReadTarget("Z:\\a.odt");
   ReadTarget("Z:\\Makefile");
   EXPECT_EQ(shortcut.TargetClass(), "");
+}
+
+TEST_F(CShortcutTest, OneObjectReadsAClassOnce) {
+  desktop.registry.AddClass(".ODT", "OpenDocument Text");
+  ReadTarget("Z:\\a.odt");
+  desktop.registry.AddClass(".ODT", "Another description");
+  ReadTarget("Z:\\b.odt");
+  EXPECT_EQ(shortcut.TargetClass(), "OpenDocument Text");
 }
 
 TEST_F(CShortcutTest, ASecondShortcutPointsAtTheProgramThatOpensTheDocument) {

@@ -27,10 +27,13 @@ std::string MonthPrefix(const std::string& name, const platform::DateConventions
 
 }  // namespace
 
+std::string ListedFolder(platform::FileSystem& files, const std::string& folder, int level) {
+  return level == kYearLevel ? files.Resolve(folder) : folder;
+}
+
 std::vector<std::string> NodeNames(platform::FileSystem& files, const std::string& folder, int level) {
   std::vector<std::string> names;
-  const std::string listed = level == kYearLevel ? files.Resolve(folder) : folder;
-  for (auto& entry : Dir(files, listed + "\\" + "*.*", DirKinds::FilesAndFolders))
+  for (auto& entry : Dir(files, ListedFolder(files, folder, level) + "\\" + "*.*", DirKinds::FilesAndFolders))
     if (!entry.name.ends_with(".lnk")) names.push_back(std::move(entry.name));
   return names;
 }

@@ -14,8 +14,11 @@ inline constexpr int kYearLevel = 2;
 inline constexpr int kMonthLevel = 3;
 inline constexpr int kDayLevel = 4;
 
-/// The names of a folder that become nodes of a level: all but those that end in ".lnk", in exactly these letters. The
-/// folder of the years, which is the repository itself, may be a symbolic link to it.
+/// The folder to list for the nodes of a level: the folder itself, but for the repository, which holds the years and
+/// may be a symbolic link to where it is.
+std::string ListedFolder(platform::FileSystem& files, const std::string& folder, int level);
+
+/// The names of a folder that become nodes of a level: all but those that end in ".lnk", in exactly these letters.
 std::vector<std::string> NodeNames(platform::FileSystem& files, const std::string& folder, int level);
 
 /// Puts names in the order of their level: months by the calendar, English, the user's own or of one of the other

@@ -32,7 +32,9 @@ class NewestLinkSearch {
   std::vector<std::string> NewestFirst(const std::string& folder, int level) {
     std::vector<std::string> names;
     IgnoreErrors([&] {
-      for (const auto& entry : Dir(m_application.desktop.files, folder + "\\*.*", DirKinds::FilesAndFolders))
+      auto& files = m_application.desktop.files;
+      const std::string listed = dailytree::ListedFolder(files, folder, level);
+      for (const auto& entry : Dir(files, listed + "\\*.*", DirKinds::FilesAndFolders))
         if (entry.kind == platform::EntryKind::Folder) names.push_back(entry.name);
     });
     dailytree::Arrange(names, level, m_application.desktop.dates, m_application.monthLanguages);

@@ -1,3 +1,4 @@
+#include <filesystem>
 #include <gtest/gtest.h>
 
 #include "tests/support/MainWindow.h"
@@ -31,6 +32,12 @@ TEST_F(NewestLinkTest, WhatIsNoDayIsPassedOver) {
   desktop.folder.Write("program/Daily/2026/zzz.txt", "");
   desktop.folder.Write("program/Daily/2026/November/99", "");
   EXPECT_EQ(Find("z:\\B.ODT"), repository.DailyPath() + "\\2026\\November\\20\\b.odt.lnk");
+}
+
+TEST_F(NewestLinkTest, ARecordThatLiesOnAnotherDiskBehindALinkIsSearched) {
+  std::filesystem::rename(desktop.NativeFolder() + "/Daily", desktop.folder / "disk");
+  std::filesystem::create_directory_symlink(desktop.folder / "disk", desktop.NativeFolder() + "/Daily");
+  EXPECT_EQ(Find("Z:\\a.odt"), repository.DailyPath() + "\\2026\\November\\19\\a.odt.lnk");
 }
 
 }  // namespace

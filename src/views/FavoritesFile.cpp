@@ -81,7 +81,7 @@ Value ParseUnquoted(std::string_view text) {
 
 std::string FormatValue(const Value& value) {
   if (const auto* whole = std::get_if<std::int64_t>(&value)) return std::to_string(*whole);
-  if (const auto* number = std::get_if<double>(&value)) return FormatNumber(*number);
+  if (const auto* number = std::get_if<double>(&value)) return FormatNumber(*number + 0.0);  // a negative zero is zero
   if (const auto* date = std::get_if<Date>(&value)) return FormatDate(*date);
   if (const auto* text = std::get_if<std::string>(&value)) return '"' + *text + '"';
   return {};

@@ -134,5 +134,9 @@ TEST(FavoritesTable, ADateIsLaterThanNothingAndThanAnEarlierDateButNotThanAText)
   EXPECT_FALSE(IsLater(date, std::string("garbage")));
 }
 
+TEST(FavoritesFile, ANegativeZeroIsWrittenAsTheZeroThatItIsReadAs) {
+  EXPECT_EQ(FormatValue(ValueReader("-0e3").Next()), "0");
+}
+
 }  // namespace
 }  // namespace dayvane::favorites

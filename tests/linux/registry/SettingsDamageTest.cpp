@@ -108,7 +108,8 @@ TEST(SettingsDamage, RandomBytesAreSurvived) {
   std::mt19937 random(20261121);
   for (int i = 0; i < 10'000; ++i) {
     std::string text = "[K]\n";
-    for (std::size_t rest = random() % 200; rest > 0; --rest) text += "[]=\\x@ \n\r\t;#aA0\xC3\xA4\xFF"[random() % 20];
+    constexpr std::string_view kBytes = "[]=\\x@ \n\r\t;#aA0\xC3\xA4\xFF";
+    for (std::size_t rest = random() % 200; rest > 0; --rest) text += kBytes[random() % kBytes.size()];
     ExpectSurvives(text);
   }
 }

@@ -126,7 +126,7 @@ QString CalendarPresenter::Explanation() const {
   if (IsListed(chosen)) return {};
   const auto words = [](QDate date) { return QLocale().toString(date, QLocale::LongFormat); };
   const auto listed = m_control.ListedDay();
-  const QString list =
+  QString list =
       listed ? QStringLiteral("The list is of %1.").arg(words(ToQDate(*listed))) : QStringLiteral("No day is listed.");
   if (IsHighlighted(chosen)) return list;
   return QStringLiteral("No documents on %1. %2").arg(words(chosen), list);

@@ -1,5 +1,6 @@
 #include "capture/CFileInfo.h"
 
+#include "app/IgnoreErrors.h"
 #include "app/ReportErrors.h"
 
 namespace dayvane {
@@ -23,9 +24,11 @@ bool IsDriveRoot(const std::string& path) {
   return path.size() >= 2 && path[1] == ':' && path.size() <= 3;
 }
 
-/// What is not found has none, and not those of the item before: the shell then answers from the extension alone, and a
-/// shortcut that was removed still has its icon.
-std::uint32_t AttributesOf(const std::optional<platform::FileStatus>& found) {
+/// What is not found, or lies on a disk that does not answer, has none, and not those of the item before: the shell
+/// then answers from the extension alone, and a shortcut that was removed still has its icon.
+std::uint32_t AttributesOf(platform::FileSystem& files, const std::string& path) {
+  std::optional<platform::FileStatus> found;
+  IgnoreErrors([&] { found = files.Status(path); });
   if (!found) return 0;
   return found->kind == platform::EntryKind::Folder ? kDirectoryAttribute : kArchiveAttribute;
 }
@@ -47,7 +50,7 @@ void CFileInfo::SetItem(const std::string& path) {
     m_attributeFlag = 0;
   } else {
     const std::string searched = path.ends_with('\\') ? path.substr(0, path.size() - 1) : path;
-    m_attributes = AttributesOf(m_application.desktop.files.Status(searched));
+    m_attributes = AttributesOf(m_application.desktop.files, searched);
     m_attributeFlag = kUseAttributes;
   }
   if (m_application.desktop.icons.FileInfo(path, m_attributes, kDisplayAndTypeName | m_attributeFlag)) m_item = path;

@@ -44,6 +44,7 @@ void FMain::PollRecentFolder() {
 }
 
 void FMain::SaveCounts() {
+  m_oFavorites->CountLate();
   // Now and not only at the end: what is saved needs no recounting after a kill.
   if (m_oFavorites->HasUnsavedCounts()) m_oFavorites->Save();
 }

@@ -45,7 +45,8 @@ class FileSystem {
  public:
   virtual ~FileSystem() = default;
 
-  /// What lies at the path, or nothing when nothing does. A symbolic link is reported, not followed.
+  /// What lies at the path, or nothing when nothing does or the user may not look there. A symbolic link is reported,
+  /// not followed. An error when the disk does not answer.
   virtual std::optional<FileStatus> Status(const std::string& path) = 0;
 
   /// Where the symbolic link at the path leads, through all links that it leads to, whether or not anything lies at the

@@ -46,13 +46,18 @@ std::string Storable(std::string text) {
 void CFavorites::ProcessShortcut(const CShortcut* shortcut) {
   Assert(shortcut != nullptr, ".ProcessShortcut: Shortcut is Nothing");
   Required(shortcut);
-  const auto found = Find(shortcut->TargetFile());
+  CountInTable(*shortcut);
+  if (std::erase(m_uncounted, shortcut->File()) > 0) m_unsaved.push_back(shortcut->File());
+}
+
+void CFavorites::CountInTable(const CShortcut& shortcut) {
+  const auto found = Find(shortcut.TargetFile());
   if (found) {
     Record& record = m_table[*found];
-    if (IsLater(shortcut->Modified(), record[kLastAccessed])) record[kLastAccessed] = shortcut->Modified();
+    if (IsLater(shortcut.Modified(), record[kLastAccessed])) record[kLastAccessed] = shortcut.Modified();
     record[kDaysAccessed] = OneMore(record[kDaysAccessed]);
   } else {
-    Append(*shortcut);
+    Append(shortcut);
   }
 }
 
@@ -94,6 +99,9 @@ void CFavorites::RebuildFavorites() {
     });
     m_oDirectoryWalker.WalkDirectoryTree(AppPath + "\\" + DailyFolder + "\\", "*.lnk");
   });
+  if (!m_isWhole) return;
+  m_unsaved.insert(m_unsaved.end(), m_uncounted.begin(), m_uncounted.end());
+  m_uncounted.clear();
 }
 
 void CFavorites::m_oDirectoryWalker_ItemFound(CShortcut& shortcut, const std::string& path,

@@ -42,7 +42,10 @@ class CFavorites : public DocumentListView {
   /// A shortcut is filed next and counted after that: put on the disk first, so that a kill in between costs no count.
   void WillCount(const std::string& shortcutFile);
 
-  /// Counted or about to be counted since the table was last saved.
+  /// Counts what was filed and could not be counted then, because it could not be read for a moment.
+  void CountLate();
+
+  /// Counted since the table was last saved.
   bool HasUnsavedCounts() const { return !m_unsaved.empty(); }
 
   /// Loads the data file, and counts what was filed since and is not counted in it; without a file the table is rebuilt
@@ -80,12 +83,16 @@ class CFavorites : public DocumentListView {
   std::string DataFile() const;
   std::string NameForDamaged(const std::string& dataFile) const;
   std::string VersionOnDisk() const;
+  std::string ReadDataFile() const;
   favorites::FavoritesJournal Journal() const;
   void ReadTable();
   void ReadRecords(const std::string& text);
   void KeepDamagedFile(const std::string& text);
   void MoveUnreadableAside();
-  void CountUnsaved();
+  void FindUncounted();
+  void CountUncounted();
+  void CountOne(const CShortcut& shortcut);
+  void CountInTable(const CShortcut& shortcut);
   void Write();
   void ClearTable();
   std::optional<std::size_t> Find(const std::string& targetFile);
@@ -95,10 +102,15 @@ class CFavorites : public DocumentListView {
 
   favorites::Table m_table;
   bool m_isWhole = false;
-  bool m_wasRead = false;              ///< before that nothing is saved: the file on the disk knows more
-  bool m_mustMoveAside = false;        ///< the data file is damaged, and no copy of it is kept yet
-  bool m_toldUnsaved = false;          ///< the event log knows that the table cannot be saved
-  std::vector<std::string> m_unsaved;  ///< filed shortcuts, as the journal has them
+  bool m_wasRead = false;        ///< before that nothing is saved: the file on the disk knows more
+  bool m_mustMoveAside = false;  ///< the data file is damaged, and no copy of it is kept yet
+  bool m_toldUnsaved = false;    ///< the event log knows that the table cannot be saved
+  bool m_isSettled = false;      ///< what an earlier session did not count is known
+
+  // Filed shortcuts, as the journal has them.
+  std::vector<std::string> m_uncounted;
+  std::vector<std::string> m_unsaved;  ///< counted in the table and not on the disk
+  bool m_isJournalOpen = false;        ///< its last lines belong to the data file that is on the disk
 
   /// Record by upper-cased identity, of the first m_indexed records: finds the first match without a scan.
   std::unordered_map<std::string, std::size_t> m_index;

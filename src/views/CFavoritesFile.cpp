@@ -19,6 +19,9 @@ using namespace favorites;  // NOLINT(google-build-using-namespace): the table's
 /// More than two million documents; what is larger is no data file of this program.
 constexpr std::size_t kLargestFile = std::size_t{512} << 20;
 
+/// A disk that fails for a moment must cost no count.
+constexpr int kAttempts = 3;
+
 }  // namespace
 
 std::string CFavorites::DataFile() const {
@@ -31,54 +34,77 @@ FavoritesJournal CFavorites::Journal() const {
 }
 
 std::string CFavorites::VersionOnDisk() const {
-  auto& files = m_application.desktop.files;
-  std::string identity = "unreadable";
-  IgnoreErrors([&] {
-    std::optional<std::string> bytes;
-    if (FileExists(files, DataFile())) bytes = files.Read(DataFile(), kLargestFile).bytes;
-    identity = DataIdentity(bytes);
-  });
-  return identity;
+  std::optional<std::string> bytes;
+  if (FileExists(m_application.desktop.files, DataFile())) bytes = ReadDataFile();
+  return DataIdentity(bytes);
+}
+
+std::string CFavorites::ReadDataFile() const {
+  for (int attempt = 1;; ++attempt) {
+    try {
+      return m_application.desktop.files.Read(DataFile(), kLargestFile).bytes;
+    } catch (const Error&) {
+      if (attempt == kAttempts) throw;
+    }
+  }
 }
 
 void CFavorites::CountWhatWasCutOff() {
-  const bool isSettled = IgnoreErrors([this] {
-    auto& files = m_application.desktop.files;
-    m_unsaved = Journal().Read(VersionOnDisk());
-    // What was never filed will be, and is counted then. Without a data file all is counted by the rebuild.
-    std::erase_if(m_unsaved, [&](const std::string& filed) { return !FileExists(files, filed); });
-    if (!FileExists(files, DataFile())) m_unsaved.clear();
-    if (m_unsaved.empty()) return Journal().End();
+  m_isSettled = IgnoreErrors([this] {
+    FindUncounted();
+    if (m_uncounted.empty()) return Journal().End();
     // At once and not when the table is loaded: a purge may take away what was filed before that.
-    ClearTable();
     ReadTable();
-    CountUnsaved();
+    CountLate();
     Write();
   });
-  if (!isSettled)
+  if (!m_isSettled)
     m_application.eventLog.Append("What an earlier session filed last could not be counted yet", EventKind::Warning);
   ClearTable();
 }
 
-void CFavorites::WillCount(const std::string& shortcutFile) {
-  if (m_unsaved.empty())
-    Journal().Begin(VersionOnDisk(), shortcutFile);
-  else
-    Journal().Add(shortcutFile);
-  m_unsaved.push_back(shortcutFile);
+void CFavorites::FindUncounted() {
+  // Without a data file all is counted by the rebuild.
+  if (!FileExists(m_application.desktop.files, DataFile())) return;
+  const std::string version = VersionOnDisk();
+  for (int attempt = 1; attempt <= kAttempts; ++attempt)
+    if (IgnoreErrors([&] { m_uncounted = Journal().Read(version); })) return;
+  // No failure: it must not stand in the way of a new one.
+  m_application.eventLog.Append("Favorites.pending cannot be read", EventKind::Warning);
 }
 
-void CFavorites::CountUnsaved() {
-  CShortcut shortcut(m_application);
-  for (const std::string& filed : m_unsaved) {
-    if (!FileExists(m_application.desktop.files, filed)) continue;  // its filing failed
-    // One record whose count is no number, or one shortcut that is gone, must not cost the others theirs.
-    const bool isCounted = IgnoreErrors([&] {
-      shortcut.SetFile(filed);
-      ProcessShortcut(&shortcut);
-    });
-    if (!isCounted) m_application.eventLog.Append("Could not be counted: " + filed, EventKind::Warning);
+void CFavorites::WillCount(const std::string& shortcutFile) {
+  if (std::exchange(m_isJournalOpen, false)) {
+    Journal().Add(shortcutFile);
+  } else {
+    std::string version = "unreadable";
+    IgnoreErrors([&] { version = VersionOnDisk(); });
+    Journal().Begin(version, {shortcutFile});
   }
+  m_isJournalOpen = true;
+  m_uncounted.push_back(shortcutFile);
+}
+
+void CFavorites::CountLate() {
+  CShortcut shortcut(m_application);
+  for (std::string& filed : std::exchange(m_uncounted, {})) {
+    bool isThere = true;
+    const bool isKnown = IgnoreErrors([&] {
+      isThere = FileExists(m_application.desktop.files, filed);
+      if (isThere) shortcut.SetFile(filed);
+    });
+    if (!isKnown)
+      m_uncounted.push_back(std::move(filed));
+    else if (isThere)  // or its filing failed: it will be filed, and counted then
+      CountOne(shortcut);
+  }
+}
+
+void CFavorites::CountOne(const CShortcut& shortcut) {
+  // One record whose count is no number must not cost the others theirs.
+  if (!IgnoreErrors([&] { ProcessShortcut(&shortcut); }))
+    m_application.eventLog.Append("Could not be counted: " + shortcut.File(), EventKind::Warning);
+  m_unsaved.push_back(shortcut.File());
 }
 
 bool CFavorites::Read() {
@@ -87,24 +113,34 @@ bool CFavorites::Read() {
   m_isWhole = false;
   bool isThere = true;
   ReportErrors(m_application, kStartingTheProgram, ClassName, "Read", [&] {
+    m_mustMoveAside = true;
     isThere = FileExists(m_application.desktop.files, DataFile());
     if (isThere) ReadTable();
   });
-  if (!isThere)
+  if (!isThere) {
+    m_mustMoveAside = false;
     RebuildFavorites();
-  else if (m_isWhole)
-    CountUnsaved();
+  } else if (m_isWhole) {
+    CountUncounted();
+  }
   return isThere;
+}
+
+void CFavorites::CountUncounted() {
+  if (!m_isSettled) m_isSettled = IgnoreErrors([this] { FindUncounted(); });
+  CountLate();
+  for (const std::string& filed : m_uncounted)
+    m_application.eventLog.Append("Could not be counted yet: " + filed, EventKind::Warning);
 }
 
 void CFavorites::ReadTable() {
   ClearTable();
+  m_uncounted.insert(m_uncounted.end(), m_unsaved.begin(), m_unsaved.end());
+  m_unsaved.clear();
   m_mustMoveAside = true;
-  auto& files = m_application.desktop.files;
-  const auto status = files.Status(DataFile());
+  const auto status = m_application.desktop.files.Status(DataFile());
   if (status && status->size > kLargestFile) throw Error(kInvalidFileFormat, "Too large to be read", DataFile());
-  const std::string text = files.Read(DataFile(), kLargestFile).bytes;
-  ReadRecords(text);
+  ReadRecords(ReadDataFile());
   m_mustMoveAside = false;
   m_isWhole = true;
 }
@@ -166,10 +202,13 @@ void CFavorites::Save() {
 void CFavorites::Write() {
   std::string text;
   for (const Record& record : m_table) text += FormatRecord(record);
+  // Before the data file that does not count them, so that no kill comes in between.
+  m_isJournalOpen = false;
+  if (!m_uncounted.empty()) Journal().Begin(DataIdentity(text), m_uncounted);
   m_application.desktop.files.Replace(DataFile(), text);
-  if (m_unsaved.empty()) return;
+  m_isJournalOpen = !m_uncounted.empty();
+  if (!m_unsaved.empty() && m_uncounted.empty()) Journal().End();
   m_unsaved.clear();
-  Journal().End();
 }
 
 }  // namespace dayvane

@@ -49,19 +49,24 @@ std::string DataIdentity(const std::optional<std::string>& bytes) {
 
 std::vector<std::string> FavoritesJournal::Read(const std::string& identity) const {
   std::vector<std::string> paths;
-  std::string bytes;
-  if (FileExists(m_files, m_path)) IgnoreErrors([&] { bytes = m_files.Read(m_path, kLargestFile).bytes; });
+  if (!FileExists(m_files, m_path)) return paths;
+  const std::string bytes = m_files.Read(m_path, kLargestFile).bytes;
   std::string_view rest = bytes;
-  if (TakeLine(rest) != std::string(kTitle) + identity) return paths;
   std::unordered_set<std::string> seen;
-  while (const auto line = TakeLine(rest))
-    if (auto path = PathOf(*line); path && seen.insert(*path).second) paths.push_back(std::move(*path));
+  bool isOfThisVersion = false;
+  while (const auto line = TakeLine(rest)) {
+    if (line->starts_with(kTitle)) isOfThisVersion = line->substr(kTitle.size()) == identity;
+    auto path = isOfThisVersion ? PathOf(*line) : std::nullopt;
+    if (path && seen.insert(*path).second) paths.push_back(std::move(*path));
+  }
   return paths;
 }
 
-void FavoritesJournal::Begin(const std::string& identity, const std::string& shortcutFile) const {
-  if (FileExists(m_files, m_path)) m_files.Delete(m_path);
-  m_files.Append(m_path, std::string(kTitle) + identity + "\n" + Line(shortcutFile));
+void FavoritesJournal::Begin(const std::string& identity, const std::vector<std::string>& shortcutFiles) const {
+  std::string lines = std::string(kTitle) + identity + "\n";
+  for (const std::string& file : shortcutFiles) lines += Line(file);
+  // A line that was cut short must not swallow the title.
+  m_files.Append(m_path, (FileExists(m_files, m_path) ? "\n" : "") + lines);
 }
 
 void FavoritesJournal::Add(const std::string& shortcutFile) const {

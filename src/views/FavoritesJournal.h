@@ -16,20 +16,21 @@ namespace dayvane::favorites {
 ///     dayvane-pending 1 IDENTITY
 ///     LENGTH PATH                    of a filed shortcut; the length in bytes tells a line that was cut short
 ///
-/// It says something about one version of the data file only, whose IDENTITY it bears: as soon as that has been saved
-/// anew or replaced, all that the file names is counted or means nothing. Its lines are added one by one and need not
-/// reach the disk at once: a kill loses nothing that was written.
+/// Lines say something about one version of the data file only, whose IDENTITY the title above them bears: as soon as
+/// that has been saved anew or replaced, all that they name is counted, or named once more below another title, or
+/// means nothing. Lines are added one by one and need not reach the disk at once: a kill loses nothing that was
+/// written.
 class FavoritesJournal {
  public:
-  /// `identity` is DataIdentity of the data file as it is on the disk now.
+  /// The file need not exist.
   FavoritesJournal(platform::FileSystem& files, std::string path) : m_files(files), m_path(std::move(path)) {}
 
   /// The shortcuts that an earlier session was about to count on top of this version of the data file, each once.
-  /// Empty where there is no such file or none that can be read.
+  /// Empty where there is no such file; fails when it cannot be read.
   std::vector<std::string> Read(const std::string& identity) const;
 
-  /// Begins anew, for this version of the data file, with a first shortcut.
-  void Begin(const std::string& identity, const std::string& shortcutFile) const;
+  /// From here on for this version of the data file, DataIdentity of what is or will be on the disk.
+  void Begin(const std::string& identity, const std::vector<std::string>& shortcutFiles) const;
   void Add(const std::string& shortcutFile) const;
 
   /// Everything is saved. A file that cannot be deleted does no harm: its identity is no longer that of the data file.

@@ -2,6 +2,16 @@
 
 namespace dayvane::testing {
 
+std::optional<platform::FileStatus> TestFiles::Status(const std::string& path) {
+  beforeStatus(path);
+  return PosixFileSystem::Status(path);
+}
+
+platform::FileContents TestFiles::Read(const std::string& path, std::size_t limit) {
+  beforeRead(path);
+  return PosixFileSystem::Read(path, limit);
+}
+
 void TestFiles::Replace(const std::string& path, std::string_view bytes) {
   beforeChange(path);
   PosixFileSystem::Replace(path, bytes);

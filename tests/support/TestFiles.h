@@ -6,9 +6,12 @@
 
 namespace dayvane::testing {
 
-/// The real disk, with something that happens before each change of it.
+/// The real disk, with something that happens before a file or a folder is looked at, before a file is read and before
+/// each change.
 class TestFiles : public files::PosixFileSystem {
  public:
+  std::optional<platform::FileStatus> Status(const std::string& path) override;
+  platform::FileContents Read(const std::string& path, std::size_t limit) override;
   void Replace(const std::string& path, std::string_view bytes) override;
   void Copy(const std::string& source, const std::string& destination) override;
   void Append(const std::string& path, std::string_view text) override;
@@ -17,6 +20,8 @@ class TestFiles : public files::PosixFileSystem {
   void Delete(const std::string& path) override;
   void RemoveFolder(const std::string& path) override;
 
+  std::function<void(const std::string& path)> beforeStatus = [](const std::string&) {};
+  std::function<void(const std::string& path)> beforeRead = [](const std::string&) {};
   std::function<void(const std::string& path)> beforeChange = [](const std::string&) {};
 };
 

@@ -1,5 +1,6 @@
 #include <gmock/gmock.h>
 
+#include "base/Error.h"
 #include "tests/support/TemporaryFolder.h"
 #include "tests/support/TestFiles.h"
 #include "views/FavoritesJournal.h"
@@ -19,32 +20,50 @@ class FavoritesJournalTest : public ::testing::Test {
 };
 
 TEST_F(FavoritesJournalTest, WhatWasAddedIsReadInItsOrder) {
-  m_journal.Begin("7-1", "Z:\\Daily\\a b.lnk");
+  m_journal.Begin("7-1", {"Z:\\Daily\\a b.lnk"});
   m_journal.Add("Z:\\Daily\\\xC3\xA4.lnk");
   EXPECT_THAT(m_journal.Read("7-1"), ElementsAre("Z:\\Daily\\a b.lnk", "Z:\\Daily\\\xC3\xA4.lnk"));
 }
 
 TEST_F(FavoritesJournalTest, ItSaysNothingOfAnotherVersionOfTheDataFile) {
-  m_journal.Begin("7-1", "Z:\\a.lnk");
+  m_journal.Begin("7-1", {"Z:\\a.lnk"});
   EXPECT_THAT(m_journal.Read("7-12"), IsEmpty());
   EXPECT_THAT(m_journal.Read("7-"), IsEmpty());
   EXPECT_THAT(m_journal.Read("none"), IsEmpty());
 }
 
 TEST_F(FavoritesJournalTest, AShortcutNamedTwiceIsThereOnce) {
-  m_journal.Begin("7-1", "Z:\\a.lnk");
+  m_journal.Begin("7-1", {"Z:\\a.lnk"});
   m_journal.Add("Z:\\a.lnk");
   EXPECT_THAT(m_journal.Read("7-1"), ElementsAre("Z:\\a.lnk"));
 }
 
-TEST_F(FavoritesJournalTest, BeginningAnewForgetsWhatWasThere) {
-  m_journal.Begin("7-1", "Z:\\a.lnk");
-  m_journal.Begin("8-2", "Z:\\b.lnk");
-  EXPECT_THAT(m_journal.Read("8-2"), ElementsAre("Z:\\b.lnk"));
+TEST_F(FavoritesJournalTest, ItTellsOfEachVersionWhatStandsBelowItsTitles) {
+  m_journal.Begin("7-1", {"Z:\\a.lnk", "Z:\\b.lnk"});
+  m_journal.Begin("8-2", {"Z:\\b.lnk"});
+  m_journal.Add("Z:\\c.lnk");
+  EXPECT_THAT(m_journal.Read("7-1"), ElementsAre("Z:\\a.lnk", "Z:\\b.lnk"));
+  EXPECT_THAT(m_journal.Read("8-2"), ElementsAre("Z:\\b.lnk", "Z:\\c.lnk"));
+  m_journal.Begin("7-1", {"Z:\\d.lnk"});
+  EXPECT_THAT(m_journal.Read("7-1"), ElementsAre("Z:\\a.lnk", "Z:\\b.lnk", "Z:\\d.lnk"));
+}
+
+TEST_F(FavoritesJournalTest, ALineThatWasCutShortDoesNotSwallowTheNextTitle) {
+  m_journal.Begin("7-1", {"Z:\\a.lnk"});
+  m_folder.Write("Favorites.pending", ReadFile(m_folder / "Favorites.pending") + "8 Z:\\b");
+  m_journal.Begin("8-2", {"Z:\\c.lnk"});
+  EXPECT_THAT(m_journal.Read("7-1"), ElementsAre("Z:\\a.lnk"));
+  EXPECT_THAT(m_journal.Read("8-2"), ElementsAre("Z:\\c.lnk"));
+}
+
+TEST_F(FavoritesJournalTest, OneThatCannotBeReadIsAnErrorAndNotEmpty) {
+  m_journal.Begin("7-1", {"Z:\\a.lnk"});
+  m_files.beforeRead = [](const std::string& path) { throw Error(kDeviceIoError, "Input/output error", path); };
+  EXPECT_THROW(m_journal.Read("7-1"), Error);
 }
 
 TEST_F(FavoritesJournalTest, CutAtAnyByteItGivesTheWholeLinesBeforeTheCut) {
-  m_journal.Begin("7-1", "Z:\\a.lnk");
+  m_journal.Begin("7-1", {"Z:\\a.lnk"});
   const std::size_t first = ReadFile(m_folder / "Favorites.pending").size();
   m_journal.Add("Z:\\a.lnk.lnk");
   const std::string whole = ReadFile(m_folder / "Favorites.pending");
@@ -61,7 +80,7 @@ TEST_F(FavoritesJournalTest, ALineThatWasCutDoesNotSpoilTheNext) {
 }
 
 TEST_F(FavoritesJournalTest, WhenAllIsSavedNothingIsLeft) {
-  m_journal.Begin("7-1", "Z:\\a.lnk");
+  m_journal.Begin("7-1", {"Z:\\a.lnk"});
   m_journal.End();
   EXPECT_THAT(m_journal.Read("7-1"), IsEmpty());
   EXPECT_THAT(m_files.List(m_folder.Path()), IsEmpty());

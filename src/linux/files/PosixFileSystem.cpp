@@ -131,6 +131,13 @@ OpenFolder OpenToList(const std::string& native, const std::string& path) {
   return folder;
 }
 
+/// Whether the failure to look at a path says that nothing lies there that the program could use. A disk that does not
+/// answer says no such thing: what is filed would be filed and counted again.
+bool TellsOfNothing(int systemError) {
+  constexpr int kAbsences[] = {ENOENT, ENOTDIR, ELOOP, ENAMETOOLONG, EACCES, EPERM, EINVAL};
+  return std::ranges::find(kAbsences, systemError) != std::end(kAbsences);
+}
+
 /// Gives a file the present time if it holds exactly these bytes and has no other name, by which it may be a copy that
 /// somebody keeps. Returns whether it does.
 bool TouchIfSame(const std::string& native, std::string_view bytes) {
@@ -178,7 +185,11 @@ void ReplaceUnflushed(const std::string& path, std::string_view bytes) {
 std::optional<FileStatus> PosixFileSystem::Status(const std::string& path) {
   const auto native = ToNative(path);
   struct stat status {};
-  if (!native || lstat(native->c_str(), &status) != 0) return std::nullopt;
+  if (!native) return std::nullopt;
+  if (lstat(native->c_str(), &status) != 0) {
+    if (!TellsOfNothing(errno)) Fail(path);
+    return std::nullopt;
+  }
   return FileStatus{KindOf(status.st_mode), static_cast<std::uint64_t>(status.st_size), MomentOf(status)};
 }
 
@@ -236,7 +247,8 @@ FileContents PosixFileSystem::Read(const std::string& path, std::size_t limit) {
   const FileDescriptor file = OpenFile(path, O_RDONLY, status);
   FileContents contents{{}, MomentOf(status)};
   // One byte of room beyond the expected end tells the end of the file without a second read.
-  std::size_t capacity = std::min(limit, static_cast<std::size_t>(status.st_size) + 1);
+  const auto expected = static_cast<std::size_t>(status.st_size);
+  std::size_t capacity = std::min(limit, expected + 1);
   std::size_t used = 0;
   while (used < limit) {
     contents.bytes.resize(capacity);
@@ -245,8 +257,9 @@ FileContents PosixFileSystem::Read(const std::string& path, std::size_t limit) {
     if (count < 0) Fail(path);
     if (count == 0) break;
     used += static_cast<std::size_t>(count);
-    if (used < capacity) break;
-    capacity = std::min(limit, capacity * 2);
+    // Before the expected end it was only a short read, as a disk in the network gives when a signal comes.
+    if (used < capacity && used >= expected) break;
+    if (used == capacity) capacity = std::min(limit, capacity * 2);
   }
   contents.bytes.resize(used);
   return contents;

@@ -6,6 +6,7 @@
 #include <unistd.h>
 #include <utility>
 
+#include "app/IgnoreErrors.h"
 #include "base/Error.h"
 #include "linux/XdgFolders.h"
 #include "linux/files/NativePath.h"
@@ -117,7 +118,7 @@ void SettingsFile::Replace(const SettingsKeys& changes) {
   if (m_damaged) KeepDamagedFile(file);
   files::PosixFileSystem().Replace(file, WriteSettings(changed));
   m_keys = std::move(changed);
-  Remember(file);
+  IgnoreErrors([&] { m_version = VersionOf(file); });  // or it is read again
 }
 
 void SettingsFile::KeepForThisRun(const SettingsKeys& added, const std::string& reason) {
@@ -138,12 +139,13 @@ std::string SettingsFile::FilePath() const {
 
 void SettingsFile::Refresh() {
   const std::string path = FilePath();
-  const auto status = files::PosixFileSystem().Status(path);
-  const auto found = status ? std::optional<Version>({status->size, status->written}) : std::nullopt;
-  if (found == m_version) return;
+  std::optional<Version> found;
+  const bool isKnown = IgnoreErrors([&] { found = VersionOf(path); });
+  if (isKnown && found == m_version) return;
   m_version = found;
   m_keys.clear();
-  m_damaged = false;
+  // Of a file that the disk tells nothing of no setting is known, and none may be lost by that.
+  m_damaged = !isKnown;
   if (!found) return;
   Read(path);
   if (m_damaged) m_report("The settings file is damaged; what cannot be read counts as missing: " + m_nativePath);
@@ -173,9 +175,9 @@ void SettingsFile::KeepDamagedFile(const std::string& path) {
   m_damaged = false;
 }
 
-void SettingsFile::Remember(const std::string& path) {
+std::optional<SettingsFile::Version> SettingsFile::VersionOf(const std::string& path) {
   const auto status = files::PosixFileSystem().Status(path);
-  m_version = status ? std::optional<Version>({status->size, status->written}) : std::nullopt;
+  return status ? std::optional<Version>({status->size, status->written}) : std::nullopt;
 }
 
 }  // namespace dayvane::registry

@@ -53,11 +53,11 @@ class SettingsFile {
     friend bool operator==(const Version&, const Version&) = default;
   };
 
+  static std::optional<Version> VersionOf(const std::string& path);
   std::string FilePath() const;
   void Refresh();
   void Read(const std::string& path);
   void KeepDamagedFile(const std::string& path);
-  void Remember(const std::string& path);
   void Hold(std::string_view path, std::string_view name, const std::string& text, bool mustReachDisk);
   void Store();
   void Replace(const SettingsKeys& changes);

@@ -5,6 +5,7 @@
 
 #include "base/Error.h"
 #include "linux/files/PosixFileSystem.h"
+#include "tests/support/BrokenDisk.h"
 #include "tests/support/FullDisk.h"
 #include "tests/support/TemporaryFolder.h"
 #include "tests/support/UnprivilegedUser.h"
@@ -380,6 +381,20 @@ TEST_F(PosixFileSystemTest, RenamingNeverReplacesWhatIsThere) {
 
 TEST_F(PosixFileSystemTest, RenamingWhatIsNotThereIsAnErrorAboutIt) {
   EXPECT_EQ(ErrorOf(Path("a.dat"), [&] { m_files.Rename(Path("a.dat"), Path("b.dat")); }), kFileNotFound);
+}
+
+TEST_F(PosixFileSystemTest, ADiskThatDoesNotAnswerIsNotTakenForOneWithoutTheFile) {
+  m_folder.Write("a.dat", "text");
+  EXPECT_TRUE(testing::OnABrokenDisk(
+      [&] { return ErrorOf(Path("a.dat"), [&] { m_files.Status(Path("a.dat")); }) == kDeviceIoError; }));
+}
+
+TEST_F(PosixFileSystemTest, NothingLiesWhereTheUserCannotLook) {
+  const std::string longName(300, 'a');
+  m_folder.Write("a.dat", "text");
+  fs::create_symlink("link", m_folder / "link");
+  for (const std::string& name : {std::string("missing"), std::string("a.dat\\b"), std::string("link\\b"), longName})
+    EXPECT_FALSE(m_files.Status(Path(name))) << name;
 }
 
 }  // namespace

@@ -3,8 +3,11 @@
 #include <gtest/gtest.h>
 #include <random>
 
+#include "base/Error.h"
 #include "linux/registry/LinuxRegistry.h"
+#include "linux/registry/SettingsFile.h"
 #include "settings/COptions.h"
+#include "tests/support/BrokenDisk.h"
 #include "tests/support/TestDesktop.h"
 
 namespace dayvane::registry {
@@ -112,6 +115,23 @@ TEST(SettingsDamage, RandomBytesAreSurvived) {
     for (std::size_t rest = random() % 200; rest > 0; --rest) text += kBytes[random() % kBytes.size()];
     ExpectSurvives(text);
   }
+}
+
+TEST(SettingsDamage, AFileOfWhichTheDiskTellsNothingIsNotReplaced) {
+  const testing::TemporaryFolder folder;
+  const std::string stored = WriteSettings(kStored);
+  const std::string path = folder.Write("dayvane.ini", stored);
+  EXPECT_TRUE(testing::OnABrokenDisk([&] {
+    SettingsFile file(path, [](const std::string&) {});
+    const bool isUnknown = !file.Value(kOptions, "Purge Age");
+    try {
+      file.SetValue(kOptions, "Purge Age", "30");
+    } catch (const Error&) {
+      return isUnknown;
+    }
+    return false;
+  }));
+  EXPECT_EQ(ReadFile(path), stored);
 }
 
 }  // namespace

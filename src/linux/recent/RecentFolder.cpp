@@ -67,7 +67,7 @@ RecentFolder::RecentFolder(Clock now, const std::string& list, std::unique_ptr<R
       m_shortcuts(*m_disk, std::move(writeLink), limits) {}
 
 void RecentFolder::Refresh() {
-  LoadOnce();
+  if (!Load()) return;
   const auto list = m_list.IsDue() ? ReadList() : std::nullopt;
   if (!list && !m_shortcuts.IsWorkDue()) return;
   Failure failure;
@@ -101,15 +101,21 @@ void RecentFolder::Look() {
   Try(failure, [&] { m_shortcuts.Save(); });
 }
 
-void RecentFolder::LoadOnce() {
-  if (std::exchange(m_isLoaded, true)) return;
+/// Whether it is known by now what an earlier session left.
+bool RecentFolder::Load() {
+  if (m_isLoaded) return true;
   Failure failure;
   auto memory = RecentShortcuts::Memory::Sound;
   Try(failure, [&] { memory = m_shortcuts.Load(); });
+  // A disk that fails for a moment must not cost the state, which is written anew as soon as it counts as lost.
+  constexpr int kAttempts = 3;
+  if (failure && ++m_failedLoads < kAttempts) return false;
+  m_isLoaded = true;
   if (failure) m_reportEvent("Recent documents: the state cannot be read: " + *failure);
   m_hasNoState = memory == RecentShortcuts::Memory::None;
   if (memory == RecentShortcuts::Memory::Damaged)
     m_reportEvent("Recent documents: the state is damaged; it is made anew from the list and the Recent folder");
+  return true;
 }
 
 /// Without a state the folder should hold nothing, as before the first session.

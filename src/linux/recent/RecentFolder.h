@@ -54,7 +54,7 @@ class RecentFolder {
   /// What went wrong with the disk during one call; the first of it is worth a line.
   using Failure = std::optional<std::string>;
 
-  void LoadOnce();
+  bool Load();
   void ReportLostState();
   std::optional<RecentList> ReadList();
   void ReportCondition(ListCondition condition);
@@ -68,6 +68,7 @@ class RecentFolder {
   std::unique_ptr<RecentDisk> m_disk;
   RecentShortcuts m_shortcuts;
   bool m_isLoaded = false;
+  int m_failedLoads = 0;
   bool m_hasNoState = false;
   ListCondition m_condition = ListCondition::Sound;
   bool m_isFailing = false;

@@ -107,7 +107,8 @@ recent::RecentFolder& RecentDesk::Start() {
 void RecentDesk::Poll() {
   if (!m_session) Start();
   m_session->Refresh();
-  for (const auto& entry : fs::directory_iterator(m_recent)) {
+  std::error_code notThere;
+  for (const auto& entry : fs::directory_iterator(m_recent, notThere)) {
     if (entry.path().extension() != ".lnk" || !entry.is_regular_file()) continue;
     const std::string link = ReadFile(entry.path());
     const auto target = files::ToNative(link.substr(0, link.find('\t')));

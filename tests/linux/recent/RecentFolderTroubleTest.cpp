@@ -197,6 +197,24 @@ TEST(RecentFolderTrouble, AStateCutAnywhereDoublesAndLosesNothing) {
   }
 }
 
+TEST(RecentFolderTrouble, AStateThatCannotBeReadForAMomentIsNotMadeAnew) {
+  RecentDesk desk;
+  desk.PutDocuments({{kReport, kMorning}, {"/home/ana/old/Report.odt", kMorning}});
+  desk.Poll();
+  fs::remove(desk.Shortcut("Report.odt.lnk"));
+  const auto shortcuts = desk.Shortcuts();
+  const std::string aside = desk.m_state + ".aside";
+  fs::rename(desk.m_state, aside);
+  fs::create_directory(desk.m_state);
+  desk.Start();
+  desk.Poll();
+  fs::remove(desk.m_state);
+  fs::rename(aside, desk.m_state);
+  desk.Poll();
+  EXPECT_EQ(desk.Shortcuts(), shortcuts) << "what the user removed stays removed";
+  EXPECT_THAT(desk.m_events, IsEmpty());
+}
+
 TEST(RecentFolderTrouble, AStateThatCannotBeReadIsReportedAndMadeAnew) {
   RecentDesk desk;
   fs::create_directories(desk.m_state);

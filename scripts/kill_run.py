@@ -24,9 +24,9 @@ from recent_list import RecentList  # noqa: E402
 from waiting import TimedOut, wait_until  # noqa: E402
 
 DAY_SECONDS = 24 * 60 * 60
-DAYS = 20  # the user's past; well within the age at which days are purged
+DAYS = 28  # the user's past, within the age at which days are purged
 NAME = "Page"
-DOCUMENTS = 300  # well within the thousand that the desktop's list keeps
+DOCUMENTS = 900  # within the thousand that the desktop's list keeps
 LARGEST_BURST = 20
 BURST_SHARE = 0.2
 BETWEEN_OPENINGS_SECONDS = 0.1
@@ -74,13 +74,13 @@ class MadeUpUser:
         self._list.opened(self._folder / name, moment)
 
     def _next_moment(self, name):
-        """A moment some days after the last, or else a little later on the same day; at most now."""
+        """A moment on the day after the last, or else a little later on the same day."""
         last = self._last.get(name)
         if last is None:
-            return self._noon(self._chance.randrange(DAYS // 2, DAYS))
+            return self._noon(self._chance.randrange(DAYS - 4, DAYS))
         days_ago = int((self._noon(0) - last + DAY_SECONDS / 2) // DAY_SECONDS)
         if days_ago > 1 and self._is_filed(self.shortcut(name, last), last):
-            return self._noon(self._chance.randrange(max(1, days_ago - 3), days_ago))
+            return self._noon(days_ago - 1)
         return last + self._chance.random()
 
     def _noon(self, days_ago):

@@ -117,12 +117,10 @@ bool CFavorites::Read() {
     isThere = FileExists(m_application.desktop.files, DataFile());
     if (isThere) ReadTable();
   });
-  if (!isThere) {
-    m_mustMoveAside = false;
+  if (!isThere)
     RebuildFavorites();
-  } else if (m_isWhole) {
+  else if (m_isWhole)
     CountUncounted();
-  }
   return isThere;
 }
 

@@ -74,6 +74,15 @@ TEST_F(CaptureFaultTest, AFiledShortcutThatCannotBeReadUntilTheEndIsCountedByThe
   EXPECT_THAT(Counts(), ElementsAre("a.odt 2"));
 }
 
+TEST_F(CaptureFaultTest, AFiledShortcutThatStillCannotBeReadAtTheNextStartIsNamedInTheEventLog) {
+  SpoilFiledShortcut();
+  Tick();
+  m_computer.Exit();
+  m_computer.Start();
+  EXPECT_THAT(m_computer.desktop.LogLines("EventLog.txt"),
+              ::testing::Contains(::testing::HasSubstr("Could not be counted yet: ")));
+}
+
 TEST_F(CaptureFaultTest, WhatIsCountedMeanwhileDoesNotCostTheOtherItsCount) {
   SpoilFiledShortcut();
   Tick();
@@ -111,6 +120,17 @@ TEST_F(CaptureFaultTest, ADataFileThatTheDiskDoesNotTellOfIsKeptBeforeTheTableIs
   EXPECT_TRUE(isKept);
 }
 
+TEST_F(CaptureFaultTest, ADataFileThatCannotBeReadForAMomentIsReadAllTheSame) {
+  m_computer.Exit();
+  m_computer.desktop.files.beforeRead = [failures = 2](const std::string& path) mutable {
+    if (path.ends_with("\\Favorites.dat") && failures-- > 0) throw Error(kDeviceIoError, "Input/output error", path);
+  };
+  std::filesystem::remove_all(m_computer.desktop.NativeFolder() + "/Daily/2026/November/20");
+  m_computer.Start();
+  EXPECT_THAT(Counts(), ElementsAre("a.odt 2")) << "also of the day that is gone";
+  EXPECT_THAT(m_computer.desktop.windowing.messages, ::testing::IsEmpty());
+}
+
 TEST_F(CaptureFaultTest, AnOpeningThatIsCutOffAfterAFailureOfItsJournalIsCountedOnce) {
   m_computer.desktop.files.beforeChange = FailingAt("\\Favorites.pending");
   Tick();
@@ -138,12 +158,27 @@ TEST_F(CaptureFaultTest, ACountThatIsStillMissingSurvivesAKillWhileTheOthersAreS
   EXPECT_THAT(Counts(), ::testing::UnorderedElementsAre("a.odt 2", "0.odt 1"));
 }
 
+TEST_F(CaptureFaultTest, ATableThatCouldNotBeSavedLeavesEveryCountToTheNextStart) {
+  SpoilFiledShortcut();
+  Tick();
+  m_computer.desktop.OpenDocument("Z:\\home\\ana\\b.odt", "2026-11-21 10:00:00");
+  m_computer.desktop.files.beforeChange = FailingAt("\\Favorites.dat");
+  Resume();
+  m_computer.desktop.OpenDocument("Z:\\home\\ana\\c.odt", "2026-11-21 11:00:00");
+  Resume();
+  m_computer.Kill();
+  m_computer.LetLive();
+  MendFiledShortcut();
+  m_computer.Start();
+  EXPECT_THAT(Counts(), ::testing::UnorderedElementsAre("a.odt 2", "b.odt 1", "c.odt 1"));
+}
+
 TEST_F(CaptureFaultTest, AJournalThatCannotBeReadForAMomentCostsNoCount) {
   SpoilFiledShortcut();
   Tick();
   m_computer.Kill();
   MendFiledShortcut();
-  m_computer.desktop.files.beforeRead = [failures = 1](const std::string& path) mutable {
+  m_computer.desktop.files.beforeRead = [failures = 2](const std::string& path) mutable {
     if (path.ends_with("\\Favorites.pending") && failures-- > 0)
       throw Error(kDeviceIoError, "Input/output error", path);
   };
@@ -160,6 +195,8 @@ TEST_F(CaptureFaultTest, AJournalThatCanNeverBeReadKeepsNothingFromBeingFiledAnd
   Open("2026-11-22 09:00:00");
   Tick();
   EXPECT_THAT(Counts(), ElementsAre("a.odt 2"));
+  EXPECT_THAT(m_computer.desktop.LogLines("EventLog.txt"),
+              ::testing::Contains(::testing::HasSubstr("Favorites.pending cannot be read")));
 }
 
 TEST_F(CaptureFaultTest, AShortcutThatCanNeverBeReadIsNoReasonToSaveAgainAndAgain) {

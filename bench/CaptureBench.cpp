@@ -8,7 +8,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "linux/links/ShellLinkFormat.h"
+#include "links/ShellLinkFormat.h"
 #include "tests/support/MainWindow.h"
 
 namespace dayvane {

@@ -13,7 +13,7 @@ A source "<name>.html" is one topic, well-formed XML of this shape:
 "contexts" lists the numbers under which the program asks for the topic. "contents.xml" holds the tree of contents.
 Everything that a reader could stumble over is an error here: a link to nowhere, a missing picture, a topic outside the
 tree, a number given twice, markup that the viewer does not draw. The format of the output is described in
-src/linux/help/HelpFile.h.
+src/help/HelpFile.h.
 """
 
 import pathlib

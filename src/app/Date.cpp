@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <optional>
+#include <set>
 #include <vector>
 
 #include "base/Error.h"
@@ -215,6 +216,44 @@ DateParts SplitShortDate(std::string_view text, const platform::DateConventions&
     text.remove_prefix(end);
   }
   return parts;
+}
+
+namespace {
+
+bool CanBeFolderName(const std::string& name) {
+  return !name.empty() && name[0] != '.' && name.find_first_of("/\\\"") == std::string::npos &&
+         text::Trim(name) == name;
+}
+
+bool CanNameFolders(const platform::MonthNames& names) {
+  std::set<std::string> distinct;
+  for (const std::string& name : names) distinct.insert(text::ToLower(name));
+  return distinct.size() == names.size() && std::ranges::all_of(names, CanBeFolderName);
+}
+
+bool IsReadBack(const platform::DateConventions& conventions) {
+  for (const Date& date : {Date::Of(2026, 11, 7), Date::Of(1998, 5, 30)}) {
+    DateParts parts;
+    try {
+      parts = SplitShortDate(Format(date, "Short Date", conventions), conventions);
+    } catch (const Error&) {
+      return false;  // The text of the date was not even taken for one.
+    }
+    if (parts.month != static_cast<int>(date.Month()) || parts.day != static_cast<int>(date.Day()) ||
+        parts.year % 100 != date.Year() % 100)
+      return false;
+  }
+  return true;
+}
+
+}  // namespace
+
+platform::DateConventions Usable(platform::DateConventions conventions) {
+  if (!CanNameFolders(conventions.monthNames)) conventions.monthNames = English().monthNames;
+  if (!IsReadBack(conventions)) conventions.shortDate = "yyyy-mm-dd";
+  const std::string& time = conventions.shortTime;
+  if (time.find('h') == std::string::npos || time.find("nn") == std::string::npos) conventions.shortTime = "hh:nn";
+  return conventions;
 }
 
 }  // namespace dayvane

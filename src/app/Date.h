@@ -69,4 +69,9 @@ struct DateParts {
 /// Fails with kTypeMismatch when the text has not three parts.
 DateParts SplitShortDate(std::string_view text, const platform::DateConventions& conventions);
 
+/// A desktop's conventions as the program can use them: month names that can name no folder, or of which two are the
+/// same, are the English ones; a short date that would not be read back as it was written is "yyyy-mm-dd"; a short
+/// time without hours or minutes is "hh:nn".
+platform::DateConventions Usable(platform::DateConventions conventions);
+
 }  // namespace dayvane

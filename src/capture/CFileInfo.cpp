@@ -7,17 +7,8 @@ namespace dayvane {
 
 namespace {
 
-// Flags of SHGetFileInfo.
-constexpr std::uint32_t kSmallIcon = 0x1;
-constexpr std::uint32_t kShellIconSize = 0x4;
-constexpr std::uint32_t kIdentifierGiven = 0x8;
-constexpr std::uint32_t kUseAttributes = 0x10;
-constexpr std::uint32_t kIcon = 0x100;
-constexpr std::uint32_t kDisplayAndTypeName = 0x600;
+constexpr std::uint32_t kDisplayAndTypeName = platform::kInfoDisplayName | platform::kInfoTypeName;
 constexpr std::uint32_t kOverlayMask = 0x18002;
-
-constexpr std::uint32_t kDirectoryAttribute = 16;
-constexpr std::uint32_t kArchiveAttribute = 32;
 constexpr std::uint64_t kFirstIdentifier = 50;  ///< smaller numbers are special folders
 
 bool IsDriveRoot(const std::string& path) {
@@ -30,7 +21,7 @@ std::uint32_t AttributesOf(platform::FileSystem& files, const std::string& path)
   std::optional<platform::FileStatus> found;
   IgnoreErrors([&] { found = files.Status(path); });
   if (!found) return 0;
-  return found->kind == platform::EntryKind::Folder ? kDirectoryAttribute : kArchiveAttribute;
+  return found->kind == platform::EntryKind::Folder ? platform::kAttributeDirectory : platform::kAttributeArchive;
 }
 
 }  // namespace
@@ -41,7 +32,7 @@ void CFileInfo::SetItem(std::uint64_t number) {
       number < kFirstIdentifier ? icons.SpecialFolderIdentifier(static_cast<int>(number)) : number;
   m_attributes = 0;
   m_attributeFlag = 0;
-  if (icons.FileInfo(identifier, 0, kDisplayAndTypeName | kIdentifierGiven)) m_item = identifier;
+  if (icons.FileInfo(identifier, 0, kDisplayAndTypeName | platform::kInfoByIdentifier)) m_item = identifier;
 }
 
 void CFileInfo::SetItem(const std::string& path) {
@@ -51,24 +42,24 @@ void CFileInfo::SetItem(const std::string& path) {
   } else {
     const std::string searched = path.ends_with('\\') ? path.substr(0, path.size() - 1) : path;
     m_attributes = AttributesOf(m_application.desktop.files, searched);
-    m_attributeFlag = kUseAttributes;
+    m_attributeFlag = platform::kInfoUseAttributes;
   }
   if (m_application.desktop.icons.FileInfo(path, m_attributes, kDisplayAndTypeName | m_attributeFlag)) m_item = path;
 }
 
 std::optional<platform::Picture> CFileInfo::SmallIcon(std::uint32_t afOverlay) const {
-  return Icon("SmallIcon", afOverlay, kSmallIcon);
+  return Icon("SmallIcon", afOverlay, platform::kInfoSmallIcon);
 }
 
 std::optional<platform::Picture> CFileInfo::ShellIcon(std::uint32_t afOverlay) const {
-  return Icon("ShellIcon", afOverlay, kShellIconSize);
+  return Icon("ShellIcon", afOverlay, platform::kInfoShellIconSize);
 }
 
 std::optional<platform::Picture> CFileInfo::Icon(const char* procedure, std::uint32_t afOverlay,
                                                  std::uint32_t sizeFlag) const {
   std::optional<platform::Picture> picture;
   ReportErrors(m_application, kProcessingSelection, ClassName, procedure, [&] {
-    const auto info = GetFileItemInfo((afOverlay & kOverlayMask) | m_attributeFlag | kIcon | sizeFlag);
+    const auto info = GetFileItemInfo((afOverlay & kOverlayMask) | m_attributeFlag | platform::kInfoIcon | sizeFlag);
     if (info) picture = info->icon;
   });
   return picture;
@@ -78,7 +69,7 @@ std::optional<platform::ShellFileInfo> CFileInfo::GetFileItemInfo(std::uint32_t 
   platform::ShellIcons& icons = m_application.desktop.icons;
   if (const auto* path = std::get_if<std::string>(&m_item)) return icons.FileInfo(*path, m_attributes, flags);
   if (const auto* identifier = std::get_if<std::uint64_t>(&m_item))
-    return icons.FileInfo(*identifier, 0, flags | kIdentifierGiven);
+    return icons.FileInfo(*identifier, 0, flags | platform::kInfoByIdentifier);
   return std::nullopt;
 }
 

@@ -8,8 +8,8 @@
 #include "capture/Filing.h"
 #include "capture/ProgramShortcut.h"
 #include "fs/Dir.h"
+#include "resources/MResourceConstants.h"
 #include "shell/FMain.h"
-#include "shell/MResourceConstants.h"
 
 namespace dayvane {
 

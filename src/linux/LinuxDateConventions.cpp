@@ -1,12 +1,10 @@
 #include "linux/LinuxDateConventions.h"
 
 #include <QString>
-#include <array>
-#include <set>
+#include <utility>
 #include <vector>
 
 #include "app/Date.h"
-#include "base/Error.h"
 #include "base/Text.h"
 
 namespace dayvane {
@@ -14,9 +12,6 @@ namespace dayvane {
 namespace {
 
 using platform::DateConventions;
-
-constexpr const char* kIsoDate = "yyyy-mm-dd";
-constexpr const char* kIsoTime = "hh:nn";
 
 /// A pattern of the toolkit's (QLocale::toString) taken apart: runs of one letter, and literal text.
 struct Piece {
@@ -77,6 +72,7 @@ std::string Literal(const QString& text) {
   return out;
 }
 
+/// Empty where the program has no form for a field.
 std::string ShortDate(const QString& pattern) {
   std::string out;
   for (const Piece& piece : TakeApart(pattern, QStringLiteral("dMy"))) {
@@ -85,24 +81,10 @@ std::string ShortDate(const QString& pattern) {
       continue;
     }
     const bool isYear = piece.letter == u'y';
-    if (isYear ? piece.count != 2 && piece.count != 4 : piece.count > 2) return kIsoDate;
+    if (isYear ? piece.count != 2 && piece.count != 4 : piece.count > 2) return {};
     out += std::string(static_cast<std::size_t>(piece.count), static_cast<char>(piece.letter.toLower().unicode()));
   }
   return out;
-}
-
-bool IsReadBack(const DateConventions& conventions) {
-  for (const auto& [year, month, day] : {std::array{2026, 11, 7}, std::array{1998, 5, 30}}) {
-    try {
-      const Date date = Date::Of(year, static_cast<unsigned>(month), static_cast<unsigned>(day));
-      const DateParts parts = SplitShortDate(Format(date, "Short Date", conventions), conventions);
-      if (parts.month != month || parts.day != day || parts.year % 100 != year % 100) return false;
-    } catch (const Error&) {
-      // The text of the date was not even taken for one.
-      return false;
-    }
-  }
-  return true;
 }
 
 /// "h", "hh", "nn" or "AM/PM" for a field of the time; nothing for what a short time leaves out (seconds, the zone).
@@ -134,26 +116,14 @@ std::string ShortTime(QString pattern) {
     if (!field.empty()) out += separator + field;
     separator.clear();
   }
-  out += separator;
-  const bool whole = out.find('h') != std::string::npos && out.find("nn") != std::string::npos;
-  return whole ? std::string(text::Trim(out)) : kIsoTime;
+  return std::string(text::Trim(out + separator));
 }
 
-bool CanBeFolderName(const std::string& name) {
-  return !name.empty() && name[0] != '.' && name.find_first_of("/\\\"") == std::string::npos &&
-         text::Trim(name) == name;
-}
-
-/// The month names, or the English ones when one of these can name no folder or two are the same.
-std::array<std::string, 12> MonthNames(const QLocale& locale) {
-  std::array<std::string, 12> names;
-  std::set<std::string> distinct;
-  for (std::size_t i = 0; i < names.size(); ++i) {
+platform::MonthNames MonthNames(const QLocale& locale) {
+  platform::MonthNames names;
+  for (std::size_t i = 0; i < names.size(); ++i)
     names[i] = locale.standaloneMonthName(static_cast<int>(i) + 1, QLocale::LongFormat).trimmed().toStdString();
-    if (!CanBeFolderName(names[i])) return DateConventions().monthNames;
-    distinct.insert(text::ToLower(names[i]));
-  }
-  return distinct.size() == names.size() ? names : DateConventions().monthNames;
+  return names;
 }
 
 }  // namespace
@@ -162,12 +132,11 @@ DateConventions DateConventionsOf(const QLocale& locale) {
   DateConventions conventions;
   conventions.monthNames = MonthNames(locale);
   conventions.shortDate = ShortDate(locale.dateFormat(QLocale::ShortFormat));
-  if (!IsReadBack(conventions)) conventions.shortDate = kIsoDate;
   conventions.shortTime = ShortTime(locale.timeFormat(QLocale::ShortFormat));
   conventions.am = locale.toUpper(locale.amText()).toStdString();
   conventions.pm = locale.toUpper(locale.pmText()).toStdString();
   conventions.firstDayOfWeek = locale.firstDayOfWeek();
-  return conventions;
+  return Usable(std::move(conventions));
 }
 
 }  // namespace dayvane

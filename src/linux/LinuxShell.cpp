@@ -4,9 +4,8 @@
 
 #include "base/Error.h"
 #include "base/Text.h"
-#include "linux/UsersTurn.h"
+#include "links/ShellLinkFormat.h"
 #include "linux/files/NativePath.h"
-#include "linux/links/ShellLinkFormat.h"
 
 namespace dayvane {
 
@@ -21,12 +20,13 @@ std::int64_t NanosecondsNow() {
 
 LinuxShell::LinuxShell(platform::FileSystem& files, const std::string& dataFolder,
                        const std::function<void(const std::string&)>& reportEvent)
-    : m_recentPath(dataFolder + "/Recent"),
+    : m_files(files),
+      m_recentPath(dataFolder + "/Recent"),
       m_links(files, reportEvent),
       m_launcher(reportEvent),
       m_recentFolder(NanosecondsNow, {recent::DefaultListPath(), m_recentPath, dataFolder + "/Recent.state"},
                      links::WriteShellLink, reportEvent),
-      m_watch(recent::DefaultListPath(), [this] { AfterWork(m_context, [this] { m_recentFolder.Look(); }); }) {}
+      m_watch(recent::DefaultListPath(), [this] { m_deferred.AfterWork([this] { m_recentFolder.Look(); }); }) {}
 
 std::string LinuxShell::SpecialFolderPath(int number) {
   if (number != platform::kRecentFolder)
@@ -42,7 +42,8 @@ void LinuxShell::CreateShellLink(const std::string& path, const platform::ShellL
   const auto native = files::ResolveNative(link.target);
   const auto target = native ? files::FromNative(*native) : std::nullopt;
   if (target && text::CompareIgnoringCase(*target, link.target) == 0) written.target = *target;
-  links::WriteShellLinkFile(path, written);
+  // Not flushed: a first capture writes thousands of links.
+  m_files.ReplaceUnflushed(path, links::WriteShellLink(written));
 }
 
 int LinuxShell::Open(const std::string& target, const std::string& workingDirectory, std::int32_t) {

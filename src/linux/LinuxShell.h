@@ -1,11 +1,11 @@
 #pragma once
 
-#include <QObject>
 #include <functional>
 #include <string>
 
+#include "controls/Deferred.h"
+#include "links/ShellLinkReader.h"
 #include "linux/launch/Launcher.h"
-#include "linux/links/ShellLinkFile.h"
 #include "linux/recent/RecentFolder.h"
 #include "linux/recent/RecentListWatch.h"
 #include "platform/Shell.h"
@@ -31,11 +31,12 @@ class LinuxShell : public platform::Shell {
   std::string DisplayPath(const std::string& path) override { return launch::Launcher::DisplayPath(path); }
 
  private:
+  platform::FileSystem& m_files;
   std::string m_recentPath;  ///< native
   links::ShellLinkReader m_links;
   launch::Launcher m_launcher;
   recent::RecentFolder m_recentFolder;
-  QObject m_context;  ///< of what waits until the program has done with its work
+  controls::Deferred m_deferred;
   recent::RecentListWatch m_watch;
 };
 

@@ -5,15 +5,13 @@
 #include "app/IgnoreErrors.h"
 #include "app/ShellServices.h"
 #include "base/Text.h"
-#include "linux/GlibHandles.h"
 #include "linux/files/NativePath.h"
+#include "linux/glib/GlibHandles.h"
 
 namespace dayvane {
 
 namespace {
 
-constexpr std::uint32_t kIconFlag = 0x100;  ///< SHGFI_ICON
-constexpr std::uint32_t kDirectoryAttribute = 16;
 constexpr std::uint64_t kFirstFolderIdentifier = 1U << 16;  ///< beyond all numbers of special folders
 constexpr const char* kFolderType = "inode/directory";
 constexpr const char* kProgramType = "application/x-executable";
@@ -47,14 +45,16 @@ std::uint64_t LinuxShellIcons::SpecialFolderIdentifier(int number) {
 std::optional<platform::ShellFileInfo> LinuxShellIcons::FileInfo(const std::string& path, std::uint32_t attributes,
                                                                  std::uint32_t flags) {
   std::string name = SplitPath(path).fileName;
-  const bool isShortcut = text::EndsWithIgnoringCase(name, kShortcutExtension) && attributes != kDirectoryAttribute;
+  const bool isShortcut =
+      text::EndsWithIgnoringCase(name, kShortcutExtension) && attributes != platform::kAttributeDirectory;
   if (isShortcut) name.resize(name.size() - kShortcutExtension.size());
   // Of a name that fits several types GIO is "uncertain", and has the likeliest: better than none.
-  const glib::Text type(attributes == kDirectoryAttribute ? g_strdup(kFolderType)
-                                                          : g_content_type_guess(name.c_str(), nullptr, 0, nullptr));
+  const glib::Text type(attributes == platform::kAttributeDirectory
+                            ? g_strdup(kFolderType)
+                            : g_content_type_guess(name.c_str(), nullptr, 0, nullptr));
   std::optional<platform::ShellFileInfo> info;
   const bool mayBeOther = g_content_type_is_unknown(type.get()) != 0 || m_programs.HasName(name);
-  if (isShortcut && (flags & kIconFlag) != 0 && mayBeOther) info = InfoOfShortcut(path);
+  if (isShortcut && (flags & platform::kInfoIcon) != 0 && mayBeOther) info = InfoOfShortcut(path);
   if (!info) info = InfoOfType(type.get());
   info->displayName = name;
   return info;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "linux/Applications.h"
+#include "linux/launch/Applications.h"
 #include "platform/Shell.h"
 #include "platform/ShellIcons.h"
 

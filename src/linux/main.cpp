@@ -9,23 +9,23 @@
 #include <optional>
 #include <utility>
 
+#include "app/EventSink.h"
 #include "app/ReportErrors.h"
 #include "base/Error.h"
-#include "linux/ErrorNet.h"
-#include "linux/EventSink.h"
+#include "linux/LinuxClock.h"
 #include "linux/LinuxDateConventions.h"
+#include "linux/LinuxFileSystem.h"
+#include "linux/LinuxHelp.h"
+#include "linux/LinuxRegistry.h"
 #include "linux/LinuxShell.h"
 #include "linux/LinuxShellIcons.h"
-#include "linux/ProgramFolder.h"
-#include "linux/SingleInstance.h"
-#include "linux/SystemClock.h"
+#include "linux/LinuxWindowing.h"
+#include "linux/ProgramWindows.h"
 #include "linux/files/NativePath.h"
-#include "linux/files/PosixFileSystem.h"
-#include "linux/help/DesktopHelp.h"
-#include "linux/registry/LinuxRegistry.h"
-#include "linux/widgets/Appearance.h"
-#include "linux/widgets/LinuxWindowing.h"
-#include "linux/widgets/ProgramWindows.h"
+#include "linux/files/ProgramFolder.h"
+#include "linux/files/SingleInstance.h"
+#include "linux/forms/Appearance.h"
+#include "linux/glib/ErrorNet.h"
 #include "shell/MDayvaneMain.h"
 
 namespace dayvane {
@@ -77,7 +77,7 @@ void LayNet(std::optional<ErrorNet>& net, Application& application) {
 }
 
 /// Whoever asked for help when welcomed wants to read it, and not to see the main window come over it.
-void KeepHelpInFront(help::DesktopHelp& help, FMain& mainWindow) {
+void KeepHelpInFront(help::LinuxHelp& help, FMainControls& mainWindow) {
   mainWindow.form.Activate.Connect([&help, isFirst = true]() mutable {
     if (std::exchange(isFirst, false)) QTimer::singleShot(0, qApp, [&help] { help.BringToFront(); });
   });
@@ -93,14 +93,14 @@ int Run() {
   EventSink events;
   const auto report = [&events](const std::string& text) { events.Report(text); };
   const std::optional<SingleInstance> instance = SingleInstance::Acquire(SingleInstance::Folder(environment));
-  files::PosixFileSystem files;
+  files::LinuxFileSystem files;
   LinuxShell shell(files, folders.data, report);
   LinuxShellIcons shellIcons(shell);
   LinuxRegistry registry(DefaultSettingsFile(), report);
   const widgets::Appearance appearance;
   widgets::LinuxWindowing windowing;
-  help::DesktopHelp help(folders.resources);
-  SystemClock clock;
+  help::LinuxHelp help(folders.resources);
+  LinuxClock clock;
   const platform::DateConventions dates = DateConventionsOf();
   const platform::Desktop desktop{files, shell, shellIcons, registry, windowing, help, clock, dates};
 
@@ -112,7 +112,7 @@ int Run() {
   const SignalHandlers signals(windows);
   program = Main(desktop, *programFolder, !instance,
                  {[&](FSplash& splash) { windows.Present(splash); },
-                  [&](FMain& mainWindow, Application& application) {
+                  [&](FMainControls& mainWindow, Application& application) {
                     events.SetLog(&application.eventLog);
                     LayNet(net, application);
                     windows.Present(mainWindow);

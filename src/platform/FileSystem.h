@@ -65,6 +65,10 @@ class FileSystem {
   /// file or the new one.
   virtual void Replace(const std::string& path, std::string_view bytes) = 0;
 
+  /// The same but for a power cut, after which the file may be empty: it does not wait for the disk, and only renews
+  /// the moment of a file that holds these bytes already. For the many files that can be made again.
+  virtual void ReplaceUnflushed(const std::string& path, std::string_view bytes) = 0;
+
   /// Copies a file with its last-written moment, replacing the destination as a whole.
   virtual void Copy(const std::string& source, const std::string& destination) = 0;
 

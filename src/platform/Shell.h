@@ -29,6 +29,17 @@ struct ReadLink {
 /// Number of the user's Recent folder among the shell's special folders (CSIDL_RECENT).
 inline constexpr int kRecentFolder = 8;
 
+/// Results of opening a document that are told apart (ShellExecute, SE_ERR_…); above 32 it was opened, and other values
+/// are other failures.
+enum OpenResult : int {
+  kSeFileNotFound = 2,
+  kSePathNotFound = 3,
+  kSeAccessDenied = 5,
+  kSeAssociationIncomplete = 27,  ///< there is a program for the document, but it could not be started
+  kSeNoAssociation = 31,
+  kSeOpened = 42,
+};
+
 /// The desktop's shell. Failures are Errors, except where a result code is given.
 class Shell {
  public:
@@ -52,8 +63,7 @@ class Shell {
   virtual void CreateShellLink(const std::string& path, const ShellLink& link) = 0;
 
   /// Opens a document, a folder or a web address with the desktop's default program, in the given working folder.
-  /// Returns the shell's result: above 32 opened; 2 file not found, 3 path not found, 5 access denied,
-  /// 31 no association; other values up to 32 are other failures.
+  /// Returns the shell's result, see OpenResult.
   virtual int Open(const std::string& target, const std::string& workingDirectory, std::int32_t showCommand) = 0;
 
   /// Starts a command line of the desktop's explorer in a normal window.

@@ -23,7 +23,21 @@ struct ShellFileInfo {
   std::string typeName;
 };
 
-/// The shell's icons. Attributes and flags are those of the classic SHGetFileInfo call.
+/// What is asked of an item: the flags of the classic SHGetFileInfo call.
+enum FileInfoFlag : std::uint32_t {
+  kInfoSmallIcon = 0x1,
+  kInfoShellIconSize = 0x4,
+  kInfoByIdentifier = 0x8,
+  kInfoUseAttributes = 0x10,  ///< the file need not be there
+  kInfoIcon = 0x100,
+  kInfoDisplayName = 0x200,
+  kInfoTypeName = 0x400,
+};
+
+/// Attributes of that call (FILE_ATTRIBUTE_…).
+enum FileAttribute : std::uint32_t { kAttributeDirectory = 0x10, kAttributeArchive = 0x20 };
+
+/// The shell's icons.
 class ShellIcons {
  public:
   virtual ~ShellIcons() = default;
@@ -31,7 +45,7 @@ class ShellIcons {
   /// Identifier of the special folder with this number. Fails where the desktop has none.
   virtual std::uint64_t SpecialFolderIdentifier(int number) = 0;
 
-  /// Nothing when the shell does not know the item. With the flag SHGFI_USEFILEATTRIBUTES the file need not be there,
+  /// Nothing when the shell does not know the item. With kInfoUseAttributes the file need not be there,
   /// so one that is gone has an icon too. What a shortcut leads to is never looked at.
   virtual std::optional<ShellFileInfo> FileInfo(const std::string& path, std::uint32_t attributes,
                                                 std::uint32_t flags) = 0;

@@ -3,6 +3,7 @@
 #include "app/ReportErrors.h"
 #include "base/Error.h"
 #include "base/Text.h"
+#include "controls/Keys.h"
 
 namespace dayvane {
 
@@ -11,7 +12,6 @@ namespace {
 constexpr int kLeast = 1;
 constexpr int kMostSeconds = 60;
 constexpr std::size_t kTimerField = 2;
-constexpr int kF1Key = 112;
 constexpr int kOptionsHelp = 11;  ///< help context of the dialog
 
 struct Field {
@@ -84,7 +84,7 @@ void FOptions::ConnectControls() {
   for (std::size_t i = 0; i < cmdOptions.size(); ++i) cmdOptions[i].Click.Connect([this, i] { cmdOptions_Click(i); });
   form.QueryUnload.Connect([this](bool& cancel, controls::UnloadMode mode) { Form_QueryUnload(cancel, mode); });
   form.KeyUp.Connect([this](int keyCode, int) {
-    if (keyCode == kF1Key) DisplayHelp();
+    if (keyCode == controls::kKeyF1) DisplayHelp();
   });
 }
 

@@ -5,51 +5,12 @@
 
 #include "app/ReportErrors.h"
 #include "settings/COptions.h"
-#include "shell/MHelpConstants.h"
-#include "shell/MResourceConstants.h"
 
 namespace dayvane {
 
-namespace {
-
-controls::Picture ResourcePicture(int resource) {
-  return {{}, resource};
-}
-
-}  // namespace
-
 FMain::FMain(Application& application, CRepository& repository)
-    : mnuFilePopup("&Dayvane", {{"S&uspend"}, {"&Resume"}, {"&Hide"}, {"-"}, {"E&xit"}}),
-      mnuViewArrangePopup("Arrange &Icons", {{"by &Name"}, {"by &Type"}, {"-"}, {"&Auto Arrange"}}),
-      mnuViewPopup("&View", {{"D&aily"},
-                             {"&Favorites"},
-                             {"D&esktop"},
-                             {"-"},
-                             {"Lar&ge Icons"},
-                             {"S&mall Icons"},
-                             {"&List"},
-                             {"&Details"},
-                             {"-"},
-                             {"Arrange &Icons", &mnuViewArrangePopup},
-                             {"-"},
-                             {"&Options"}}),
-      mnuToolsPopup("&Tools", {{"&Find..."}, {"-"}, {"&Explore"}, {"&Open"}, {"-"}, {"&Rebuild Favorites"}}),
-      mnuHelpPopup("&Help", {{"&Dayvane Help Topics"}, {"-"}, {"&Korvath Online"}, {"-"}, {"&About Dayvane"}}),
-      mnuTreeViewPopup("Tree View", {{"&Purge"}}),
-      mnuSysTrayPopup("Tray",
-                      {{"&Show"}, {"&Hide"}, {"S&uspend"}, {"&Resume"}, {"-"}, {"&About Dayvane"}, {"-"}, {"E&xit"}}),
-      mnuArrangeViewPopup("&View", {{"Lar&ge Icons"}, {"S&mall Icons"}, {"&List"}, {"&Details"}}),
-      mnuArrangeIconsPopup("Arrange &Icons", {{"by &Name"}, {"by &Type"}, {"-"}, {"&Auto Arrange"}}),
-      mnuListViewPopup(
-          "ListView",
-          {{"&Open"}, {"-"}, {"&View", &mnuArrangeViewPopup}, {"-"}, {"Arrange &Icons", &mnuArrangeIconsPopup}}),
-      m_application(application),
-      m_repository(repository),
-      m_filedShortcuts(application.desktop.files) {
+    : m_application(application), m_repository(repository), m_filedShortcuts(application.desktop.files) {
   application.activeForm = &form;
-  picFavorites.SetVisible(false);  // One pane at a time, also when the settings name no view that exists.
-  BuildLists();
-  BuildToolbar();
   ShowSuspendOrResume(true);
   ConnectControls();
 }
@@ -62,34 +23,12 @@ void FMain::Assert(bool condition, std::string_view message) const {
   if (!condition) m_application.asserts.Assert(false, kName + std::string(message));
 }
 
-void FMain::BuildLists() {
-  lvwDaily.SetName("lvwDaily");
-  lvwDaily.SetColumns({{"Name"}, {"Type"}, {"Path"}, {"Modified"}});
-  lvwFavorites.SetName("lvwFavorites");
-  lvwFavorites.SetColumns({{"Name"}, {"Type"}, {"Path"}, {"Days Accessed"}, {"Last Accessed"}});
-  for (const int level : {kRepositoryPicture, kYearPicture, kMonthPicture, kDayPicture})
-    imlMain.Add(ResourcePicture(level));
-  for (controls::ImageList* images : {&imlLarge, &imlSmall, &imlFavoritesLarge, &imlFavoritesSmall})
-    images->Add(ResourcePicture(kDefaultDocumentPicture));
-  lvwDaily.SetImages(&imlLarge, &imlSmall);
-  lvwFavorites.SetImages(&imlFavoritesLarge, &imlFavoritesSmall);
-}
-
-void FMain::BuildToolbar() {
-  static constexpr std::array<const char*, kToolbarButtons> kTips{
-      "Daily View",      "Favorites View",  "",          "Explore Folder", "Open Folder",      "Find Document",
-      "Large Icon View", "Small Icon View", "List View", "Detail View",    "Main Window Help", "What's This Help"};
-  for (std::size_t i = 0; i < sftToolbar.size(); ++i) sftToolbar[i].SetToolTipText(kTips[i]);
-}
-
 void FMain::ConnectControls() {
   tmrMain.Tick.Connect([this] { tmrMain_Timer(); });
   tryMain.MouseUp.Connect([this](int button, int) { tryMain_MouseUp(button); });
   tvwMain.MouseUp.Connect([this](int button, double x, double y) { tvwMain_MouseUp(button, x, y); });
-  for (std::size_t i = 0; i < picMain.size(); ++i)
-    picMain[i].Resize.Connect([this, i] { picMain_Resize(static_cast<int>(i)); });
-  for (std::size_t i = 0; i < sftToolbar.size(); ++i)
-    sftToolbar[i].Click.Connect([this, i] { sftToolbar_Click(static_cast<int>(i)); });
+  for (std::size_t i = 0; i < picMain.size(); ++i) picMain[i].Resize.Connect([this, i] { picMain_Resize(i); });
+  for (std::size_t i = 0; i < sftToolbar.size(); ++i) sftToolbar[i].Click.Connect([this, i] { sftToolbar_Click(i); });
   mnuFilePopup.Click.Connect([this](int index) { mnuFilePopup_Click(index); });
   mnuViewPopup.Click.Connect([this](int index) { mnuViewPopup_Click(index); });
   mnuToolsPopup.Click.Connect([this](int index) { mnuToolsPopup_Click(index); });
@@ -169,12 +108,7 @@ void FMain::SetHelpContextIDs() {
   tvwMain.SetWhatsThisHelpID(kHelpDayTree);
   lvwDaily.SetWhatsThisHelpID(kHelpDailyList);
   lvwFavorites.SetWhatsThisHelpID(kHelpFavoritesList);
-  static constexpr std::array<int, kToolbarButtons> kIds{
-      kHelpDailyViewButton,     kHelpFavoritesViewButton,  0,
-      kHelpExploreFolderButton, kHelpOpenFolderButton,     0,
-      kHelpLargeIconViewButton, kHelpSmallIconViewButton,  kHelpListViewButton,
-      kHelpDetailViewButton,    kHelpMainWindowHelpButton, 0};
-  for (std::size_t i = 0; i < sftToolbar.size(); ++i) sftToolbar[i].SetWhatsThisHelpID(kIds[i]);
+  for (const ToolbarRow& row : kToolbarRows) sftToolbar[row.button].SetWhatsThisHelpID(row.help);
 }
 
 void FMain::Welcome() {

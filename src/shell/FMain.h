@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -11,28 +10,19 @@
 #include "app/CWaitCursor.h"
 #include "base/Held.h"
 #include "capture/FiledShortcuts.h"
-#include "controls/Calendar.h"
-#include "controls/Form.h"
-#include "controls/ImageList.h"
-#include "controls/ListView.h"
-#include "controls/Menu.h"
-#include "controls/SimpleControls.h"
-#include "controls/TreeView.h"
 #include "repository/CRepository.h"
 #include "resources/StringTable.h"
-#include "shell/MResourceConstants.h"
+#include "shell/FMainControls.h"
 #include "views/CCalendar.h"
 #include "views/CDaily.h"
 #include "views/CFavorites.h"
 
 namespace dayvane {
 
-class FOptions;
-
-/// The program's only main window: its controls and its procedures. The procedures of capture and of the views lie in
-/// the rooms of their concern (capture/FMainCapture.cpp, views/FMain*.cpp); what can be said without a window is a
-/// class or function of its room. A desktop presents the controls and calls their events.
-class FMain {
+/// The program's only main window: the procedures behind its controls. Those of capture and of the views lie in the
+/// rooms of their concern (capture/FMainCapture.cpp, views/FMain*.cpp); what can be said without a window is a class or
+/// function of its room.
+class FMain : public FMainControls {
  public:
   static constexpr const char* kName = "FMain";
 
@@ -40,8 +30,6 @@ class FMain {
 
   /// Both must outlive the window.
   FMain(Application& application, CRepository& repository);
-  FMain(const FMain&) = delete;
-  FMain& operator=(const FMain&) = delete;
   ~FMain();
 
   /// The load handler: builds the whole working state and starts the capture timer. `splashDone` is called when the
@@ -93,44 +81,7 @@ class FMain {
 
   CFavorites* Favorites() const { return m_oFavorites.get(); }
 
-  controls::Signal<FOptions&> OptionsLoaded;  ///< for presenters: the options dialog is shown next
-
-  // The window and its controls.
-  controls::Form form;
-  controls::Timer tmrMain;
-  controls::SystemTray tryMain;
-  controls::StatusBar sbrMain;
-  controls::PictureBox picDaily;      ///< pane of calendar, tree and list
-  controls::PictureBox picFavorites;  ///< pane of the favorites
-  controls::TreeView tvwMain;
-  controls::Calendar calMain;
-  controls::ListView lvwDaily;
-  controls::ListView lvwFavorites;
-  controls::ImageList imlMain;   ///< one picture per level of the tree
-  controls::ImageList imlLarge;  ///< large icons of the Daily list; image 1 is the default document
-  controls::ImageList imlSmall;
-  controls::ImageList imlFavoritesLarge;
-  controls::ImageList imlFavoritesSmall;
-  std::array<controls::PictureBox, 4> picMain;  ///< element 3 is the toolbar strip
-  std::array<controls::Line, 2> linToolbar;     ///< along the toolbar strip
-  std::array<controls::Button, kToolbarButtons> sftToolbar;
-
-  // Menus. A submenu stands before the menu that it belongs to.
-  controls::Menu mnuFilePopup;
-  controls::Menu mnuViewArrangePopup;
-  controls::Menu mnuViewPopup;
-  controls::Menu mnuToolsPopup;
-  controls::Menu mnuHelpPopup;
-  controls::Menu mnuTreeViewPopup;
-  controls::Menu mnuSysTrayPopup;
-  controls::Menu mnuArrangeViewPopup;
-  controls::Menu mnuArrangeIconsPopup;
-  controls::Menu mnuListViewPopup;
-
  private:
-  // Building the window.
-  void BuildLists();
-  void BuildToolbar();
   void ConnectControls();
   void ConnectViews();
   void SetHelpContextIDs();
@@ -160,7 +111,7 @@ class FMain {
   void m_oDaily_ListViewItemClick();
   void m_oDaily_ListViewPopupMenu(double x, double y);
   void tvwMain_MouseUp(int button, double x, double y);
-  void picMain_Resize(int index);
+  void picMain_Resize(std::size_t index);
   void tryMain_MouseUp(int button);
   void mnuFilePopup_Click(int index);
   void mnuViewPopup_Click(int index);
@@ -169,7 +120,7 @@ class FMain {
   void mnuTreeViewPopup_Click(int index);
   void mnuSysTrayPopup_Click(int index);
   void mnuListViewPopup_Click(int index);
-  void sftToolbar_Click(int index);
+  void sftToolbar_Click(std::size_t index);
 
   Date LatestDay() const;
   void Exit();

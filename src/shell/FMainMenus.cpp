@@ -2,36 +2,25 @@
 
 #include "app/IgnoreErrors.h"
 #include "app/ReportErrors.h"
+#include "controls/Keys.h"
 #include "controls/ListView.h"
+#include "resources/MHelpConstants.h"
 #include "shell/FMain.h"
-#include "shell/MHelpConstants.h"
 
 namespace dayvane {
-
-namespace {
-
-// Indexes that more than one procedure knows.
-constexpr int kLeftButton = 1;
-constexpr int kRightButton = 2;
-constexpr int kTrayShow = 0;
-constexpr int kTrayHide = 1;
-constexpr int kFirstStyleItem = 4;  ///< of the View menu
-constexpr int kFirstStyleButton = 6;
-
-}  // namespace
 
 void FMain::mnuFilePopup_Click(int index) {
   ReportErrors(m_application, kHidingSuspendingResuming, kName, "mnuFilePopup_Click", [&] {
     switch (index) {
-      case 0:
+      case kFileSuspend:
         return SetActive(false);
-      case 1:
+      case kFileResume:
         SetActive(true);
         return RefreshStatusBar();
       // The tray menu's Show and Hide are not swapped on this road; they are only by SetVisible.
-      case 2:
+      case kFileHide:
         return form.SetVisible(false);
-      case 4:
+      case kFileExit:
         return Exit();
       default:
         return;
@@ -42,18 +31,18 @@ void FMain::mnuFilePopup_Click(int index) {
 void FMain::mnuViewPopup_Click(int index) {
   IgnoreErrors([&] {
     switch (index) {
-      case 0:
+      case kViewDaily:
         SetActiveView(kDailyView);
         return RefreshStatusBar();
-      case 1:
+      case kViewFavorites:
         SetActiveView(kFavoritesView);
         return RefreshStatusBar();
-      case 4:
-      case 5:
-      case 6:
-      case 7:
-        return SetListView(index - kFirstStyleItem);
-      case 11:
+      case kViewLargeIcons:
+      case kViewSmallIcons:
+      case kViewList:
+      case kViewDetails:
+        return SetListView(index - kViewLargeIcons);
+      case kViewOptions:
         return SetOptions();
       default:
         return;
@@ -62,15 +51,15 @@ void FMain::mnuViewPopup_Click(int index) {
 }
 
 void FMain::mnuToolsPopup_Click(int index) {
-  const StringId phrase = index == 5 ? kRebuildingFavorites : kExploringFolder;
+  const StringId phrase = index == kToolsRebuildFavorites ? kRebuildingFavorites : kExploringFolder;
   ReportErrors(m_application, phrase, kName, "mnuToolsPopup_Click", [&] {
     Assert(m_oDaily != nullptr, ".mnuToolsPopup_Click: Daily object is nothing");
     Assert(m_oFavorites != nullptr, ".mnuToolsPopup_Click: Favorites object is nothing");
-    if (index == 0) return Find();
-    if (index != 2 && index != 3 && index != 5) return;
+    if (index == kToolsFind) return Find();
+    if (index != kToolsExplore && index != kToolsOpenFolder && index != kToolsRebuildFavorites) return;
     auto waitCursor = ShowWait();
-    if (index == 2) return m_oDaily->Explore();
-    if (index == 3) return m_oDaily->OpenFolder();
+    if (index == kToolsExplore) return m_oDaily->Explore();
+    if (index == kToolsOpenFolder) return m_oDaily->OpenFolder();
     m_oFavorites->RebuildFavorites();
     m_oFavorites->Save();
     RefreshFavorites();
@@ -81,11 +70,11 @@ void FMain::mnuToolsPopup_Click(int index) {
 void FMain::mnuHelpPopup_Click(int index) {
   IgnoreErrors([&] {
     switch (index) {
-      case 0:
+      case kHelpTopics:
         return DisplayHelp(kHelpContents);
-      case 2:
+      case kHelpKorvathOnline:
         return DisplayKorvathOnline();
-      case 4:
+      case kHelpAbout:
         return DisplayAboutBox();
       default:
         return;
@@ -94,7 +83,7 @@ void FMain::mnuHelpPopup_Click(int index) {
 }
 
 void FMain::mnuTreeViewPopup_Click(int index) {
-  if (index != 0) return;
+  if (index != kTreeViewPurge) return;
   ReportErrors(m_application, kPurgingDay, kName, "mnuTreeViewPopup_Click", [&] {
     Assert(m_oDaily != nullptr, ".mnuTreeViewPopup_Click: Daily object is nothing");
     auto waitCursor = ShowWait();
@@ -110,14 +99,14 @@ void FMain::mnuSysTrayPopup_Click(int index) {
         return SetVisible(true);
       case kTrayHide:
         return SetVisible(false);
-      case 2:
+      case kTraySuspend:
         return SetActive(false);
-      case 3:
+      case kTrayResume:
         SetActive(true);
         return RefreshStatusBar();
-      case 5:
+      case kTrayAbout:
         return DisplayAboutBox();
-      case 7:
+      case kTrayExit:
         return Exit();
       default:
         return;
@@ -126,7 +115,7 @@ void FMain::mnuSysTrayPopup_Click(int index) {
 }
 
 void FMain::mnuListViewPopup_Click(int index) {
-  if (index != 0) return;
+  if (index != kListViewOpen) return;
   ReportErrors(m_application, kOpeningDocument, kName, "mnuListViewPopup_Click", [&] {
     Assert(m_oDaily != nullptr, ".mnuListViewPopup_Click: Daily object is nothing");
     auto waitCursor = ShowWait();
@@ -135,29 +124,29 @@ void FMain::mnuListViewPopup_Click(int index) {
   });
 }
 
-void FMain::sftToolbar_Click(int index) {
+void FMain::sftToolbar_Click(std::size_t index) {
   IgnoreErrors([&] {
     switch (index) {
-      case 0:
+      case kDailyButton:
         SetActiveView(kDailyView);
         return RefreshStatusBar();
-      case 1:
+      case kFavoritesButton:
         SetActiveView(kFavoritesView);
         return RefreshStatusBar();
-      case 3:
+      case kExploreButton:
         return Explore();
-      case 4:
+      case kOpenFolderButton:
         return OpenFolder();
-      case 5:
+      case kFindButton:
         return Find();
-      case 6:
-      case 7:
-      case 8:
-      case 9:
-        return SetListView(index - kFirstStyleButton);
-      case 10:
+      case kLargeIconsButton:
+      case kSmallIconsButton:
+      case kListButton:
+      case kDetailsButton:
+        return SetListView(static_cast<int>(index - kLargeIconsButton));
+      case kHelpButton:
         return DisplayHelp(kHelpMainWindow);
-      case 11:
+      case kWhatsThisButton:
         return form.WhatsThisMode();
       default:
         return;
@@ -169,8 +158,8 @@ void FMain::tryMain_MouseUp(int button) {
   ReportErrors(m_application, kHidingShowingSuspendingResuming, kName, "tryMain_MouseUp", [&] {
     auto& windowing = m_application.desktop.windowing;
     windowing.SetForegroundWindow(form);
-    if (button == kLeftButton) SetVisible(!form.Visible());
-    if (button == kRightButton)
+    if (button == controls::kLeftButton) SetVisible(!form.Visible());
+    if (button == controls::kRightButton)
       windowing.PopupMenuAtMouse(form, mnuSysTrayPopup, form.Visible() ? kTrayHide : kTrayShow);
     // Without a message after it the menu would stay open when the user clicks elsewhere.
     windowing.PostMessage(form, platform::kWmUser);

@@ -58,8 +58,7 @@ void FMain::Form_Resize() {
   });
 }
 
-void FMain::picMain_Resize(int index) {
-  constexpr int kToolbarStrip = 3;
+void FMain::picMain_Resize(std::size_t index) {
   if (index != kToolbarStrip) return;
   ReportErrors(m_application, kResizing, kName, "picMain_Resize", [this] {
     for (controls::Line& line : linToolbar) line.SetX2(picMain[kToolbarStrip].Width());
@@ -129,8 +128,8 @@ void FMain::RestoreViews() {
 
 void FMain::SetVisible(bool visible) {
   form.SetVisible(visible);
-  mnuSysTrayPopup[0].SetVisible(!visible);
-  mnuSysTrayPopup[1].SetVisible(visible);
+  mnuSysTrayPopup[kTrayShow].SetVisible(!visible);
+  mnuSysTrayPopup[kTrayHide].SetVisible(visible);
 }
 
 void FMain::SetActive(bool active) {
@@ -146,10 +145,10 @@ void FMain::SetActive(bool active) {
 }
 
 void FMain::ShowSuspendOrResume(bool active) const {
-  mnuFilePopup[0].SetVisible(active);
-  mnuFilePopup[1].SetVisible(!active);
-  mnuSysTrayPopup[2].SetVisible(active);
-  mnuSysTrayPopup[3].SetVisible(!active);
+  mnuFilePopup[kFileSuspend].SetVisible(active);
+  mnuFilePopup[kFileResume].SetVisible(!active);
+  mnuSysTrayPopup[kTraySuspend].SetVisible(active);
+  mnuSysTrayPopup[kTrayResume].SetVisible(!active);
 }
 
 void FMain::SetActiveView(int view) {
@@ -164,30 +163,28 @@ void FMain::SetActiveView(int view) {
       m_oFavorites->SetVisible(!daily);
       FollowSelection();
     }
-    mnuViewPopup[0].SetChecked(view == kDailyView);
-    mnuViewPopup[1].SetChecked(view == kFavoritesView);
-    sftToolbar[0].SetEnabled(view != kDailyView);
-    sftToolbar[1].SetEnabled(view != kFavoritesView);
+    mnuViewPopup[kViewDaily].SetChecked(view == kDailyView);
+    mnuViewPopup[kViewFavorites].SetChecked(view == kFavoritesView);
+    sftToolbar[kDailyButton].SetEnabled(view != kDailyView);
+    sftToolbar[kFavoritesButton].SetEnabled(view != kFavoritesView);
   });
 }
 
 void FMain::SetListView(int style) {
   ReportErrors(m_application, kSettingDocumentView, kName, "SetListView", [&] {
-    constexpr std::size_t kFirstButton = 6;
-    constexpr int kFirstItem = 4;
     m_oDaily->SetView(static_cast<ListStyle>(style));
     m_oFavorites->SetView(static_cast<ListStyle>(style));
     for (int i = 0; i < kStyles; ++i) {
-      mnuViewPopup[kFirstItem + i].SetChecked(i == style);
+      mnuViewPopup[kViewLargeIcons + i].SetChecked(i == style);
       mnuArrangeViewPopup[i].SetChecked(i == style);
-      sftToolbar[kFirstButton + static_cast<std::size_t>(i)].SetEnabled(i != style);
+      sftToolbar[kLargeIconsButton + static_cast<std::size_t>(i)].SetEnabled(i != style);
     }
   });
 }
 
 void FMain::SetExploreOpen(bool enabled) {
-  for (const int item : {2, 3}) mnuToolsPopup[item].SetEnabled(enabled);
-  for (const std::size_t button : {3U, 4U}) sftToolbar[button].SetEnabled(enabled);
+  for (const int item : {kToolsExplore, kToolsOpenFolder}) mnuToolsPopup[item].SetEnabled(enabled);
+  for (const auto button : {kExploreButton, kOpenFolderButton}) sftToolbar[button].SetEnabled(enabled);
 }
 
 void FMain::FollowSelection() {
@@ -226,14 +223,13 @@ void FMain::ChangeTimerInterval() {
 
 void FMain::ArrangeIcons(int index) {
   ReportErrors(m_application, kArrangingIcons, kName, "ArrangeIcons", [&] {
-    constexpr int kAutoArrange = 3;
     int order = index;
-    if (index == kAutoArrange) {
-      const bool checked = mnuViewArrangePopup[kAutoArrange].Checked();
+    if (index == kArrangeAuto) {
+      const bool checked = mnuViewArrangePopup[kArrangeAuto].Checked();
       order = checked ? 2 : 3;
-      mnuViewArrangePopup[kAutoArrange].SetChecked(!checked);
-      mnuArrangeIconsPopup[kAutoArrange].SetChecked(!checked);
-    } else if (index != 0 && index != 1) {
+      mnuViewArrangePopup[kArrangeAuto].SetChecked(!checked);
+      mnuArrangeIconsPopup[kArrangeAuto].SetChecked(!checked);
+    } else if (index != kArrangeByName && index != kArrangeByType) {
       return;
     }
     m_oDaily->ArrangeIcons(order);

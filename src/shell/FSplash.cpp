@@ -1,6 +1,6 @@
 #include "shell/FSplash.h"
 
-#include "shell/MResourceConstants.h"
+#include "resources/MResourceConstants.h"
 
 namespace dayvane {
 

@@ -23,7 +23,8 @@ struct Program {
 /// splash window is unloaded before Main returns.
 struct Presentation {
   std::function<void(FSplash& splash)> splash = [](FSplash&) {};
-  std::function<void(FMain& mainWindow, Application& application)> mainWindow = [](FMain&, Application&) {};
+  std::function<void(FMainControls& mainWindow, Application& application)> mainWindow = [](FMainControls&,
+                                                                                           Application&) {};
 };
 
 /// The entry point: refuses to start beside another instance, shows the splash window, creates the process-wide objects

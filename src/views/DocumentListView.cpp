@@ -4,6 +4,7 @@
 
 #include "app/ReportErrors.h"
 #include "base/Required.h"
+#include "controls/Keys.h"
 
 namespace dayvane {
 
@@ -14,10 +15,6 @@ using controls::SortOrder;
 namespace {
 
 // Key codes and modifier bits of the classic key events.
-constexpr int kEnterKey = 13;
-constexpr int kF10Key = 121;
-constexpr int kAltModifier = 4;
-constexpr int kRightButton = 2;
 
 }  // namespace
 
@@ -116,15 +113,15 @@ void DocumentListView::ListView_KeyUp(int keyCode, int modifiers) {
   const controls::PictureBox& container = Container("ListView_KeyUp");
   controls::ListItem* document = SelectedDocument();
   if (document == nullptr) return;
-  if (keyCode == kEnterKey) return DblClick.Raise(*document);
+  if (keyCode == controls::kKeyReturn) return DblClick.Raise(*document);
   // The Alt bit, not Shift, is what has always been tested.
-  if (keyCode == kF10Key && (modifiers & kAltModifier) != 0)
+  if (keyCode == controls::kKeyF10 && (modifiers & controls::kAltMask) != 0)
     PopupMenu.Raise(container.Left() + m_listView->SelectedLeft(), container.Top() + m_listView->SelectedTop());
 }
 
 void DocumentListView::ListView_MouseUp(int button, double x, double y) {
   const controls::PictureBox& container = Container("ListView_MouseUp");
-  if (button == kRightButton && SelectedDocument() != nullptr)
+  if (button == controls::kRightButton && SelectedDocument() != nullptr)
     PopupMenu.Raise(container.Left() + x, container.Top() + y);
 }
 

@@ -7,23 +7,18 @@
 #include "base/Text.h"
 #include "capture/CFileInfo.h"
 #include "capture/CShortcut.h"
+#include "controls/Keys.h"
 #include "fs/Dir.h"
 #include "shell/FMain.h"
 #include "views/DailyTree.h"
+#include "views/Keys.h"
 
 namespace dayvane {
 
+using views::KeyOf;
+using views::PathOf;
+
 namespace {
-
-/// Nodes and rows are found by "K" and the full path of what they stand for.
-constexpr const char* kKeyPrefix = "K";
-
-std::string KeyOf(const std::string& path) {
-  return kKeyPrefix + path;
-}
-std::string PathOf(const std::string& key) {
-  return key.substr(1);
-}
 
 /// A flag that is up as long as this lives, also when an error ends that.
 class Raised {
@@ -204,8 +199,7 @@ void FMain::m_oDaily_ListViewPopupMenu(double x, double y) {
 }
 
 void FMain::tvwMain_MouseUp(int button, double x, double y) {
-  constexpr int kRightButton = 2;
-  if (button != kRightButton || tvwMain.SelectedItem() == nullptr) return;
+  if (button != controls::kRightButton || tvwMain.SelectedItem() == nullptr) return;
   // Only a day can be purged. That a node has no children does not make it one: the repository itself may be empty.
   if (!IsDay(*tvwMain.SelectedItem())) return;
   ReportErrors(m_application, kDisplayingContextMenu, kName, "tvwMain_MouseUp", [&] {

@@ -9,25 +9,18 @@
 #include "capture/CShortcut.h"
 #include "shell/FMain.h"
 #include "views/FavoritesTable.h"
+#include "views/Keys.h"
 #include "views/NewestLink.h"
 
 namespace dayvane {
 
-namespace {
+using views::PathOf;
 
-// Results of the shell's opening (ShellExecute).
-constexpr int kSeFileNotFound = 2;
-constexpr int kSePathNotFound = 3;
-constexpr int kSeNoAssociation = 31;
+namespace {
 
 /// The results for which the user is told of an operating system error.
 bool IsSystemError(int result) {
   return result == 0 || result == 11 || (result >= 26 && result <= 30);
-}
-
-/// The path of the shortcut that a row with this key stands for.
-std::string PathOf(const std::string& key) {
-  return key.substr(1);
 }
 
 }  // namespace
@@ -43,12 +36,12 @@ void FMain::OpenDocument(const controls::ListItem* item) {
     const ShellServices& shell = m_application.shellServices;
     const int result = shortcut.OpenDocument();
     bool remove = false;
-    if (result == kSeFileNotFound)
+    if (result == platform::kSeFileNotFound)
       remove = AskToRemove(kTheDocument, shell.DisplayPath(shortcut.TargetFile()), kTheDocumentWasNotFound);
-    else if (result == kSePathNotFound)
+    else if (result == platform::kSePathNotFound)
       remove =
           AskToRemove(kThePath, shell.DisplayPath(shell.SplitPath(shortcut.TargetFile()).folder), kThePathWasNotFound);
-    else if (result == kSeNoAssociation)
+    else if (result == platform::kSeNoAssociation)
       Tell(ResourceString(kDocumentsOfThisType) + "\r\n" + ResourceString(kAreNotAssociated));
     else if (IsSystemError(result))
       Tell(ResourceString(kOperatingSystemError));
@@ -125,7 +118,7 @@ void FMain::RemoveLink(const controls::ListItem* item) {
 void FMain::PurgeDay(const controls::TreeNode* node) {
   Assert(node != nullptr, ".PurgeDay: Node is nothing");
   Assert(m_oFavorites != nullptr, ".PurgeDay: Favorites object is nothing");
-  m_repository.PurgeDay(Required(node).key.substr(1));
+  m_repository.PurgeDay(PathOf(Required(node).key));
   RefreshDaily();
   RefreshCalendar();
   m_oFavorites->RebuildFavorites();

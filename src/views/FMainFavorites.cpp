@@ -4,6 +4,7 @@
 #include "base/Text.h"
 #include "shell/FMain.h"
 #include "views/FavoritesTable.h"
+#include "views/Keys.h"
 
 namespace dayvane {
 
@@ -41,8 +42,8 @@ void FMain::RefreshFavorites() {
     const std::string shortcutFile = favorites::TextOf(record[favorites::kShortcutFile]);
     const std::string name = favorites::TextOf(record[favorites::kTargetFileName]);
     // A damaged data file may hold one shortcut twice; the first record is the one that counts go to.
-    if (lvwFavorites.Find("K" + shortcutFile) != nullptr) continue;
-    auto& item = lvwFavorites.Add("K" + shortcutFile, name, FavoritesImageListIndex(shortcutFile, name));
+    if (lvwFavorites.Find(views::KeyOf(shortcutFile)) != nullptr) continue;
+    auto& item = lvwFavorites.Add(views::KeyOf(shortcutFile), name, FavoritesImageListIndex(shortcutFile, name));
     item.subItems = {
         favorites::TextOf(record[favorites::kType]),
         m_application.shellServices.DisplayPath(text::ToLower(favorites::TextOf(record[favorites::kFolder]))),

@@ -210,5 +210,46 @@ TEST(Date, DaysCountAcrossMonthsAndKeepTheTime) {
   EXPECT_EQ(Date::Of(2026, 3, 1, 10, 0).AddDays(-1), Date::Of(2026, 2, 28, 10, 0));
 }
 
+TEST(UsableConventions, MonthNamesThatCanNameNoFolderAreTheEnglishOnes) {
+  for (const char* name : {"", ".mai", "a/b", "a\\b", "\"mai\"", " mai"}) {
+    platform::DateConventions conventions;
+    conventions.monthNames[4] = name;
+    EXPECT_EQ(Usable(conventions).monthNames, kEnglish.monthNames) << name;
+  }
+}
+
+TEST(UsableConventions, MonthsOfOneNameAreTheEnglishOnes) {
+  platform::DateConventions conventions;
+  conventions.monthNames[5] = "MAY";
+  EXPECT_EQ(Usable(conventions).monthNames, kEnglish.monthNames);
+}
+
+TEST(UsableConventions, SoundConventionsStayAsTheyAre) {
+  platform::DateConventions conventions;
+  conventions.monthNames[0] = "J\xC3\xA4nner";
+  conventions.shortDate = "dd.mm.yy";
+  conventions.shortTime = "h:nn AM/PM";
+  const auto usable = Usable(conventions);
+  EXPECT_EQ(usable.monthNames, conventions.monthNames);
+  EXPECT_EQ(usable.shortDate, conventions.shortDate);
+  EXPECT_EQ(usable.shortTime, conventions.shortTime);
+}
+
+TEST(UsableConventions, AShortDateThatIsNotReadBackIsInternational) {
+  for (const char* pattern : {"", "dd.mm.", "d", "m/m/yyyy", "d/m/d"}) {
+    platform::DateConventions conventions;
+    conventions.shortDate = pattern;
+    EXPECT_EQ(Usable(conventions).shortDate, "yyyy-mm-dd") << pattern;
+  }
+}
+
+TEST(UsableConventions, AShortTimeNeedsHoursAndMinutes) {
+  for (const char* pattern : {"", "h", "nn", "AM/PM"}) {
+    platform::DateConventions conventions;
+    conventions.shortTime = pattern;
+    EXPECT_EQ(Usable(conventions).shortTime, "hh:nn") << pattern;
+  }
+}
+
 }  // namespace
 }  // namespace dayvane

@@ -12,8 +12,8 @@ namespace {
 
 using ::testing::IsEmpty;
 
-constexpr int kShellFloor = 7;
-constexpr int kDesktopFloor = 8;
+constexpr int kShellFloor = 8;
+constexpr int kDesktopFloor = 9;
 
 /// The rooms of src/ from the bottom up. What the program asks of a desktop stands low, the desktops stand on top.
 const std::map<std::string, int> kFloors{
@@ -21,12 +21,14 @@ const std::map<std::string, int> kFloors{
     {"resources", 0},
     {"platform", 1},
     {"controls", 2},
-    {"app", 3},
-    {"fs", 4},
-    {"repository", 5},
-    {"settings", 5},
-    {"views", 6},
-    {"capture", 6},
+    {"help", 3},
+    {"links", 3},
+    {"app", 4},
+    {"fs", 5},
+    {"repository", 6},
+    {"settings", 6},
+    {"views", 7},
+    {"capture", 7},
     {"shell", kShellFloor},
     {"linux", kDesktopFloor},
     {"windows", kDesktopFloor},

@@ -5,7 +5,7 @@
 #include <sys/stat.h>
 
 #include "base/Error.h"
-#include "linux/links/ShellLinkFormat.h"
+#include "links/ShellLinkFormat.h"
 #include "tests/support/FullDisk.h"
 #include "tests/support/LocalZone.h"
 #include "tests/support/MainWindow.h"
@@ -344,10 +344,10 @@ TEST_F(CaptureTest, AfterAFailedPollResumeIsOfferedInBothMenus) {
   Load();
   desktop.shell.refresh = [] { throw Error(kDeviceIoError, "No list"); };
   Tick();
-  EXPECT_FALSE(window.mnuFilePopup[0].Visible());
-  EXPECT_TRUE(window.mnuFilePopup[1].Visible());
-  EXPECT_FALSE(window.mnuSysTrayPopup[2].Visible());
-  EXPECT_TRUE(window.mnuSysTrayPopup[3].Visible());
+  EXPECT_FALSE(window.mnuFilePopup[kFileSuspend].Visible());
+  EXPECT_TRUE(window.mnuFilePopup[kFileResume].Visible());
+  EXPECT_FALSE(window.mnuSysTrayPopup[kTraySuspend].Visible());
+  EXPECT_TRUE(window.mnuSysTrayPopup[kTrayResume].Visible());
 }
 
 TEST_F(CaptureTest, AResumedPollThatFailsStillOffersResume) {
@@ -355,11 +355,11 @@ TEST_F(CaptureTest, AResumedPollThatFailsStillOffersResume) {
   window.SetActive(false);
   desktop.shell.refresh = [] { throw Error(kDeviceIoError, "No list"); };
   window.SetActive(true);
-  EXPECT_TRUE(window.mnuFilePopup[1].Visible());
+  EXPECT_TRUE(window.mnuFilePopup[kFileResume].Visible());
   desktop.shell.refresh = [] {};
   window.SetActive(true);
-  EXPECT_FALSE(window.mnuFilePopup[1].Visible());
-  EXPECT_TRUE(window.mnuFilePopup[0].Visible());
+  EXPECT_FALSE(window.mnuFilePopup[kFileResume].Visible());
+  EXPECT_TRUE(window.mnuFilePopup[kFileSuspend].Visible());
 }
 
 TEST_F(CaptureTest, WhatAPollFiledBeforeItFailedIsCountedAndSaved) {

@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "capture/FiledShortcuts.h"
-#include "linux/files/PosixFileSystem.h"
+#include "linux/LinuxFileSystem.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace dayvane {
@@ -19,7 +19,7 @@ class FiledShortcutsTest : public ::testing::Test {
   std::string Path(const std::string& name) const { return m_folder.Path() + "\\" + name; }
 
   testing::TemporaryFolder m_folder;
-  files::PosixFileSystem m_files;
+  files::LinuxFileSystem m_files;
   FiledShortcuts m_filed{m_files};
 };
 

@@ -236,7 +236,7 @@ class Work {
 
   void RebuildFavorites() {
     m_done = "rebuild";
-    Window().mnuToolsPopup.Choose(5);
+    Window().mnuToolsPopup.Choose(kToolsRebuildFavorites);
     m_rules.Rebuild();
     m_rules.Save();
   }

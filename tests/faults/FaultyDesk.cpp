@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <filesystem>
 
+#include "links/ShellLinkFormat.h"
 #include "linux/files/NativePath.h"
-#include "linux/links/ShellLinkFormat.h"
 #include "linux/recent/Moment.h"
 #include "linux/recent/RecentState.h"
 #include "linux/registry/SettingsText.h"
@@ -116,7 +116,7 @@ std::string FaultyDesk::ComplaintAbout(const std::string& path) const {
   const std::string name = fs::path(path).filename();
   const std::string text = ReadFile(path);
   // What could not be removed; the next write in the folder does it.
-  if (name == files::PosixFileSystem::kUnfinishedName) return "";
+  if (name == files::LinuxFileSystem::kUnfinishedName) return "";
   if (path == DocumentPath(name)) return text == Contents(name) ? "" : "a changed document";
   // One that could not be read is kept beside the new one.
   if (name == "Favorites.dat" || name.starts_with("Favorites.damaged"))
@@ -138,7 +138,7 @@ std::vector<std::string> FaultyDesk::Losses() const {
                        std::to_string(days.size()));
     for (const auto& [folder, moment] : days) {
       const std::string filed = m_desktop.NativeFolder() + "/" + folder + "/" + document + ".lnk";
-      files::PosixFileSystem disk;
+      files::LinuxFileSystem disk;
       const auto status = disk.Status(files::FromNative(filed).value());
       if (!status || Format(status->written.local, "yyyy-mm-dd hh:nn:ss", m_desktop.dates) != LocalTime(moment))
         losses.push_back("not filed as of " + moment + ": " + filed);
@@ -150,7 +150,7 @@ std::vector<std::string> FaultyDesk::Losses() const {
 /// The shell of the tests, with a Recent folder that the program keeps from the desktop's list.
 class Session::Shell : public testing::TestShell {
  public:
-  Shell(files::PosixFileSystem& files, const std::string& folder, recent::RecentFolder& recent)
+  Shell(files::LinuxFileSystem& files, const std::string& folder, recent::RecentFolder& recent)
       : TestShell(files, folder), m_recent(recent) {}
 
   void RefreshRecentFolder() override { m_recent.Refresh(); }

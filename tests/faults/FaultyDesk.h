@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
+#include "linux/LinuxRegistry.h"
 #include "linux/recent/RecentFolder.h"
-#include "linux/registry/LinuxRegistry.h"
 #include "shell/MDayvaneMain.h"
 #include "tests/support/LocalZone.h"
 #include "tests/support/TestDesktop.h"

@@ -5,7 +5,7 @@
 
 #include "base/Error.h"
 #include "fs/DirectoryWalker.h"
-#include "linux/files/PosixFileSystem.h"
+#include "linux/LinuxFileSystem.h"
 #include "tests/support/TemporaryFolder.h"
 #include "tests/support/Unprivileged.h"
 
@@ -28,7 +28,7 @@ class DirectoryWalkerTest : public ::testing::Test {
   std::string Root() const { return folder.Path() + "\\"; }
 
   testing::TemporaryFolder folder;
-  files::PosixFileSystem files;
+  files::LinuxFileSystem files;
   DirectoryWalker walker{files};
   std::vector<std::string> found;
   std::size_t cancelAfter = 0;

@@ -14,14 +14,14 @@ namespace dayvane::fuzzing {
 namespace {
 
 /// A disk whose data file is a text in memory, and whose logs are nowhere.
-class DataFileInMemory : public files::PosixFileSystem {
+class DataFileInMemory : public files::LinuxFileSystem {
  public:
   std::optional<platform::FileStatus> Status(const std::string& path) override {
-    if (!IsDataFile(path)) return PosixFileSystem::Status(path);
+    if (!IsDataFile(path)) return LinuxFileSystem::Status(path);
     return platform::FileStatus{platform::EntryKind::File, text.size(), {}};
   }
   platform::FileContents Read(const std::string& path, std::size_t limit) override {
-    return IsDataFile(path) ? platform::FileContents{text, {}} : PosixFileSystem::Read(path, limit);
+    return IsDataFile(path) ? platform::FileContents{text, {}} : LinuxFileSystem::Read(path, limit);
   }
   void Replace(const std::string& path, std::string_view bytes) override {
     if (IsDataFile(path)) text = bytes;

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <string>
 
-#include "linux/files/PosixFileSystem.h"
+#include "linux/LinuxFileSystem.h"
 #include "tests/fuzz/Fuzzing.h"
 #include "views/FavoritesJournal.h"
 
@@ -14,7 +14,7 @@ namespace {
 using Paths = std::vector<std::string>;
 
 /// A disk with one file, in memory.
-class OneFile : public files::PosixFileSystem {
+class OneFile : public files::LinuxFileSystem {
  public:
   std::optional<platform::FileStatus> Status(const std::string&) override {
     return platform::FileStatus{platform::EntryKind::File, text.size(), {}};

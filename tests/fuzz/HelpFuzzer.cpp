@@ -3,7 +3,7 @@
 #include <string>
 
 #include "base/Error.h"
-#include "linux/help/HelpFile.h"
+#include "help/HelpFile.h"
 #include "tests/fuzz/Fuzzing.h"
 
 namespace dayvane::fuzzing {
@@ -12,19 +12,19 @@ namespace {
 
 using help::HelpFile;
 
-QByteArray Record(const QByteArray& kind, const QByteArray& payload, const QByteArray& rest) {
-  return kind + ' ' + QByteArray::number(payload.size()) + rest + '\n' + payload + '\n';
+std::string Record(const std::string& kind, const std::string& payload, const std::string& rest) {
+  return kind + ' ' + std::to_string(payload.size()) + rest + '\n' + payload + '\n';
 }
 
 /// Topics and contents as a help file again, without the numbers of the topics' contexts.
-QByteArray Written(const HelpFile& file) {
-  QByteArray bytes = "Dayvane help 1\n";
+std::string Written(const HelpFile& file) {
+  std::string bytes = "Dayvane help 1\n";
   for (const help::Topic& topic : file.Topics())
-    bytes += Record("topic", topic.title.toUtf8() + '\n' + topic.body.toUtf8(), ' ' + topic.name.toUtf8());
-  QByteArrayList lines;
+    bytes += Record("topic", topic.title + '\n' + topic.body, ' ' + topic.name);
+  std::string lines;
   for (const help::ContentsEntry& entry : file.Contents())
-    lines.push_back(QByteArray(entry.depth, '\t') + entry.topic.toUtf8());
-  return bytes + Record("contents", lines.join('\n'), {}) + "end\n";
+    lines += (lines.empty() ? "" : "\n") + std::string(static_cast<std::size_t>(entry.depth), '\t') + entry.topic;
+  return bytes + Record("contents", lines, {}) + "end\n";
 }
 
 bool IsSame(const HelpFile& a, const HelpFile& b) {
@@ -52,9 +52,9 @@ void CheckContents(const HelpFile& file) {
 
 void Try(std::string_view bytes) {
   try {
-    const HelpFile file = HelpFile::Parse(QByteArray(bytes.data(), static_cast<qsizetype>(bytes.size())));
+    const HelpFile file = HelpFile::Parse(bytes);
     CheckContents(file);
-    Require(file.Search(QStringLiteral("a b")).size() <= file.Topics().size(), "no topic is found twice");
+    Require(file.Search("a b").size() <= file.Topics().size(), "no topic is found twice");
     Require(IsSame(HelpFile::Parse(Written(file)), file), "topics that are written are read back");
   } catch (const Error& error) {
     const bool isKnown = error.Number() == kInputPastEnd || error.Number() == kInvalidFileFormat;

@@ -1,6 +1,6 @@
 // Bytes of a shortcut: what can be read of them can be written and read again.
 
-#include "linux/links/ShellLinkFormat.h"
+#include "links/ShellLinkFormat.h"
 #include "tests/fuzz/Fuzzing.h"
 
 namespace dayvane::fuzzing {

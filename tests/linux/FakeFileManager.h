@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "linux/GlibHandles.h"
+#include "linux/glib/GlibHandles.h"
 
 namespace dayvane::testing {
 

@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
 #include "base/Text.h"
+#include "linux/LinuxFileSystem.h"
 #include "linux/LinuxShell.h"
-#include "linux/files/PosixFileSystem.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace dayvane {
@@ -20,7 +20,7 @@ class LinuxShellTest : public ::testing::Test {
   std::string Path(const std::string& name) const { return m_folder.Path() + "\\" + name; }
 
   testing::TemporaryFolder m_folder;
-  files::PosixFileSystem m_files;
+  files::LinuxFileSystem m_files;
   LinuxShell m_shell{m_files, m_folder.Native(), [](const std::string&) {}};
 };
 

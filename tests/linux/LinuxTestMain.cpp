@@ -1,6 +1,6 @@
 #include <gmock/gmock.h>
 
-#include "linux/ErrorNet.h"
+#include "linux/glib/ErrorNet.h"
 
 /// Widgets need an application, and a test no screen.
 int main(int argc, char** argv) {

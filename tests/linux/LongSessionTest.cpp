@@ -10,10 +10,10 @@
 #include <malloc.h>
 #include <unistd.h>
 
+#include "linux/LinuxRegistry.h"
 #include "linux/LinuxShell.h"
 #include "linux/LinuxShellIcons.h"
-#include "linux/registry/LinuxRegistry.h"
-#include "linux/widgets/ProgramWindows.h"
+#include "linux/ProgramWindows.h"
 #include "shell/MDayvaneMain.h"
 #include "tests/linux/PrivateDesktop.h"
 #include "tests/support/TestDesktop.h"
@@ -65,7 +65,7 @@ class LongSession : public ::testing::Test {
     WriteList();
     m_program = Main(m_parts, m_folder.Path(), false,
                      {[this](FSplash& splash) { m_windows.Present(splash); },
-                      [this](FMain& mainWindow, Application&) { m_windows.Present(mainWindow); }});
+                      [this](FMainControls& mainWindow, Application&) { m_windows.Present(mainWindow); }});
   }
 
   /// Lives through the seconds up to that one.
@@ -112,7 +112,7 @@ class LongSession : public ::testing::Test {
   const std::chrono::system_clock::time_point m_begin = std::chrono::system_clock::now() - 9h;
   std::array<int, kDocuments> m_opened{};  ///< seconds after the beginning
   int m_second = 0;
-  files::PosixFileSystem m_files;
+  files::LinuxFileSystem m_files;
   LinuxShell m_shell{m_files, m_folder.Native(), [](const std::string&) {}};
   LinuxShellIcons m_icons{m_shell};
   LinuxRegistry m_registry{m_folder / "dayvane.ini", [](const std::string&) {}};

@@ -48,7 +48,7 @@ TEST_F(HandlersTest, AColumnClickOnTheFavoritesThatFailsIsReported) {
 }
 
 TEST_F(HandlersTest, AClickOnADocumentThatFailsIsReported) {
-  window.mnuToolsPopup[2].Changed.Connect(Fail);
+  window.mnuToolsPopup[kToolsExplore].Changed.Connect(Fail);
   ExpectReport("FMain.m_oDaily_ListViewItemClick", "processing a document selection.",
                [this] { window.lvwDaily.Click(Document()); });
 }

@@ -36,7 +36,7 @@ TEST_F(MainHelpTest, AContextOpensItsTopicAndNoneTheContents) {
 
 TEST_F(MainHelpTest, HelpThatCannotBeDisplayedIsReported) {
   desktop.help.noViewer = true;
-  window.mnuHelpPopup.Choose(0);
+  window.mnuHelpPopup.Choose(kHelpTopics);
   EXPECT_THAT(desktop.windowing.Texts(), ElementsAre("An error occurred displaying help."));
   EXPECT_THAT(desktop.LogLines("ErrorLog.txt"),
               ElementsAre("FMain.DisplayHelp\t57\tNo help viewer\tAn error occurred displaying help."));
@@ -50,7 +50,7 @@ TEST_F(MainHelpTest, TheWebSiteIsOpenedFromTheProgramsFolderInANormalWindow) {
 
 TEST_F(MainHelpTest, AWebSiteThatCannotBeLoadedIsReported) {
   desktop.shell.cannotLaunch = true;
-  window.mnuHelpPopup.Choose(2);
+  window.mnuHelpPopup.Choose(kHelpKorvathOnline);
   EXPECT_THAT(desktop.windowing.Texts(), ElementsAre("An error occurred loading a Web page."));
   EXPECT_THAT(desktop.LogLines("ErrorLog.txt"),
               ElementsAre("FMain.DisplayKorvathOnline\t57\tCannot launch\tAn error occurred loading a Web page."));
@@ -67,7 +67,7 @@ TEST_F(MainHelpTest, TheAboutBoxBearsTheProgramsNameItsVersionAndTheLegalNotice)
 
 TEST_F(MainHelpTest, AnAboutBoxThatCannotBeShownIsReported) {
   desktop.windowing.noAbout = true;
-  window.mnuHelpPopup.Choose(4);
+  window.mnuHelpPopup.Choose(kHelpAbout);
   EXPECT_THAT(desktop.windowing.Texts(), ElementsAre("An error occurred displaying the About Box."));
   EXPECT_THAT(desktop.LogLines("ErrorLog.txt"),
               ElementsAre("FMain.DisplayAboutBox\t57\tNo about box\tAn error occurred displaying the About Box."));

@@ -38,7 +38,7 @@ class MenusTest : public ::testing::Test, protected testing::MainWindow {
 
   /// Shows the Favorites view with a document selected that lies in another folder than the day's.
   void ShowFavorite() {
-    window.mnuViewPopup.Choose(1);
+    window.mnuViewPopup.Choose(kViewFavorites);
     window.lvwFavorites.Click(window.lvwFavorites.Add("Kx", "x.odt", 1));
     window.lvwFavorites.SelectedItem()->subItems = {"Text", "z:\\elsewhere"};
   }
@@ -56,7 +56,7 @@ TEST_F(MenusTest, TheViewMenuOffersViewsStylesArrangementAndOptions) {
   EXPECT_THAT(CaptionsOf(window.mnuViewPopup),
               ElementsAre("D&aily", "&Favorites", "D&esktop", "-", "Lar&ge Icons", "S&mall Icons", "&List", "&Details",
                           "-", "Arrange &Icons", "-", "&Options"));
-  EXPECT_EQ(window.mnuViewPopup[9].Submenu(), &window.mnuViewArrangePopup);
+  EXPECT_EQ(window.mnuViewPopup[kViewArrangeIcons].Submenu(), &window.mnuViewArrangePopup);
   EXPECT_THAT(CaptionsOf(window.mnuViewArrangePopup), ElementsAre("by &Name", "by &Type", "-", "&Auto Arrange"));
 }
 
@@ -83,47 +83,48 @@ TEST_F(MenusTest, TheContextMenusOfTreeAndListOfferWhatTheyCanDo) {
   EXPECT_THAT(CaptionsOf(window.mnuTreeViewPopup), ElementsAre("&Purge"));
   EXPECT_EQ(window.mnuListViewPopup.Caption(), "ListView");
   EXPECT_THAT(CaptionsOf(window.mnuListViewPopup), ElementsAre("&Open", "-", "&View", "-", "Arrange &Icons"));
-  EXPECT_EQ(window.mnuListViewPopup[2].Submenu(), &window.mnuArrangeViewPopup);
-  EXPECT_EQ(window.mnuListViewPopup[4].Submenu(), &window.mnuArrangeIconsPopup);
+  EXPECT_EQ(window.mnuListViewPopup[kListViewView].Submenu(), &window.mnuArrangeViewPopup);
+  EXPECT_EQ(window.mnuListViewPopup[kListViewArrangeIcons].Submenu(), &window.mnuArrangeIconsPopup);
   EXPECT_THAT(CaptionsOf(window.mnuArrangeViewPopup), ElementsAre("Lar&ge Icons", "S&mall Icons", "&List", "&Details"));
   EXPECT_THAT(CaptionsOf(window.mnuArrangeIconsPopup), ElementsAre("by &Name", "by &Type", "-", "&Auto Arrange"));
 }
 
 TEST_F(MenusTest, SuspendStopsTheTimerAndShowsItInTheTray) {
-  window.mnuFilePopup.Choose(0);
+  window.mnuFilePopup.Choose(kFileSuspend);
   EXPECT_FALSE(window.tmrMain.Enabled());
   EXPECT_EQ(window.tryMain.Picture(), 104);
 }
 
 TEST_F(MenusTest, ACapturingProgramOffersOnlyToSuspendFromItsStartOn) {
   Load();
-  EXPECT_TRUE(window.mnuFilePopup[0].Visible());
-  EXPECT_FALSE(window.mnuFilePopup[1].Visible());
-  EXPECT_TRUE(window.mnuSysTrayPopup[2].Visible());
-  EXPECT_FALSE(window.mnuSysTrayPopup[3].Visible());
+  EXPECT_TRUE(window.mnuFilePopup[kFileSuspend].Visible());
+  EXPECT_FALSE(window.mnuFilePopup[kFileResume].Visible());
+  EXPECT_TRUE(window.mnuSysTrayPopup[kTraySuspend].Visible());
+  EXPECT_FALSE(window.mnuSysTrayPopup[kTrayResume].Visible());
 }
 
 TEST_F(MenusTest, SuspendAndResumeTakeEachOthersPlaceInBothMenus) {
   const auto visible = [this] {
-    return std::vector<bool>{window.mnuFilePopup[0].Visible(), window.mnuFilePopup[1].Visible(),
-                             window.mnuSysTrayPopup[2].Visible(), window.mnuSysTrayPopup[3].Visible()};
+    return std::vector<bool>{window.mnuFilePopup[kFileSuspend].Visible(), window.mnuFilePopup[kFileResume].Visible(),
+                             window.mnuSysTrayPopup[kTraySuspend].Visible(),
+                             window.mnuSysTrayPopup[kTrayResume].Visible()};
   };
-  window.mnuFilePopup.Choose(0);
+  window.mnuFilePopup.Choose(kFileSuspend);
   EXPECT_THAT(visible(), ElementsAre(false, true, false, true));
-  window.mnuFilePopup.Choose(1);
+  window.mnuFilePopup.Choose(kFileResume);
   EXPECT_THAT(visible(), ElementsAre(true, false, true, false));
-  window.mnuSysTrayPopup.Choose(2);
+  window.mnuSysTrayPopup.Choose(kTraySuspend);
   EXPECT_THAT(visible(), ElementsAre(false, true, false, true));
-  window.mnuSysTrayPopup.Choose(3);
+  window.mnuSysTrayPopup.Choose(kTrayResume);
   EXPECT_THAT(visible(), ElementsAre(true, false, true, false));
 }
 
 TEST_F(MenusTest, WhatIsOpenedWhileSuspendedIsFiledWhenCaptureIsResumed) {
-  window.mnuFilePopup.Choose(0);
+  window.mnuFilePopup.Choose(kFileSuspend);
   Open("Z:\\home\\ana\\c.odt", "2026-11-21 10:00:00");
   Tick();
   EXPECT_EQ(window.lvwDaily.Count(), 2U);
-  window.mnuFilePopup.Choose(1);
+  window.mnuFilePopup.Choose(kFileResume);
   EXPECT_EQ(window.lvwDaily.Count(), 3U);
   EXPECT_EQ(window.sbrMain.Text(), "3 objects");
   EXPECT_TRUE(window.tmrMain.Enabled());
@@ -131,30 +132,30 @@ TEST_F(MenusTest, WhatIsOpenedWhileSuspendedIsFiledWhenCaptureIsResumed) {
 }
 
 TEST_F(MenusTest, ResumeFromTheTrayPollsAtOnceToo) {
-  window.mnuSysTrayPopup.Choose(2);
+  window.mnuSysTrayPopup.Choose(kTraySuspend);
   EXPECT_FALSE(window.tmrMain.Enabled());
   Open("Z:\\home\\ana\\c.odt", "2026-11-21 10:00:00");
-  window.mnuSysTrayPopup.Choose(3);
+  window.mnuSysTrayPopup.Choose(kTrayResume);
   EXPECT_EQ(window.sbrMain.Text(), "3 objects");
   EXPECT_TRUE(window.tmrMain.Enabled());
 }
 
 TEST_F(MenusTest, AResumeWhosePollFailsCanBeChosenAgain) {
-  window.mnuFilePopup.Choose(0);
+  window.mnuFilePopup.Choose(kFileSuspend);
   desktop.shell.refresh = [] { throw Error(kDeviceIoError, "No list"); };
-  window.mnuFilePopup.Choose(1);
-  EXPECT_TRUE(window.mnuFilePopup[1].Visible());
-  EXPECT_FALSE(window.mnuFilePopup[0].Visible());
+  window.mnuFilePopup.Choose(kFileResume);
+  EXPECT_TRUE(window.mnuFilePopup[kFileResume].Visible());
+  EXPECT_FALSE(window.mnuFilePopup[kFileSuspend].Visible());
   EXPECT_FALSE(window.tmrMain.Enabled());
   EXPECT_EQ(window.tryMain.Picture(), 103);
   EXPECT_THAT(desktop.windowing.Texts(), ElementsAre("An error occurred checking for new documents."));
 }
 
 TEST_F(MenusTest, HideInTheDayvaneMenuHidesTheWindowAndLeavesTheTraysMenuAsItIs) {
-  window.mnuFilePopup.Choose(2);
+  window.mnuFilePopup.Choose(kFileHide);
   EXPECT_FALSE(window.form.Visible());
-  EXPECT_FALSE(window.mnuSysTrayPopup[0].Visible());
-  EXPECT_TRUE(window.mnuSysTrayPopup[1].Visible());
+  EXPECT_FALSE(window.mnuSysTrayPopup[kTrayShow].Visible());
+  EXPECT_TRUE(window.mnuSysTrayPopup[kTrayHide].Visible());
 }
 
 TEST_F(MenusTest, ExitPostsTheWindowACloseThatItFollows) {
@@ -162,9 +163,9 @@ TEST_F(MenusTest, ExitPostsTheWindowACloseThatItFollows) {
     testing::MainWindow other;
     other.Load();
     if (fromTray)
-      other.window.mnuSysTrayPopup.Choose(7);
+      other.window.mnuSysTrayPopup.Choose(kTrayExit);
     else
-      other.window.mnuFilePopup.Choose(4);
+      other.window.mnuFilePopup.Choose(kFileExit);
     EXPECT_THAT(other.desktop.windowing.posted, ElementsAre(16));
     EXPECT_TRUE(other.window.form.IsUnloaded());
   }
@@ -172,7 +173,7 @@ TEST_F(MenusTest, ExitPostsTheWindowACloseThatItFollows) {
 
 TEST_F(MenusTest, AFailureOfTheDayvaneMenuIsReportedWithItsPhrase) {
   window.form.Changed.Connect([] { throw Error(kDeviceIoError, "The window is gone"); });
-  window.mnuFilePopup.Choose(2);
+  window.mnuFilePopup.Choose(kFileHide);
   EXPECT_THAT(desktop.windowing.Texts(), ElementsAre("An error occurred hiding, suspending, or resuming."));
   EXPECT_THAT(desktop.LogLines("ErrorLog.txt"), ElementsAre("FMain.mnuFilePopup_Click\t57\tThe window is gone\t"
                                                             "An error occurred hiding, suspending, or resuming."));
@@ -180,7 +181,7 @@ TEST_F(MenusTest, AFailureOfTheDayvaneMenuIsReportedWithItsPhrase) {
 
 TEST_F(MenusTest, AFailureOfTheTraysMenuIsReportedWithItsPhrase) {
   window.form.Changed.Connect([] { throw Error(kDeviceIoError, "The window is gone"); });
-  window.mnuSysTrayPopup.Choose(1);
+  window.mnuSysTrayPopup.Choose(kTrayHide);
   EXPECT_THAT(desktop.windowing.Texts(), ElementsAre("An error occurred hiding, showing, suspending, or resuming."));
   EXPECT_THAT(desktop.LogLines("ErrorLog.txt"),
               ElementsAre("FMain.mnuSysTrayPopup_Click\t57\tThe window is gone\t"
@@ -188,10 +189,10 @@ TEST_F(MenusTest, AFailureOfTheTraysMenuIsReportedWithItsPhrase) {
 }
 
 TEST_F(MenusTest, TheViewMenuSwitchesTheViewAndCountsItsObjects) {
-  window.mnuViewPopup.Choose(1);
+  window.mnuViewPopup.Choose(kViewFavorites);
   EXPECT_TRUE(window.picFavorites.Visible());
   EXPECT_EQ(window.sbrMain.Text(), "0 objects");
-  window.mnuViewPopup.Choose(0);
+  window.mnuViewPopup.Choose(kViewDaily);
   EXPECT_TRUE(window.picDaily.Visible());
   EXPECT_EQ(window.sbrMain.Text(), "2 objects");
 }
@@ -203,7 +204,7 @@ TEST_F(MenusTest, DesktopInTheViewMenuDoesNothing) {
         static_cast<controls::Control*>(&window.picFavorites), static_cast<controls::Control*>(&window.lvwDaily),
         static_cast<controls::Control*>(&window.sbrMain)})
     control->Changed.Connect([&] { ++changes; });
-  window.mnuViewPopup.Choose(2);
+  window.mnuViewPopup.Choose(kViewDesktop);
   EXPECT_EQ(changes, 0);
   EXPECT_THAT(CheckedOf(window.mnuViewPopup), ElementsAre(0, 7));
   EXPECT_THAT(desktop.windowing.Texts(), IsEmpty());
@@ -211,7 +212,7 @@ TEST_F(MenusTest, DesktopInTheViewMenuDoesNothing) {
 
 TEST_F(MenusTest, TheStylesOfTheViewMenuAreThoseOfBothLists) {
   for (int style = 0; style < 4; ++style) {
-    window.mnuViewPopup.Choose(4 + style);
+    window.mnuViewPopup.Choose(kViewLargeIcons + style);
     EXPECT_EQ(static_cast<int>(window.lvwDaily.View()), style);
     EXPECT_EQ(static_cast<int>(window.lvwFavorites.View()), style);
     EXPECT_THAT(CheckedOf(window.mnuViewPopup), ElementsAre(0, 4 + style));
@@ -229,7 +230,7 @@ TEST_F(MenusTest, TheStylesOfTheListsContextMenuAreTheSame) {
 }
 
 TEST_F(MenusTest, FindSaysThatThereIsNoFindDialogYet) {
-  window.mnuToolsPopup.Choose(0);
+  window.mnuToolsPopup.Choose(kToolsFind);
   ASSERT_THAT(desktop.windowing.Texts(), ElementsAre("Display find dialog box here."));
   EXPECT_EQ(desktop.windowing.messages[0].title, "Dayvane");
   EXPECT_EQ(desktop.windowing.messages[0].icon, platform::MessageIcon::Information);
@@ -238,11 +239,11 @@ TEST_F(MenusTest, FindSaysThatThereIsNoFindDialogYet) {
 
 TEST_F(MenusTest, TheToolsMenuShowsTheFolderOfTheDaysDocumentEvenInTheFavoritesView) {
   SelectDocument();
-  window.mnuToolsPopup.Choose(2);
-  window.mnuToolsPopup.Choose(3);
+  window.mnuToolsPopup.Choose(kToolsExplore);
+  window.mnuToolsPopup.Choose(kToolsOpenFolder);
   window.SetActiveView(FMain::kFavoritesView);
   window.SetExploreOpen(true);
-  window.mnuToolsPopup.Choose(3);
+  window.mnuToolsPopup.Choose(kToolsOpenFolder);
   EXPECT_THAT(desktop.shell.commandLines,
               ElementsAre("C:\\WINDOWS\\EXPLORER.EXE /n,/e,/root,z:\\home\\ana",
                           "C:\\WINDOWS\\EXPLORER.EXE /n,z:\\home\\ana", "C:\\WINDOWS\\EXPLORER.EXE /n,z:\\home\\ana"));
@@ -251,8 +252,8 @@ TEST_F(MenusTest, TheToolsMenuShowsTheFolderOfTheDaysDocumentEvenInTheFavoritesV
 TEST_F(MenusTest, ExploreAndOpenOfTheToolsMenuActOnTheDaysDocumentWhileAFavoriteIsSelected) {
   SelectDocument();
   ShowFavorite();
-  window.mnuToolsPopup.Choose(2);
-  window.mnuToolsPopup.Choose(3);
+  window.mnuToolsPopup.Choose(kToolsExplore);
+  window.mnuToolsPopup.Choose(kToolsOpenFolder);
   EXPECT_THAT(desktop.shell.commandLines, ElementsAre("C:\\WINDOWS\\EXPLORER.EXE /n,/e,/root,z:\\home\\ana",
                                                       "C:\\WINDOWS\\EXPLORER.EXE /n,z:\\home\\ana"));
 }
@@ -260,31 +261,31 @@ TEST_F(MenusTest, ExploreAndOpenOfTheToolsMenuActOnTheDaysDocumentWhileAFavorite
 TEST_F(MenusTest, OpenInTheListsMenuOpensTheDaysDocumentWhileAFavoriteIsSelected) {
   SelectDocument();
   ShowFavorite();
-  window.mnuListViewPopup.Choose(0);
+  window.mnuListViewPopup.Choose(kListViewOpen);
   EXPECT_THAT(desktop.shell.opened, ElementsAre("Z:\\home\\ana\\a.odt|z:\\home\\ana|1"));
 }
 
 TEST_F(MenusTest, WithNoDocumentOfTheDaySelectedAFavoritesFolderOnlyBeeps) {
   ShowFavorite();
-  window.mnuToolsPopup.Choose(2);
-  window.mnuToolsPopup.Choose(3);
-  window.sftToolbar[3].Press();
-  window.sftToolbar[4].Press();
+  window.mnuToolsPopup.Choose(kToolsExplore);
+  window.mnuToolsPopup.Choose(kToolsOpenFolder);
+  window.sftToolbar[kExploreButton].Press();
+  window.sftToolbar[kOpenFolderButton].Press();
   EXPECT_EQ(desktop.windowing.beeps, 4);
   EXPECT_THAT(desktop.shell.commandLines, IsEmpty());
 }
 
 TEST_F(MenusTest, WhileAFolderIsBeingShownTheUserIsAskedToWait) {
   SelectDocument();
-  window.mnuToolsPopup.Choose(2);
+  window.mnuToolsPopup.Choose(kToolsExplore);
   EXPECT_THAT(status, ElementsAre("Please wait...", "2 objects"));
 }
 
 TEST_F(MenusTest, AFolderThatCannotBeShownIsReportedAlikeForExploreAndOpen) {
   SelectDocument();
   desktop.shell.cannotLaunch = true;
-  window.mnuToolsPopup.Choose(2);
-  window.mnuToolsPopup.Choose(3);
+  window.mnuToolsPopup.Choose(kToolsExplore);
+  window.mnuToolsPopup.Choose(kToolsOpenFolder);
   const std::string line =
       "FMain.mnuToolsPopup_Click\t57\tCannot launch\tAn error occurred Exploring the document's folder.";
   EXPECT_THAT(desktop.LogLines("ErrorLog.txt"), ElementsAre(line, line));
@@ -300,39 +301,39 @@ TEST_F(MenusTest, RebuildFavoritesCountsTheRepositoryAnewAndRefillsTheList) {
   testing::WriteShortcut(Daily("2026/November/20/a.odt.lnk"), link, "2026-11-20 10:00:00");
   window.SetActiveView(FMain::kFavoritesView);
   status.clear();
-  window.mnuToolsPopup.Choose(5);
+  window.mnuToolsPopup.Choose(kToolsRebuildFavorites);
   EXPECT_THAT(testing::ColumnOf(window.lvwFavorites, 0), ElementsAre("a.odt"));
   EXPECT_THAT(status, ElementsAre("Please wait...", "2 objects", "1 objects"));
 }
 
 TEST_F(MenusTest, ARebuildThatFailsIsReportedAsOne) {
   window.lvwFavorites.ContentsWillChange.Connect([] { throw Error(kDeviceIoError, "No list"); });
-  window.mnuToolsPopup.Choose(5);
+  window.mnuToolsPopup.Choose(kToolsRebuildFavorites);
   EXPECT_THAT(desktop.LogLines("ErrorLog.txt"),
               ElementsAre("FMain.mnuToolsPopup_Click\t57\tNo list\tAn error occurred rebuilding the Favorites list."));
 }
 
 TEST_F(MenusTest, TheHelpMenuOpensContentsWebSiteAndAboutBox) {
-  window.mnuHelpPopup.Choose(0);
+  window.mnuHelpPopup.Choose(kHelpTopics);
   EXPECT_THAT(desktop.help.shown, ElementsAre(desktop.Folder() + "\\Dayvane.hlp|11|0"));
-  window.mnuHelpPopup.Choose(2);
+  window.mnuHelpPopup.Choose(kHelpKorvathOnline);
   EXPECT_THAT(desktop.shell.opened, ElementsAre(application.info.homePage + "|" + desktop.Folder() + "|1"));
   EXPECT_THAT(desktop.windowing.abouts, IsEmpty());
-  window.mnuHelpPopup.Choose(4);
+  window.mnuHelpPopup.Choose(kHelpAbout);
   EXPECT_EQ(desktop.windowing.abouts.size(), 1U);
 }
 
 TEST_F(MenusTest, TheTraysMenuShowsHidesAndOpensTheAboutBox) {
-  window.mnuSysTrayPopup.Choose(1);
+  window.mnuSysTrayPopup.Choose(kTrayHide);
   EXPECT_FALSE(window.form.Visible());
-  window.mnuSysTrayPopup.Choose(0);
+  window.mnuSysTrayPopup.Choose(kTrayShow);
   EXPECT_TRUE(window.form.Visible());
-  window.mnuSysTrayPopup.Choose(5);
+  window.mnuSysTrayPopup.Choose(kTrayAbout);
   EXPECT_EQ(desktop.windowing.abouts.size(), 1U);
 }
 
 TEST_F(MenusTest, PurgeInTheTreesMenuRemovesTheSelectedDay) {
-  window.mnuTreeViewPopup.Choose(0);
+  window.mnuTreeViewPopup.Choose(kTreeViewPurge);
   EXPECT_THAT(testing::TextsOf(window.tvwMain), ElementsAre("Daily", " 2026", "  November"));
   EXPECT_THAT(status, ElementsAre("Please wait...", "2 objects", "0 objects"));
   EXPECT_THAT(desktop.windowing.Texts(), IsEmpty());
@@ -340,14 +341,14 @@ TEST_F(MenusTest, PurgeInTheTreesMenuRemovesTheSelectedDay) {
 
 TEST_F(MenusTest, APurgeWithoutADayIsReported) {
   window.tvwMain.SetSelectedItem(nullptr);
-  window.mnuTreeViewPopup.Choose(0);
+  window.mnuTreeViewPopup.Choose(kTreeViewPurge);
   EXPECT_THAT(desktop.windowing.Texts(), ElementsAre("An error occurred purging a day."));
   EXPECT_EQ(window.sbrMain.Text(), "2 objects");
 }
 
 TEST_F(MenusTest, OpenInTheListsMenuOpensTheSelectedDocument) {
   SelectDocument();
-  window.mnuListViewPopup.Choose(0);
+  window.mnuListViewPopup.Choose(kListViewOpen);
   EXPECT_THAT(desktop.shell.opened, ElementsAre("Z:\\home\\ana\\a.odt|z:\\home\\ana|1"));
   EXPECT_THAT(status, ElementsAre("Please wait...", "2 objects"));
 }

@@ -35,7 +35,7 @@ class MainOptionsTest : public ::testing::Test, protected testing::MainWindow {
       ASSERT_EQ(&form, &m_shown->form);
       user(*m_shown);
     };
-    window.mnuViewPopup.Choose(11);
+    window.mnuViewPopup.Choose(kViewOptions);
   }
   void Change(std::size_t field, const std::string& text) {
     Change([&](FOptions& dialog) {
@@ -120,8 +120,8 @@ TEST_F(MainOptionsTest, AfterAFailedPollANewIntervalStartsCaptureAgain) {
   EXPECT_FALSE(window.tmrMain.Enabled()) << "the purge age has nothing to do with it";
   Change(2, "7");
   EXPECT_TRUE(window.tmrMain.Enabled());
-  EXPECT_TRUE(window.mnuFilePopup[0].Visible());
-  EXPECT_FALSE(window.mnuFilePopup[1].Visible());
+  EXPECT_TRUE(window.mnuFilePopup[kFileSuspend].Visible());
+  EXPECT_FALSE(window.mnuFilePopup[kFileResume].Visible());
 }
 
 TEST_F(MainOptionsTest, OptionsThatCannotBeStoredAreReported) {

@@ -136,8 +136,8 @@ TEST_F(SettingsTest, AWindowThatWasHiddenStartsHiddenWithShowInTheTray) {
                       {"Top", "160"},       {"Width", "7000"},     {"Height", "6000"}};
   Load();
   EXPECT_FALSE(window.form.Visible());
-  EXPECT_TRUE(window.mnuSysTrayPopup[0].Visible());
-  EXPECT_FALSE(window.mnuSysTrayPopup[1].Visible());
+  EXPECT_TRUE(window.mnuSysTrayPopup[kTrayShow].Visible());
+  EXPECT_FALSE(window.mnuSysTrayPopup[kTrayHide].Visible());
 }
 
 TEST_F(SettingsTest, APlacementThatDoesNotConvertIsTheWindowsOwn) {

@@ -244,9 +244,9 @@ TEST_F(StartTest, AfterACaptureThatFailedTheTimerIsOffAndTheTrayBusyUntilItIsRes
   EXPECT_EQ(window.tryMain.Picture(), 103);
   EXPECT_FALSE(window.tmrMain.Enabled());
   EXPECT_EQ(window.tmrMain.Interval(), 60000);
-  EXPECT_TRUE(window.mnuFilePopup[1].Visible()) << "Resume";
+  EXPECT_TRUE(window.mnuFilePopup[kFileResume].Visible()) << "Resume";
   desktop.shell.refresh = [] {};
-  window.mnuFilePopup.Choose(1);
+  window.mnuFilePopup.Choose(kFileResume);
   EXPECT_EQ(window.tryMain.Picture(), 102);
   EXPECT_TRUE(window.tmrMain.Enabled());
 }

@@ -43,20 +43,20 @@ TEST_F(ToolbarTest, AtFirstTheDailyViewTheDetailsAndTheFoldersOfNoDocumentAreGre
 }
 
 TEST_F(ToolbarTest, TheViewButtonsSwitchTheViewAndCountItsObjects) {
-  Press(1);
+  Press(kFavoritesButton);
   EXPECT_TRUE(window.picFavorites.Visible());
   EXPECT_FALSE(window.picDaily.Visible());
   EXPECT_EQ(window.sbrMain.Text(), "0 objects");
-  Press(0);
+  Press(kDailyButton);
   EXPECT_TRUE(window.picDaily.Visible());
   EXPECT_FALSE(window.picFavorites.Visible());
   EXPECT_EQ(window.sbrMain.Text(), "1 objects");
 }
 
 TEST_F(ToolbarTest, TheButtonOfTheViewThatIsShownIsGrey) {
-  Press(1);
+  Press(kFavoritesButton);
   EXPECT_THAT(Disabled(), ElementsAre(1, 3, 4, 9));
-  Press(0);
+  Press(kDailyButton);
   EXPECT_THAT(Disabled(), ElementsAre(0, 3, 4, 9));
 }
 
@@ -65,7 +65,7 @@ TEST_F(ToolbarTest, TheButtonWithoutATipDoesNothing) {
   window.form.Changed.Connect([&] { ++changes; });
   window.sbrMain.Changed.Connect([&] { ++changes; });
   window.lvwDaily.Changed.Connect([&] { ++changes; });
-  Press(2);
+  Press(kBlankButton);
   EXPECT_EQ(changes, 0);
   EXPECT_THAT(Disabled(), ElementsAre(0, 3, 4, 9));
   EXPECT_THAT(desktop.windowing.Texts(), IsEmpty());
@@ -74,20 +74,20 @@ TEST_F(ToolbarTest, TheButtonWithoutATipDoesNothing) {
 TEST_F(ToolbarTest, ExploreAndOpenFolderShowTheFolderOfTheSelectedDocument) {
   SelectDocument();
   EXPECT_THAT(Disabled(), ElementsAre(0, 9));
-  Press(3);
-  Press(4);
+  Press(kExploreButton);
+  Press(kOpenFolderButton);
   EXPECT_THAT(desktop.shell.commandLines, ElementsAre("C:\\WINDOWS\\EXPLORER.EXE /n,/e,/root,z:\\home\\ana",
                                                       "C:\\WINDOWS\\EXPLORER.EXE /n,z:\\home\\ana"));
 }
 
 TEST_F(ToolbarTest, ExploreAndOpenFolderShowTheFolderOfTheDaysDocumentWhileAFavoriteIsSelected) {
   SelectDocument();
-  Press(1);
+  Press(kFavoritesButton);
   controls::ListItem& favorite = window.lvwFavorites.Add("Kx", "x.odt", 1);
   favorite.subItems = {"Text", "z:\\elsewhere"};
   window.lvwFavorites.Click(favorite);
-  Press(3);
-  Press(4);
+  Press(kExploreButton);
+  Press(kOpenFolderButton);
   EXPECT_THAT(desktop.shell.commandLines, ElementsAre("C:\\WINDOWS\\EXPLORER.EXE /n,/e,/root,z:\\home\\ana",
                                                       "C:\\WINDOWS\\EXPLORER.EXE /n,z:\\home\\ana"));
 }
@@ -95,8 +95,8 @@ TEST_F(ToolbarTest, ExploreAndOpenFolderShowTheFolderOfTheDaysDocumentWhileAFavo
 TEST_F(ToolbarTest, AFolderThatCannotBeShownIsReportedWithThePhraseOfItsButton) {
   SelectDocument();
   desktop.shell.cannotLaunch = true;
-  Press(3);
-  Press(4);
+  Press(kExploreButton);
+  Press(kOpenFolderButton);
   EXPECT_THAT(desktop.windowing.Texts(), ElementsAre("An error occurred Exploring the document's folder.",
                                                      "An error occurred opening the document's folder."));
   EXPECT_THAT(desktop.LogLines("ErrorLog.txt"),
@@ -105,7 +105,7 @@ TEST_F(ToolbarTest, AFolderThatCannotBeShownIsReportedWithThePhraseOfItsButton) 
 }
 
 TEST_F(ToolbarTest, FindSaysThatThereIsNoFindDialogYet) {
-  Press(5);
+  Press(kFindButton);
   EXPECT_THAT(desktop.windowing.Texts(), ElementsAre("Display find dialog box here."));
 }
 
@@ -119,14 +119,14 @@ TEST_F(ToolbarTest, TheStyleButtonsSetBothListsAndTheOneInUseIsGrey) {
 }
 
 TEST_F(ToolbarTest, MainWindowHelpOpensItsTopic) {
-  Press(10);
+  Press(kHelpButton);
   EXPECT_THAT(desktop.help.shown, ElementsAre(desktop.Folder() + "\\Dayvane.hlp|1|33"));
 }
 
 TEST_F(ToolbarTest, WhatsThisHelpWaitsForAClickOnAControl) {
   int waiting = 0;
   window.form.WhatsThisWanted.Connect([&] { ++waiting; });
-  Press(11);
+  Press(kWhatsThisButton);
   EXPECT_EQ(waiting, 1);
   EXPECT_THAT(desktop.help.shown, IsEmpty());
 }
@@ -142,7 +142,7 @@ TEST_F(ToolbarTest, TheRuleLinesSpanTheToolbarStripAlone) {
 
 TEST_F(ToolbarTest, AFailureOfAButtonIsIgnored) {
   window.form.WhatsThisWanted.Connect([] { throw Error(kDeviceIoError, "No pointer"); });
-  Press(11);
+  Press(kWhatsThisButton);
   EXPECT_THAT(desktop.windowing.Texts(), IsEmpty());
   EXPECT_THAT(desktop.LogLines("ErrorLog.txt"), IsEmpty());
 }

@@ -37,11 +37,11 @@ TEST_F(TrayTest, ALeftClickHidesTheWindowAndTheNextShowsItAgain) {
 }
 
 TEST_F(TrayTest, ShowIsOfferedWhileTheWindowIsHiddenAndHideWhileItIsVisible) {
-  EXPECT_FALSE(window.mnuSysTrayPopup[0].Visible());
-  EXPECT_TRUE(window.mnuSysTrayPopup[1].Visible());
+  EXPECT_FALSE(window.mnuSysTrayPopup[kTrayShow].Visible());
+  EXPECT_TRUE(window.mnuSysTrayPopup[kTrayHide].Visible());
   Click(kLeft);
-  EXPECT_TRUE(window.mnuSysTrayPopup[0].Visible());
-  EXPECT_FALSE(window.mnuSysTrayPopup[1].Visible());
+  EXPECT_TRUE(window.mnuSysTrayPopup[kTrayShow].Visible());
+  EXPECT_FALSE(window.mnuSysTrayPopup[kTrayHide].Visible());
 }
 
 TEST_F(TrayTest, ALeftClickComesToTheForegroundFirstAndPostsItsMessageLast) {
@@ -93,13 +93,13 @@ TEST_F(TrayTest, AClickThatFailsIsReported) {
 
 TEST_F(TrayTest, ExitFromTheTrayWhileHiddenStartsHiddenTheNextTime) {
   window.SetVisible(false);
-  window.mnuSysTrayPopup.Choose(7);
+  window.mnuSysTrayPopup.Choose(kTrayExit);
   EXPECT_TRUE(window.form.IsUnloaded());
   FMain next(application, repository);
   next.Form_Load();
   EXPECT_FALSE(next.form.Visible());
-  EXPECT_TRUE(next.mnuSysTrayPopup[0].Visible());
-  EXPECT_FALSE(next.mnuSysTrayPopup[1].Visible());
+  EXPECT_TRUE(next.mnuSysTrayPopup[kTrayShow].Visible());
+  EXPECT_FALSE(next.mnuSysTrayPopup[kTrayHide].Visible());
 }
 
 TEST_F(TrayTest, TheIconIsBusyWhileThePollRunsAndSuspendedWhileCaptureIs) {

@@ -25,9 +25,10 @@ class WindowTest : public ::testing::Test, protected testing::MainWindow {
   }
 
   bool ExploreAndOpenEnabled() const {
-    const bool enabled = window.mnuToolsPopup[2].Enabled();
+    const bool enabled = window.mnuToolsPopup[kToolsExplore].Enabled();
     for (const bool other :
-         {window.mnuToolsPopup[3].Enabled(), window.sftToolbar[3].Enabled(), window.sftToolbar[4].Enabled()})
+         {window.mnuToolsPopup[kToolsOpenFolder].Enabled(), window.sftToolbar[kExploreButton].Enabled(),
+          window.sftToolbar[kOpenFolderButton].Enabled()})
       EXPECT_EQ(other, enabled);
     return enabled;
   }
@@ -57,8 +58,8 @@ TEST_F(WindowTest, MinimisingHidesTheWindowAndLeavesItNormal) {
   window.form.SetState(WindowState::Minimised);
   EXPECT_FALSE(window.form.Visible());
   EXPECT_EQ(window.form.State(), WindowState::Normal);
-  EXPECT_TRUE(window.mnuSysTrayPopup[0].Visible());
-  EXPECT_FALSE(window.mnuSysTrayPopup[1].Visible());
+  EXPECT_TRUE(window.mnuSysTrayPopup[kTrayShow].Visible());
+  EXPECT_FALSE(window.mnuSysTrayPopup[kTrayHide].Visible());
 }
 
 TEST_F(WindowTest, MaximisingLeavesTheWindowVisible) {
@@ -79,7 +80,7 @@ TEST_F(WindowTest, ClosingTheWindowHidesItAndCaptureGoesOn) {
     window.SetVisible(true);
     EXPECT_FALSE(window.form.RequestUnload(mode));
     EXPECT_FALSE(window.form.Visible());
-    EXPECT_TRUE(window.mnuSysTrayPopup[0].Visible());
+    EXPECT_TRUE(window.mnuSysTrayPopup[kTrayShow].Visible());
     EXPECT_TRUE(window.tmrMain.Enabled());
   }
 }
@@ -114,10 +115,10 @@ TEST_F(WindowTest, OnePaneIsShownAtATime) {
     window.SetActiveView(view);
     EXPECT_EQ(window.picDaily.Visible(), view == 0);
     EXPECT_EQ(window.picFavorites.Visible(), view == 1);
-    EXPECT_EQ(window.mnuViewPopup[0].Checked(), view == 0);
-    EXPECT_EQ(window.mnuViewPopup[1].Checked(), view == 1);
-    EXPECT_EQ(window.sftToolbar[0].Enabled(), view != 0);
-    EXPECT_EQ(window.sftToolbar[1].Enabled(), view != 1);
+    EXPECT_EQ(window.mnuViewPopup[kViewDaily].Checked(), view == 0);
+    EXPECT_EQ(window.mnuViewPopup[kViewFavorites].Checked(), view == 1);
+    EXPECT_EQ(window.sftToolbar[kDailyButton].Enabled(), view != 0);
+    EXPECT_EQ(window.sftToolbar[kFavoritesButton].Enabled(), view != 1);
   }
 }
 
@@ -126,9 +127,9 @@ TEST_F(WindowTest, AViewThatDoesNotExistLeavesPaneAndCaptionAndStatus) {
   window.SetActiveView(2);
   EXPECT_EQ(window.form.Caption(), "Dayvane - Daily");
   EXPECT_TRUE(window.picDaily.Visible());
-  EXPECT_TRUE(window.sftToolbar[0].Enabled());
-  EXPECT_TRUE(window.sftToolbar[1].Enabled());
-  EXPECT_FALSE(window.mnuViewPopup[0].Checked());
+  EXPECT_TRUE(window.sftToolbar[kDailyButton].Enabled());
+  EXPECT_TRUE(window.sftToolbar[kFavoritesButton].Enabled());
+  EXPECT_FALSE(window.mnuViewPopup[kViewDaily].Checked());
   window.lvwDaily.Clear();
   window.RefreshStatusBar();
   EXPECT_EQ(window.sbrMain.Text(), "2 objects");
@@ -160,22 +161,23 @@ TEST_F(WindowTest, RefreshingTheStatusBarEndsTheWait) {
 }
 
 TEST_F(WindowTest, ArrangingByNameAndTypeSortsBothLists) {
-  window.mnuViewArrangePopup.Choose(0);
+  window.mnuViewArrangePopup.Choose(kArrangeByName);
   EXPECT_EQ(window.lvwDaily.SortKey(), 1U);
   EXPECT_EQ(window.lvwFavorites.SortKey(), 1U);
-  window.mnuArrangeIconsPopup.Choose(1);
+  window.mnuArrangeIconsPopup.Choose(kArrangeByType);
   EXPECT_EQ(window.lvwDaily.SortKey(), 2U);
   EXPECT_EQ(window.lvwFavorites.SortKey(), 2U);
 }
 
 TEST_F(WindowTest, AutoArrangeFlipsItsMarkInBothMenusAndArrangesByTheMarkItHad) {
   const auto marks = [this] {
-    return std::vector<bool>{window.mnuViewArrangePopup[3].Checked(), window.mnuArrangeIconsPopup[3].Checked()};
+    return std::vector<bool>{window.mnuViewArrangePopup[kArrangeAuto].Checked(),
+                             window.mnuArrangeIconsPopup[kArrangeAuto].Checked()};
   };
-  window.mnuViewArrangePopup.Choose(3);
+  window.mnuViewArrangePopup.Choose(kArrangeAuto);
   EXPECT_THAT(marks(), ElementsAre(true, true));
   EXPECT_EQ(window.lvwDaily.Arrange(), controls::ListArrange::None);
-  window.mnuArrangeIconsPopup.Choose(3);
+  window.mnuArrangeIconsPopup.Choose(kArrangeAuto);
   EXPECT_THAT(marks(), ElementsAre(false, false));
   EXPECT_EQ(window.lvwDaily.Arrange(), controls::ListArrange::Top);
   EXPECT_EQ(window.lvwFavorites.Arrange(), controls::ListArrange::Top);

@@ -22,7 +22,7 @@ class MainTest : public ::testing::Test {
 
   testing::TestDesktop desktop;
   int presented = 0;
-  Presentation presentation{[](FSplash&) {}, [this](FMain&, Application&) { ++presented; }};
+  Presentation presentation{[](FSplash&) {}, [this](FMainControls&, Application&) { ++presented; }};
 };
 
 TEST_F(MainTest, ASecondInstanceIsToldAndEndsAtOnce) {
@@ -61,12 +61,12 @@ TEST_F(MainTest, TheSplashIsShownBeforeAnythingElseIsThere) {
 }
 
 TEST_F(MainTest, TheSplashDisappearsOnlyAfterTheMainWindowHasBeenBuilt) {
-  FMain* window = nullptr;
+  FMainControls* window = nullptr;
   bool wasBuilt = false;
   presentation.splash = [&](FSplash& splash) {
     splash.form.Unload.Connect([&] { wasBuilt = window != nullptr && window->tmrMain.Enabled(); });
   };
-  presentation.mainWindow = [&](FMain& mainWindow, Application&) { window = &mainWindow; };
+  presentation.mainWindow = [&](FMainControls& mainWindow, Application&) { window = &mainWindow; };
   const Program program = Start();
   EXPECT_TRUE(wasBuilt);
   EXPECT_TRUE(program.splash->form.IsUnloaded());
@@ -74,7 +74,7 @@ TEST_F(MainTest, TheSplashDisappearsOnlyAfterTheMainWindowHasBeenBuilt) {
 }
 
 TEST_F(MainTest, TheSplashIsGoneBeforeTheMainWindowShows) {
-  presentation.mainWindow = [this](FMain& mainWindow, Application&) {
+  presentation.mainWindow = [this](FMainControls& mainWindow, Application&) {
     mainWindow.form.Changed.Connect([&] {
       if (mainWindow.form.Visible()) desktop.windowing.happenings.emplace_back("main window");
     });
@@ -101,14 +101,14 @@ TEST_F(MainTest, AFailureToStartIsReportedWithItsSource) {
 }
 
 TEST_F(MainTest, AFailureToStartIsLoggedAsMains) {
-  presentation.mainWindow = [](FMain&, Application&) { throw Error(kDeviceIoError, "No window"); };
+  presentation.mainWindow = [](FMainControls&, Application&) { throw Error(kDeviceIoError, "No window"); };
   const Program program = Start();
   EXPECT_THAT(desktop.LogLines("ErrorLog.txt"),
               ElementsAre("MDayvane.Main\t57\tNo window\tAn error occurred starting the program."));
 }
 
 TEST_F(MainTest, TheSplashOfAStartThatFailedIsGone) {
-  presentation.mainWindow = [](FMain&, Application&) { throw Error(kDeviceIoError, "No window"); };
+  presentation.mainWindow = [](FMainControls&, Application&) { throw Error(kDeviceIoError, "No window"); };
   const Program program = Start();
   EXPECT_TRUE(program.splash->form.IsUnloaded());
   EXPECT_FALSE(program.splash->form.Visible());

@@ -6,8 +6,8 @@
 #include "app/ShellServices.h"
 #include "base/Error.h"
 #include "controls/Form.h"
+#include "links/ShellLinkFormat.h"
 #include "linux/files/NativePath.h"
-#include "linux/links/ShellLinkFormat.h"
 
 namespace dayvane::testing {
 
@@ -116,6 +116,7 @@ void TestWindowing::PopupMenuAtMouse(controls::Form&, controls::Menu& menu, int 
 
 TestShell::TestShell(platform::FileSystem& files, std::string theRecentFolder)
     : recentFolder(std::move(theRecentFolder)),
+      m_files(files),
       m_reader(files, [this](const std::string& text) { reported.push_back(text); }) {}
 
 std::string TestShell::SpecialFolderPath(int number) {
@@ -124,7 +125,7 @@ std::string TestShell::SpecialFolderPath(int number) {
 }
 
 void TestShell::CreateShellLink(const std::string& path, const platform::ShellLink& link) {
-  links::WriteShellLinkFile(path, link);
+  m_files.ReplaceUnflushed(path, links::WriteShellLink(link));
 }
 
 int TestShell::Open(const std::string& target, const std::string& workingDirectory, std::int32_t showCommand) {
@@ -186,7 +187,7 @@ std::vector<std::string> TestDesktop::LogLines(const std::string& log) const {
 }
 
 void WriteShortcut(const std::string& nativePath, const platform::ShellLink& link, const std::string& localTime) {
-  files::PosixFileSystem files;
+  files::LinuxFileSystem files;
   files.Replace(files::FromNative(nativePath).value(), links::WriteShellLink(link));
   SetWritten(nativePath, localTime);
 }

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "app/Date.h"
-#include "linux/links/ShellLinkFile.h"
+#include "links/ShellLinkReader.h"
 #include "platform/Desktop.h"
 #include "tests/support/TemporaryFolder.h"
 #include "tests/support/TestFiles.h"
@@ -100,6 +100,7 @@ class TestShell : public platform::Shell {
   std::vector<std::string> reported;  ///< what the reader had to tell the event log
 
  private:
+  platform::FileSystem& m_files;
   links::ShellLinkReader m_reader;
 };
 

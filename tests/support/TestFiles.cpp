@@ -4,47 +4,52 @@ namespace dayvane::testing {
 
 std::optional<platform::FileStatus> TestFiles::Status(const std::string& path) {
   beforeStatus(path);
-  return PosixFileSystem::Status(path);
+  return LinuxFileSystem::Status(path);
 }
 
 platform::FileContents TestFiles::Read(const std::string& path, std::size_t limit) {
   beforeRead(path);
-  return PosixFileSystem::Read(path, limit);
+  return LinuxFileSystem::Read(path, limit);
 }
 
 void TestFiles::Replace(const std::string& path, std::string_view bytes) {
   beforeChange(path);
-  PosixFileSystem::Replace(path, bytes);
+  LinuxFileSystem::Replace(path, bytes);
+}
+
+void TestFiles::ReplaceUnflushed(const std::string& path, std::string_view bytes) {
+  beforeChange(path);
+  LinuxFileSystem::ReplaceUnflushed(path, bytes);
 }
 
 void TestFiles::Copy(const std::string& source, const std::string& destination) {
   beforeChange(destination);
-  PosixFileSystem::Copy(source, destination);
+  LinuxFileSystem::Copy(source, destination);
 }
 
 void TestFiles::Append(const std::string& path, std::string_view text) {
   beforeChange(path);
-  PosixFileSystem::Append(path, text);
+  LinuxFileSystem::Append(path, text);
 }
 
 void TestFiles::CreateFolder(const std::string& path) {
   beforeChange(path);
-  PosixFileSystem::CreateFolder(path);
+  LinuxFileSystem::CreateFolder(path);
 }
 
 void TestFiles::Rename(const std::string& path, const std::string& newPath) {
   beforeChange(path);
-  PosixFileSystem::Rename(path, newPath);
+  LinuxFileSystem::Rename(path, newPath);
 }
 
 void TestFiles::Delete(const std::string& path) {
   beforeChange(path);
-  PosixFileSystem::Delete(path);
+  LinuxFileSystem::Delete(path);
 }
 
 void TestFiles::RemoveFolder(const std::string& path) {
   beforeChange(path);
-  PosixFileSystem::RemoveFolder(path);
+  LinuxFileSystem::RemoveFolder(path);
 }
 
 }  // namespace dayvane::testing

@@ -2,17 +2,18 @@
 
 #include <functional>
 
-#include "linux/files/PosixFileSystem.h"
+#include "linux/LinuxFileSystem.h"
 
 namespace dayvane::testing {
 
 /// The real disk, with something that happens before a file or a folder is looked at, before a file is read and before
 /// each change.
-class TestFiles : public files::PosixFileSystem {
+class TestFiles : public files::LinuxFileSystem {
  public:
   std::optional<platform::FileStatus> Status(const std::string& path) override;
   platform::FileContents Read(const std::string& path, std::size_t limit) override;
   void Replace(const std::string& path, std::string_view bytes) override;
+  void ReplaceUnflushed(const std::string& path, std::string_view bytes) override;
   void Copy(const std::string& source, const std::string& destination) override;
   void Append(const std::string& path, std::string_view text) override;
   void CreateFolder(const std::string& path) override;

@@ -24,7 +24,9 @@ class DailyListTest : public ::testing::Test, protected testing::MainWindow {
     testing::WriteShortcut(Daily(day) + "/" + name, link, "2026-11-20 10:00:00");
   }
   controls::ListItem& Row(const std::string& path) { return window.lvwDaily.Item(Key(path)); }
-  bool CanExplore() const { return window.mnuToolsPopup[2].Enabled() && window.sftToolbar[3].Enabled(); }
+  bool CanExplore() const {
+    return window.mnuToolsPopup[kToolsExplore].Enabled() && window.sftToolbar[kExploreButton].Enabled();
+  }
   std::vector<std::string> Reports() const { return desktop.LogLines("ErrorLog.txt"); }
 };
 

@@ -360,8 +360,8 @@ TEST_F(DocumentActionsTest, BeforeTheWindowHasLoadedExploringIsLoggedAndReported
 TEST_F(DocumentActionsTest, TheToolbarExploresAndOpensTheSelectedDocumentsFolder) {
   LoadDay();
   window.lvwDaily.Click(Row("a.odt"));
-  window.sftToolbar[3].Press();
-  window.sftToolbar[4].Press();
+  window.sftToolbar[kExploreButton].Press();
+  window.sftToolbar[kOpenFolderButton].Press();
   EXPECT_THAT(desktop.shell.commandLines, ElementsAre("C:\\WINDOWS\\EXPLORER.EXE /n,/e,/root,z:\\home\\ana",
                                                       "C:\\WINDOWS\\EXPLORER.EXE /n,z:\\home\\ana"));
 }

@@ -29,10 +29,10 @@ class ExploreTest : public ::testing::Test, protected testing::MainWindow {
     Tick();
   }
   bool CanExplore() const {
-    const bool can = window.mnuToolsPopup[2].Enabled();
-    EXPECT_EQ(window.mnuToolsPopup[3].Enabled(), can);
-    EXPECT_EQ(window.sftToolbar[3].Enabled(), can);
-    EXPECT_EQ(window.sftToolbar[4].Enabled(), can);
+    const bool can = window.mnuToolsPopup[kToolsExplore].Enabled();
+    EXPECT_EQ(window.mnuToolsPopup[kToolsOpenFolder].Enabled(), can);
+    EXPECT_EQ(window.sftToolbar[kExploreButton].Enabled(), can);
+    EXPECT_EQ(window.sftToolbar[kOpenFolderButton].Enabled(), can);
     return can;
   }
 };

@@ -164,10 +164,10 @@ TEST_F(FavoritesListTest, AShortcutThatTheDataFileNamesTwiceIsListedOnce) {
 TEST_F(FavoritesListTest, ClickingADocumentLetsItsFolderBeExplored) {
   LoadWith(Record("3", "a"));
   window.lvwFavorites.Click(Row("a"));
-  EXPECT_TRUE(window.mnuToolsPopup[2].Enabled());
-  EXPECT_TRUE(window.mnuToolsPopup[3].Enabled());
-  EXPECT_TRUE(window.sftToolbar[3].Enabled());
-  EXPECT_TRUE(window.sftToolbar[4].Enabled());
+  EXPECT_TRUE(window.mnuToolsPopup[kToolsExplore].Enabled());
+  EXPECT_TRUE(window.mnuToolsPopup[kToolsOpenFolder].Enabled());
+  EXPECT_TRUE(window.sftToolbar[kExploreButton].Enabled());
+  EXPECT_TRUE(window.sftToolbar[kOpenFolderButton].Enabled());
 }
 
 TEST_F(FavoritesListTest, TheMenuOfADocumentShowsAtTheMouse) {

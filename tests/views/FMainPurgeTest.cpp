@@ -77,7 +77,7 @@ TEST_F(PurgeTest, ADayPurgedFromTheTreeGoesWithoutAQuestion) {
   FileOnThreeDays();
   Load();
   RightClick(Node("2026\\November\\19"));
-  window.mnuTreeViewPopup.Choose(0);
+  window.mnuTreeViewPopup.Choose(kTreeViewPurge);
   EXPECT_FALSE(fs::exists(Daily("2026/November/19")));
   EXPECT_THAT(TextsOf(window.tvwMain), ElementsAre("Daily", " 2026", "  November", "   18", "   20"));
   EXPECT_EQ(window.tvwMain.SelectedItem(), nullptr);
@@ -89,7 +89,7 @@ TEST_F(PurgeTest, ADayPurgedFromTheTreeIsNotCountedAnyLonger) {
   FileOnThreeDays();
   Load();
   RightClick(Node("2026\\November\\19"));
-  window.mnuTreeViewPopup.Choose(0);
+  window.mnuTreeViewPopup.Choose(kTreeViewPurge);
   EXPECT_THAT(ColumnOf(window.lvwFavorites, 3), ElementsAre("    2"));
 }
 
@@ -99,7 +99,7 @@ TEST_F(PurgeTest, PurgingFromTheTreeSaysPleaseWaitAndCountsTheRowsAfterwards) {
   RightClick(Node("2026\\November\\19"));
   std::vector<std::string> texts;
   window.sbrMain.Changed.Connect([&] { texts.push_back(window.sbrMain.Text()); });
-  window.mnuTreeViewPopup.Choose(0);
+  window.mnuTreeViewPopup.Choose(kTreeViewPurge);
   EXPECT_THAT(texts, ElementsAre("Please wait...", "1 objects", "0 objects"));
 }
 
@@ -108,7 +108,7 @@ TEST_F(PurgeTest, ADayThatCannotBePurgedIsReported) {
   Load();
   desktop.folder.Write("program/Daily/2026/November/19/mine/letter.odt", "x");
   RightClick(Node("2026\\November\\19"));
-  window.mnuTreeViewPopup.Choose(0);
+  window.mnuTreeViewPopup.Choose(kTreeViewPurge);
   EXPECT_THAT(desktop.windowing.Texts(), ElementsAre("An error occurred purging a day."));
   EXPECT_THAT(desktop.LogLines("ErrorLog.txt").at(0), ::testing::StartsWith("FMain.mnuTreeViewPopup_Click\t"));
   EXPECT_TRUE(fs::exists(Daily("2026/November/19/mine/letter.odt")));
@@ -155,13 +155,13 @@ TEST_F(PurgeTest, TheRootOfAnEmptyRepositoryCannotBePurged) {
 
 TEST_F(PurgeTest, PurgingWithoutASelectedDayIsLoggedAndReported) {
   Load();
-  window.mnuTreeViewPopup.Choose(0);
+  window.mnuTreeViewPopup.Choose(kTreeViewPurge);
   EXPECT_THAT(desktop.LogLines("EventLog.txt"), ElementsAre("2\tFMain.PurgeDay: Node is nothing"));
   EXPECT_THAT(desktop.windowing.Texts(), ElementsAre("An error occurred purging a day."));
 }
 
 TEST_F(PurgeTest, BeforeTheWindowHasLoadedAPurgeIsLoggedAndReported) {
-  window.mnuTreeViewPopup.Choose(0);
+  window.mnuTreeViewPopup.Choose(kTreeViewPurge);
   EXPECT_THAT(desktop.LogLines("EventLog.txt"),
               ElementsAre("2\tFMain.mnuTreeViewPopup_Click: Daily object is nothing"));
   EXPECT_THAT(desktop.windowing.Texts(), ElementsAre("An error occurred purging a day."));

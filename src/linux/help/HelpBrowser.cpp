@@ -68,8 +68,8 @@ QVariant HelpBrowser::loadResource(int type, const QUrl& url) {
 
 QString HelpBrowser::Page(const QUrl& url) const {
   if (!m_file) return NoticePage(tr("Help cannot be shown"), m_problem, {}, {}, palette());
-  if (const Topic* topic = m_file->Find(TopicName(url))) return TopicPage(*topic, palette());
-  const QString home = m_file->Contents().front().topic;
+  if (const Topic* topic = m_file->Find(TopicName(url).toStdString())) return TopicPage(*topic, palette());
+  const QString home = QString::fromStdString(m_file->Contents().front().topic);
   return NoticePage(tr("No help on this yet"),
                     tr("There is no page on what you asked for. The table of contents may lead "
                        "you to what you are looking for."),

@@ -61,15 +61,16 @@ void HelpNavigation::BuildTree() {
   for (const ContentsEntry& entry : m_file->Contents()) {
     const auto depth = static_cast<std::size_t>(entry.depth);
     above.resize(depth);
-    auto* item = new QTreeWidgetItem({m_file->Find(entry.topic)->title});
-    item->setData(0, kTopicRole, entry.topic);
+    const QString topic = QString::fromStdString(entry.topic);
+    auto* item = new QTreeWidgetItem({QString::fromStdString(m_file->Find(entry.topic)->title)});
+    item->setData(0, kTopicRole, topic);
     if (above.empty()) {
       m_tree->addTopLevelItem(item);
     } else {
       above.back()->addChild(item);
     }
     above.push_back(item);
-    m_items.insert(entry.topic, item);
+    m_items.insert(topic, item);
   }
 }
 
@@ -102,9 +103,9 @@ void HelpNavigation::ChooseFirstFound() {
 void HelpNavigation::ShowFound(const QString& words) {
   const QSignalBlocker quiet(m_found);
   m_found->clear();
-  for (const Topic* topic : m_file->Search(words)) {
-    auto* item = new QListWidgetItem(topic->title, m_found);
-    item->setData(kTopicRole, topic->name);
+  for (const Topic* topic : m_file->Search(words.toStdString())) {
+    auto* item = new QListWidgetItem(QString::fromStdString(topic->title), m_found);
+    item->setData(kTopicRole, QString::fromStdString(topic->name));
   }
   if (m_found->count() > 0) return;
   auto* none = new QListWidgetItem(tr("No topic holds these words."), m_found);

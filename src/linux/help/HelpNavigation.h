@@ -3,7 +3,7 @@
 #include <QHash>
 #include <QWidget>
 
-#include "linux/help/HelpFile.h"
+#include "help/HelpFile.h"
 
 class QLineEdit;
 class QListWidget;

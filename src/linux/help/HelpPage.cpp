@@ -71,13 +71,14 @@ QSize SizeOf(const QUrl& url, const QSize& own) {
 }  // namespace
 
 QString TopicPage(const Topic& topic, const QPalette& palette) {
-  return PageDocument(topic.title, topic.body, palette);
+  return PageDocument(QString::fromStdString(topic.title), QString::fromStdString(topic.body), palette);
 }
 
 QString PopupPage(const Topic& topic, const QPalette& palette) {
   const QString style = Style(palette.color(QPalette::ToolTipBase), palette.color(QPalette::ToolTipText), palette);
-  const QString title = QStringLiteral("<p class=\"title\"><b>%1</b></p>").arg(topic.title.toHtmlEscaped());
-  return Document(topic.title, style, title + topic.body);
+  const QString title = QString::fromStdString(topic.title);
+  const QString heading = QStringLiteral("<p class=\"title\"><b>%1</b></p>").arg(title.toHtmlEscaped());
+  return Document(title, style, heading + QString::fromStdString(topic.body));
 }
 
 QString NoticePage(const QString& title, const QString& text, const QString& link, const QString& linkText,
@@ -89,7 +90,8 @@ QString NoticePage(const QString& title, const QString& text, const QString& lin
 }
 
 QImage PagePicture(const HelpFile& file, const QUrl& url, qreal pixelsPerPoint) {
-  QSvgRenderer renderer(file.Picture(QFileInfo(url.path()).fileName()));
+  const std::string_view picture = file.Picture(QFileInfo(url.path()).fileName().toStdString());
+  QSvgRenderer renderer(QByteArray(picture.data(), static_cast<qsizetype>(picture.size())));
   if (!renderer.isValid()) return {};
   const QSize size = SizeOf(url, renderer.defaultSize());
   QImage image(size * pixelsPerPoint, QImage::Format_ARGB32_Premultiplied);

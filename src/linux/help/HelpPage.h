@@ -5,7 +5,7 @@
 #include <QString>
 #include <QUrl>
 
-#include "linux/help/HelpFile.h"
+#include "help/HelpFile.h"
 
 /// How a topic becomes a page that Qt's rich text draws, in the colours of the palette.
 namespace dayvane::help {

@@ -26,8 +26,8 @@ QRect RoomAt(const QPoint& point) {
 
 HelpPopup::HelpPopup(const HelpFile& file, const Topic& topic, QWidget* parent) : QFrame(parent, Qt::Popup) {
   setAttribute(Qt::WA_DeleteOnClose);
-  setAccessibleName(topic.title);
-  setAccessibleDescription(topic.text);
+  setAccessibleName(QString::fromStdString(topic.title));
+  setAccessibleDescription(QString::fromStdString(topic.text));
   setFrameStyle(QFrame::Box | QFrame::Plain);
   setPalette(QToolTip::palette());
   setForegroundRole(QPalette::ToolTipText);

@@ -2,7 +2,7 @@
 
 #include <QFrame>
 
-#include "linux/help/HelpFile.h"
+#include "help/HelpFile.h"
 
 namespace dayvane::help {
 

@@ -8,12 +8,14 @@
 #include <QVBoxLayout>
 
 #include "base/Error.h"
-#include "linux/Pictures.h"
+#include "linux/LinuxFileSystem.h"
+#include "linux/files/NativePath.h"
 #include "linux/help/HelpBrowser.h"
 #include "linux/help/HelpFindBar.h"
 #include "linux/help/HelpNavigation.h"
 #include "linux/help/HelpPopup.h"
-#include "shell/MResourceConstants.h"
+#include "linux/widgets/Pictures.h"
+#include "resources/MResourceConstants.h"
 
 namespace dayvane::help {
 
@@ -105,7 +107,9 @@ void HelpViewer::ConnectPages() {
 bool HelpViewer::Load() {
   if (m_file) return true;
   try {
-    m_file = HelpFile::Read(m_path);
+    files::LinuxFileSystem files;
+    const std::string native = m_path.toStdString();
+    m_file = HelpFile::Read(files, files::FromNative(native).value_or(native));
   } catch (const Error& error) {
     // Not the program's error: the user who asked for help is told where the help would have been.
     m_browser->SetProblem(tr("%1 It should be here: %2. Installing Dayvane again brings it back.")
@@ -128,7 +132,7 @@ void HelpViewer::ShowContents() {
 void HelpViewer::ShowTopic(int contextId) {
   const Topic* topic = Load() ? m_file->FindContext(contextId) : nullptr;
   if (topic) {
-    m_browser->ShowTopic(topic->name);
+    m_browser->ShowTopic(QString::fromStdString(topic->name));
   } else {
     m_browser->ShowUnknownContext(contextId);
   }
@@ -150,7 +154,7 @@ void HelpViewer::ShowPopup(int contextId, const QPoint& at) {
 }
 
 void HelpViewer::ShowHome() {
-  m_browser->ShowTopic(m_file ? m_file->Contents().front().topic : QString());
+  m_browser->ShowTopic(m_file ? QString::fromStdString(m_file->Contents().front().topic) : QString());
 }
 
 void HelpViewer::PageChanged(const QString& topic) {

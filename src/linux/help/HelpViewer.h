@@ -3,7 +3,7 @@
 #include <QMainWindow>
 #include <optional>
 
-#include "linux/help/HelpFile.h"
+#include "help/HelpFile.h"
 
 namespace dayvane::help {
 

@@ -4,7 +4,7 @@
 #include <gio/gdesktopappinfo.h>
 #include <memory>
 
-#include "linux/ErrorNet.h"
+#include "linux/glib/ErrorNet.h"
 
 namespace dayvane::launch {
 

@@ -6,8 +6,8 @@
 #include <unistd.h>
 
 #include "base/Error.h"
-#include "linux/Applications.h"
 #include "linux/files/NativePath.h"
+#include "linux/launch/Applications.h"
 
 namespace dayvane::launch {
 

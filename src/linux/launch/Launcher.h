@@ -2,21 +2,14 @@
 
 #include <string>
 
-#include "linux/GlibHandles.h"
+#include "linux/glib/GlibHandles.h"
 #include "linux/launch/FileManager.h"
 #include "linux/launch/StartApplication.h"
+#include "platform/Shell.h"
 
 namespace dayvane::launch {
 
-/// Result codes of the classic shell for opening a document (ShellExecute, SE_ERR_…); above 32 it was opened.
-enum OpenResult : int {
-  kSeFileNotFound = 2,
-  kSePathNotFound = 3,
-  kSeAccessDenied = 5,
-  kSeAssociationIncomplete = 27,  ///< there is a program for the document, but it could not be started
-  kSeNoAssociation = 31,
-  kSeOpened = 42,
-};
+using enum platform::OpenResult;
 
 /// Opens documents, programs, folders and web addresses with the desktop's default applications. Nothing here waits
 /// for an application. Needs the GLib main loop for what happens later.

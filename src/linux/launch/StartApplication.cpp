@@ -4,7 +4,7 @@
 #include <memory>
 #include <unistd.h>
 
-#include "linux/ErrorNet.h"
+#include "linux/glib/ErrorNet.h"
 
 namespace dayvane::launch {
 

@@ -4,7 +4,7 @@
 #include <gio/gio.h>
 #include <string>
 
-#include "linux/GlibHandles.h"
+#include "linux/glib/GlibHandles.h"
 
 namespace dayvane::launch {
 

@@ -3,7 +3,7 @@
 #include <climits>
 
 #include "base/Text.h"
-#include "linux/GlibHandles.h"
+#include "linux/glib/GlibHandles.h"
 
 namespace dayvane::recent {
 

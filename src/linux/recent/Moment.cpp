@@ -4,7 +4,7 @@
 #include <chrono>
 #include <limits>
 
-#include "linux/files/PosixFileSystem.h"
+#include "linux/LinuxFileSystem.h"
 
 namespace dayvane::recent {
 

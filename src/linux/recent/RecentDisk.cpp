@@ -1,9 +1,9 @@
 #include "linux/recent/RecentDisk.h"
 
 #include "base/Error.h"
-#include "linux/XdgFolders.h"
+#include "linux/LinuxFileSystem.h"
 #include "linux/files/NativePath.h"
-#include "linux/files/PosixFileSystem.h"
+#include "linux/files/XdgFolders.h"
 
 namespace dayvane::recent {
 
@@ -31,17 +31,17 @@ void RecentDisk::WriteShortcut(const std::string& name, std::string_view bytes, 
 }
 
 void RecentDisk::DeleteShortcut(const std::string& name) {
-  files::PosixFileSystem().Delete(PathOf(name));
+  files::LinuxFileSystem().Delete(PathOf(name));
 }
 
 void RecentDisk::WriteState(std::string_view text) {
   const auto native = files::ToNative(m_stateFile);
   if (native) xdg::MakeFolder(native->substr(0, native->rfind('/')));
-  files::PosixFileSystem().Replace(m_stateFile, text);
+  files::LinuxFileSystem().Replace(m_stateFile, text);
 }
 
 std::vector<FolderItem> RecentDisk::List() const {
-  files::PosixFileSystem disk;
+  files::LinuxFileSystem disk;
   std::vector<FolderItem> items;
   for (const auto& entry : disk.List(m_folder)) {
     const auto status = disk.Status(m_folder + "\\" + entry.name);
@@ -54,18 +54,18 @@ std::vector<FolderItem> RecentDisk::List() const {
 }
 
 std::optional<Moment> RecentDisk::Written(const std::string& name) const {
-  const auto status = files::PosixFileSystem().Status(PathOf(name));
+  const auto status = files::LinuxFileSystem().Status(PathOf(name));
   return status && status->kind == platform::EntryKind::File ? std::optional(status->written.nanoseconds)
                                                              : std::nullopt;
 }
 
 std::optional<std::string> RecentDisk::ReadShortcut(const std::string& name) const {
-  std::string bytes = files::PosixFileSystem().Read(PathOf(name), kLongestShortcut + 1).bytes;
+  std::string bytes = files::LinuxFileSystem().Read(PathOf(name), kLongestShortcut + 1).bytes;
   return bytes.size() <= kLongestShortcut ? std::optional(std::move(bytes)) : std::nullopt;
 }
 
 std::optional<std::string> RecentDisk::ReadState() const {
-  files::PosixFileSystem disk;
+  files::LinuxFileSystem disk;
   if (!disk.Status(m_stateFile)) return std::nullopt;
   return disk.Read(m_stateFile, kLongestState).bytes;
 }

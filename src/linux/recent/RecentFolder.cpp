@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "base/Error.h"
-#include "linux/GlibHandles.h"
+#include "linux/glib/GlibHandles.h"
 
 namespace dayvane::recent {
 

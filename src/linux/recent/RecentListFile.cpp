@@ -5,8 +5,8 @@
 #include <unistd.h>
 #include <utility>
 
-#include "linux/XdgFolders.h"
 #include "linux/files/FileDescriptor.h"
+#include "linux/files/XdgFolders.h"
 
 namespace dayvane::recent {
 

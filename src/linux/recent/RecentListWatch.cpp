@@ -3,8 +3,8 @@
 #include <chrono>
 #include <utility>
 
-#include "linux/ErrorNet.h"
-#include "linux/GlibHandles.h"
+#include "linux/glib/ErrorNet.h"
+#include "linux/glib/GlibHandles.h"
 
 namespace dayvane::recent {
 

@@ -5,8 +5,8 @@
 #include <utility>
 
 #include "base/Text.h"
-#include "linux/Applications.h"
 #include "linux/files/NativePath.h"
+#include "linux/launch/Applications.h"
 
 namespace dayvane::registry {
 

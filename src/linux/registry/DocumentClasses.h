@@ -9,7 +9,7 @@
 #include <string_view>
 #include <unordered_map>
 
-#include "linux/GlibHandles.h"
+#include "linux/glib/GlibHandles.h"
 
 namespace dayvane::registry {
 

@@ -8,10 +8,10 @@
 
 #include "app/IgnoreErrors.h"
 #include "base/Error.h"
-#include "linux/XdgFolders.h"
+#include "linux/LinuxFileSystem.h"
 #include "linux/files/NativePath.h"
-#include "linux/files/PosixFileSystem.h"
 #include "linux/files/SystemError.h"
+#include "linux/files/XdgFolders.h"
 
 namespace dayvane::registry {
 
@@ -25,7 +25,7 @@ std::string ParentOf(const std::string& nativePath) {
 
 /// The name that follows the file's own, ".damaged", or the next one that is free.
 std::string FreeNameBeside(const std::string& nativePath) {
-  files::PosixFileSystem disk;
+  files::LinuxFileSystem disk;
   std::string name = nativePath + ".damaged";
   for (int number = 2; disk.Status(files::FromNative(name).value_or("")); ++number)
     name = nativePath + ".damaged-" + std::to_string(number);
@@ -116,7 +116,7 @@ void SettingsFile::Replace(const SettingsKeys& changes) {
   xdg::MakeFolder(ParentOf(m_nativePath));
   const std::string file = FilePath();
   if (m_damaged) KeepDamagedFile(file);
-  files::PosixFileSystem().Replace(file, WriteSettings(changed));
+  files::LinuxFileSystem().Replace(file, WriteSettings(changed));
   m_keys = std::move(changed);
   IgnoreErrors([&] { m_version = VersionOf(file); });  // or it is read again
 }
@@ -154,7 +154,7 @@ void SettingsFile::Refresh() {
 void SettingsFile::Read(const std::string& path) {
   std::string bytes;
   try {
-    bytes = files::PosixFileSystem().Read(path, kLargestFile + 1).bytes;
+    bytes = files::LinuxFileSystem().Read(path, kLargestFile + 1).bytes;
   } catch (const Error&) {
     // A folder in its place, or a file that may not be read: no setting is known, and nothing may be lost by that.
     m_damaged = true;
@@ -176,7 +176,7 @@ void SettingsFile::KeepDamagedFile(const std::string& path) {
 }
 
 std::optional<SettingsFile::Version> SettingsFile::VersionOf(const std::string& path) {
-  const auto status = files::PosixFileSystem().Status(path);
+  const auto status = files::LinuxFileSystem().Status(path);
   return status ? std::optional<Version>({status->size, status->written}) : std::nullopt;
 }
 

@@ -9,8 +9,6 @@
 #include <array>
 #include <utility>
 
-#include "linux/UsersTurn.h"
-
 namespace dayvane::widgets {
 
 namespace {
@@ -178,7 +176,7 @@ void CalendarPresenter::Choose(QDate date) {
 }
 
 void CalendarPresenter::SetDate(QDate date) {
-  AfterWork(*this, [this, date] {
+  m_deferred.AfterWork([this, date] {
     m_control.SetCurrentDate(ToDay(date));
     Show();  // the program may have refused
   });

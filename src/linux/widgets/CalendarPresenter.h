@@ -3,6 +3,7 @@
 #include <QCalendarWidget>
 
 #include "controls/Calendar.h"
+#include "controls/Deferred.h"
 #include "linux/widgets/ControlLink.h"
 
 namespace dayvane::widgets {
@@ -41,6 +42,7 @@ class CalendarPresenter : public QCalendarWidget {
   controls::Calendar& m_control;
   bool m_selectionMoved = false;
   bool m_showing = false;  ///< what changes in the widget is not the user's doing
+  controls::Deferred m_deferred;
   ControlLink m_link;
 };
 

@@ -6,6 +6,7 @@
 #include <QMouseEvent>
 #include <functional>
 
+#include "controls/Keys.h"
 #include "linux/widgets/Keys.h"
 
 namespace dayvane::widgets {
@@ -90,7 +91,7 @@ class ClassicView : public View {
 
   void contextMenuEvent(QContextMenuEvent* event) override {
     event->accept();
-    if (event->reason() == QContextMenuEvent::Keyboard) RaiseKeyUp(kKeyF10, kAltMask);
+    if (event->reason() == QContextMenuEvent::Keyboard) RaiseKeyUp(controls::kKeyF10, controls::kAltMask);
   }
 
   void focusOutEvent(QFocusEvent* event) override {

@@ -3,7 +3,7 @@
 #include <QWidget>
 
 #include "controls/Control.h"
-#include "linux/UsersTurn.h"
+#include "controls/Deferred.h"
 
 namespace dayvane::widgets {
 
@@ -12,7 +12,7 @@ ControlLink::ControlLink(controls::Control& control, QWidget& widget, std::funct
   m_connections.push_back(control.Changed.ConnectScoped([this] { Show(); }));
   m_connections.push_back(control.FocusWanted.ConnectScoped([this] { m_widget.setFocus(Qt::OtherFocusReason); }));
   m_connections.push_back(control.RefreshWanted.ConnectScoped([this] {
-    if (!IsInBackground()) m_widget.repaint();
+    if (!controls::IsInBackground()) m_widget.repaint();
   }));
 }
 

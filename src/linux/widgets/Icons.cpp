@@ -1,7 +1,7 @@
 #include "linux/widgets/Icons.h"
 
-#include "linux/Pictures.h"
-#include "shell/MResourceConstants.h"
+#include "linux/widgets/Pictures.h"
+#include "resources/MResourceConstants.h"
 
 namespace dayvane::widgets {
 

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 
+#include "controls/Keys.h"
+
 namespace dayvane::widgets {
 
 namespace {
@@ -14,8 +16,8 @@ struct NamedKey {
 
 constexpr std::array<NamedKey, 19> kNamedKeys{{{Qt::Key_Backspace, 8},
                                                {Qt::Key_Tab, 9},
-                                               {Qt::Key_Return, kKeyReturn},
-                                               {Qt::Key_Enter, kKeyReturn},
+                                               {Qt::Key_Return, controls::kKeyReturn},
+                                               {Qt::Key_Enter, controls::kKeyReturn},
                                                {Qt::Key_Shift, 16},
                                                {Qt::Key_Control, 17},
                                                {Qt::Key_Alt, 18},
@@ -40,26 +42,26 @@ constexpr bool IsBetween(int key, int first, int last) {
 
 int ClassicKeyCode(int key) {
   if (IsBetween(key, Qt::Key_0, Qt::Key_9) || IsBetween(key, Qt::Key_A, Qt::Key_Z)) return key;
-  if (IsBetween(key, Qt::Key_F1, Qt::Key_F24)) return kKeyF1 + key - Qt::Key_F1;
+  if (IsBetween(key, Qt::Key_F1, Qt::Key_F24)) return controls::kKeyF1 + key - Qt::Key_F1;
   const auto* found =
       std::find_if(kNamedKeys.begin(), kNamedKeys.end(), [&](NamedKey named) { return named.qt == key; });
   return found == kNamedKeys.end() ? 0 : found->classic;
 }
 
 int ClassicModifiers(Qt::KeyboardModifiers modifiers) {
-  return (modifiers.testFlag(Qt::ShiftModifier) ? kShiftMask : 0) |
-         (modifiers.testFlag(Qt::ControlModifier) ? kCtrlMask : 0) |
-         (modifiers.testFlag(Qt::AltModifier) ? kAltMask : 0);
+  return (modifiers.testFlag(Qt::ShiftModifier) ? controls::kShiftMask : 0) |
+         (modifiers.testFlag(Qt::ControlModifier) ? controls::kCtrlMask : 0) |
+         (modifiers.testFlag(Qt::AltModifier) ? controls::kAltMask : 0);
 }
 
 int ClassicButton(Qt::MouseButton button) {
   switch (button) {
     case Qt::LeftButton:
-      return 1;
+      return controls::kLeftButton;
     case Qt::RightButton:
-      return 2;
+      return controls::kRightButton;
     case Qt::MiddleButton:
-      return 4;
+      return controls::kMiddleButton;
     default:
       return 0;
   }

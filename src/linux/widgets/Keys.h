@@ -2,18 +2,10 @@
 
 #include <Qt>
 
-/// Key codes, modifiers and mouse buttons as the controls' events carry them.
+/// Qt's keys, modifiers and mouse buttons as the events of the controls carry them (controls/Keys.h).
 namespace dayvane::widgets {
 
-inline constexpr int kKeyReturn = 13;
-inline constexpr int kKeyF1 = 112;
-inline constexpr int kKeyF10 = 121;
-
-inline constexpr int kShiftMask = 1;
-inline constexpr int kCtrlMask = 2;
-inline constexpr int kAltMask = 4;
-
-/// The virtual-key code of a key (the numbers of VK_RETURN, VK_F1 …); 0 for keys that have no number of their own.
+/// 0 for keys that have no number of their own.
 int ClassicKeyCode(int key);
 
 int ClassicModifiers(Qt::KeyboardModifiers modifiers);

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "linux/UsersTurn.h"
+#include "controls/Deferred.h"
 
 namespace dayvane::widgets {
 
@@ -19,7 +19,7 @@ LateShow::LateShow(std::function<void()> show) : m_show(std::move(show)) {
 }
 
 void LateShow::Changed(bool isBusy) {
-  if (!isBusy || !IsInBackground()) {
+  if (!isBusy || !controls::IsInBackground()) {
     m_timer.stop();
     m_show();
   } else if (!m_timer.isActive()) {

@@ -4,8 +4,7 @@
 #include <QScopedValueRollback>
 #include <QScrollBar>
 
-#include "linux/UsersTurn.h"
-#include "linux/widgets/IconStyle.h"
+#include "linux/forms/IconStyle.h"
 #include "linux/widgets/Lengths.h"
 
 namespace dayvane::widgets {
@@ -165,7 +164,7 @@ void ListPresenter::RestoreScroll() {
 
 void ListPresenter::SelectionMoved() {
   if (m_showing || m_icons.IsPressing() || m_details.IsPressing()) return;
-  if (IsAtWork()) return AfterWork(*this, [this] { SelectionMoved(); });
+  if (controls::IsAtWork()) return m_deferred.AfterWork([this] { SelectionMoved(); });
   if (const QModelIndex index = SelectedIndex(); index.isValid())
     Click(index);
   else

@@ -6,6 +6,7 @@
 #include <QTreeView>
 #include <optional>
 
+#include "controls/Deferred.h"
 #include "controls/ListView.h"
 #include "linux/widgets/ClassicView.h"
 #include "linux/widgets/ControlLink.h"
@@ -60,6 +61,7 @@ class ListPresenter : public QStackedWidget {
   ScrollMemory m_scroll;
   std::optional<controls::ListStyle> m_shownStyle;
   std::optional<controls::ListArrange> m_shownArrange;
+  controls::Deferred m_deferred;
   bool m_showing = false;  ///< what changes in the widgets is not the user's doing
   ControlLink m_link;
   controls::Connection m_selectionChanged;

@@ -1,7 +1,5 @@
 #include "linux/widgets/MenuPresenter.h"
 
-#include "linux/UsersTurn.h"
-
 namespace dayvane::widgets {
 
 MenuPresenter::MenuPresenter(controls::Menu& menu, QWidget* parent)
@@ -58,7 +56,7 @@ void MenuPresenter::ShowItem(int index) {
 
 void MenuPresenter::Choose(int index) {
   ShowItem(index);  // the widget has turned the check mark by itself
-  OnUsersTurn(*this, [this, index] { m_menu.Choose(index); });
+  m_deferred.OnUsersTurn([this, index] { m_menu.Choose(index); });
 }
 
 }  // namespace dayvane::widgets

@@ -4,6 +4,7 @@
 #include <memory>
 #include <vector>
 
+#include "controls/Deferred.h"
 #include "controls/Menu.h"
 
 namespace dayvane::widgets {
@@ -29,6 +30,7 @@ class MenuPresenter : public QMenu {
   std::vector<std::unique_ptr<MenuPresenter>> m_submenus;
   std::vector<std::unique_ptr<QAction>> m_actions;  ///< by index; those of submenus belong to these
   std::vector<QAction*> m_shown;
+  controls::Deferred m_deferred;
   std::vector<controls::Connection> m_connections;
 };
 

@@ -3,8 +3,8 @@
 #include <QWidget>
 
 #include "controls/SimpleControls.h"
+#include "linux/forms/Placement.h"
 #include "linux/widgets/ControlLink.h"
-#include "linux/widgets/Placement.h"
 
 namespace dayvane::widgets {
 

@@ -1,13 +1,13 @@
 #include "linux/widgets/TimerPresenter.h"
 
-#include "linux/UsersTurn.h"
+#include "controls/Deferred.h"
 
 namespace dayvane::widgets {
 
 TimerPresenter::TimerPresenter(controls::Timer& control) : m_control(control) {
   QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this] {
-    if (IsAtWork()) return;
-    const BackgroundScope background;
+    if (controls::IsAtWork()) return;
+    const controls::BackgroundScope background;
     m_control.Fire();
   });
   m_changed = control.Changed.ConnectScoped([this] { Show(); });

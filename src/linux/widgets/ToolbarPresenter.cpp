@@ -1,12 +1,9 @@
 #include "linux/widgets/ToolbarPresenter.h"
 
 #include <QStyle>
-#include <array>
 
-#include "linux/Pictures.h"
-#include "linux/UsersTurn.h"
 #include "linux/widgets/Lengths.h"
-#include "shell/MResourceConstants.h"
+#include "linux/widgets/Pictures.h"
 
 namespace dayvane::widgets {
 
@@ -17,21 +14,18 @@ constexpr int kMargin = 3;
 constexpr int kGroupGap = 10;
 constexpr int kRuleHeight = 2;
 
-/// Buttons before which a new group begins: the list styles, help.
-constexpr std::array<int, 2> kGroups{6, 10};
-
-bool BeginsGroup(int index) {
-  return std::find(kGroups.begin(), kGroups.end(), index) != kGroups.end();
+bool BeginsGroup(const ToolbarRow& row) {
+  return row.button != 0 && row.group != kToolbarRows[row.button - 1].group;
 }
 
 }  // namespace
 
-ToolbarPresenter::ToolbarPresenter(controls::PictureBox& strip, std::span<controls::Button> buttons,
+ToolbarPresenter::ToolbarPresenter(controls::PictureBox& strip, std::span<controls::Button, kToolbarButtons> buttons,
                                    std::span<controls::Line> rules, QWidget* parent)
     : QWidget(parent), m_rules(rules), m_layout(this), m_link(strip, *this, [] {}) {
   m_layout.setContentsMargins(kMargin, kRuleHeight + kMargin, kMargin, kRuleHeight + kMargin);
   m_layout.setSpacing(1);
-  for (std::size_t index = 0; index < buttons.size(); ++index) AddButton(buttons[index], static_cast<int>(index));
+  for (const ToolbarRow& row : kToolbarRows) AddButton(buttons[row.button], row);
   m_layout.addStretch();
   for (controls::Line& rule : rules) {
     m_lines.push_back(std::make_unique<QFrame>(this));
@@ -42,20 +36,19 @@ ToolbarPresenter::ToolbarPresenter(controls::PictureBox& strip, std::span<contro
   m_link.Show();
 }
 
-void ToolbarPresenter::AddButton(controls::Button& button, int index) {
+void ToolbarPresenter::AddButton(controls::Button& button, const ToolbarRow& row) {
   m_buttons.push_back({std::make_unique<QToolButton>(this), nullptr});
   QToolButton& widget = *m_buttons.back().widget;
-  const bool gap = button.ToolTipText().empty();
-  if (gap || BeginsGroup(index)) m_layout.addSpacing(kGroupGap);
-  if (gap) return widget.hide();
+  if (BeginsGroup(row)) m_layout.addSpacing(kGroupGap);
+  if (*row.tip == '\0') return widget.hide();
   const int size = style()->pixelMetric(QStyle::PM_ToolBarIconSize, nullptr, this);
   widget.setIconSize({size, size});
-  widget.setIcon(PictureIcon(ToolbarPicture(index)));
+  widget.setIcon(PictureIcon(row.picture));
   widget.setAutoRaise(true);
   widget.setFocusPolicy(Qt::TabFocus);
   m_layout.addWidget(&widget);
   connect(
-      &widget, &QToolButton::clicked, this, [this, &button] { OnUsersTurn(*this, [&button] { button.Press(); }); },
+      &widget, &QToolButton::clicked, this, [this, &button] { m_deferred.OnUsersTurn([&button] { button.Press(); }); },
       Qt::QueuedConnection);
   m_buttons.back().link = std::make_unique<ControlLink>(button, widget, [&button, &widget] {
     widget.setToolTip(QString::fromStdString(button.ToolTipText()));

@@ -3,7 +3,7 @@
 #include <QScopedValueRollback>
 #include <QScrollBar>
 
-#include "linux/UsersTurn.h"
+#include "controls/Keys.h"
 #include "linux/widgets/Lengths.h"
 
 namespace dayvane::widgets {
@@ -42,7 +42,8 @@ void TreePresenter::ListenToUser() {
              [this](int button, QPoint at) { RaiseMouseUp(button, at); },
              [this](int key, int modifiers) {
                // Who has no mouse gets at the node's menu by the keyboard.
-               if (key == kKeyF10 && modifiers == kAltMask) RaiseMouseUp(2, visualRect(currentIndex()).center());
+               if (key == controls::kKeyF10 && modifiers == controls::kAltMask)
+                 RaiseMouseUp(controls::kRightButton, visualRect(currentIndex()).center());
              }});
   connect(&m_selection, &QItemSelectionModel::selectionChanged, this, [this] { SelectionMoved(); });
   connect(this, &QTreeView::expanded, this, [this](const QModelIndex& index) {
@@ -108,7 +109,7 @@ void TreePresenter::OpenPathTo(const QModelIndex& index) {
 
 void TreePresenter::SelectionMoved() {
   if (m_showing || IsPressing()) return;
-  if (IsAtWork()) return AfterWork(*this, [this] { SelectionMoved(); });
+  if (controls::IsAtWork()) return m_deferred.AfterWork([this] { SelectionMoved(); });
   const QModelIndexList selected = m_selection.selectedIndexes();
   if (!selected.isEmpty()) Click(selected.first());
 }

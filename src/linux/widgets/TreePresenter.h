@@ -5,6 +5,7 @@
 #include <set>
 #include <string>
 
+#include "controls/Deferred.h"
 #include "controls/TreeView.h"
 #include "linux/widgets/ClassicView.h"
 #include "linux/widgets/ControlLink.h"
@@ -48,6 +49,7 @@ class TreePresenter : public ClassicView<QTreeView> {
   std::set<std::string> m_open;        ///< keys of open nodes
   std::set<std::string> m_knownRoots;  ///< roots that were opened once
   bool m_showing = false;              ///< what changes in the widget is not the user's doing
+  controls::Deferred m_deferred;
   ControlLink m_link;
   controls::Connection m_selectionChanged;
 };

@@ -6,11 +6,11 @@
 namespace dayvane::help {
 namespace {
 
-const QByteArray kSquare =
+const std::string kSquare =
     R"(<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 10 20"><path d="M0 0h10v20H0z"/></svg>)";
 
 HelpFile FileWithPicture() {
-  const QByteArray size = QByteArray::number(kSquare.size());
+  const std::string size = std::to_string(kSquare.size());
   return HelpFile::Parse("Dayvane help 1\ntopic 2 home\nA\n\npicture " + size + " square.svg\n" + kSquare +
                          "\ncontents 4\nhome\nend\n");
 }

@@ -5,23 +5,26 @@
 #include <QXmlStreamReader>
 #include <gtest/gtest.h>
 
-#include "linux/help/HelpFile.h"
+#include "help/HelpFile.h"
+#include "linux/LinuxFileSystem.h"
+#include "linux/files/NativePath.h"
 #include "linux/help/HelpPage.h"
-#include "shell/MHelpConstants.h"
+#include "resources/MHelpConstants.h"
 
 /// The help that is shipped, as it was built.
 namespace dayvane::help {
 namespace {
 
 const HelpFile& Shipped() {
-  static const HelpFile file = HelpFile::Read(QStringLiteral(DAYVANE_HELP_FILE));
+  files::LinuxFileSystem disk;
+  static const HelpFile file = HelpFile::Read(disk, files::FromNative(DAYVANE_HELP_FILE).value());
   return file;
 }
 
 /// Values of an attribute of one element, wherever it stands in a body.
-QStringList Attributes(const QString& body, const QString& element, const QString& attribute) {
+QStringList Attributes(const std::string& body, const QString& element, const QString& attribute) {
   QStringList values;
-  QXmlStreamReader xml("<topic>" + body + "</topic>");
+  QXmlStreamReader xml(QString::fromStdString("<topic>" + body + "</topic>"));
   while (!xml.atEnd()) {
     xml.readNext();
     if (xml.isStartElement() && xml.name() == element) values << xml.attributes().value(attribute).toString();
@@ -53,8 +56,8 @@ TEST(HelpTopics, EveryContextOfTheProgramIsExplained) {
   for (int context : kEveryContext) {
     const Topic* topic = Shipped().FindContext(context);
     ASSERT_NE(topic, nullptr) << context;
-    EXPECT_GT(topic->title.size(), 3) << context;
-    EXPECT_TRUE(topic->text.contains(". ") || topic->text.endsWith('.')) << context;
+    EXPECT_GT(topic->title.size(), 3U) << context;
+    EXPECT_TRUE(topic->text.find(". ") != std::string::npos || topic->text.ends_with('.')) << context;
   }
 }
 
@@ -62,7 +65,7 @@ TEST(HelpTopics, WhatAControlIsForIsSaidInAFewSentences) {
   static const QRegularExpression sentenceEnd(QStringLiteral("[.?!](\\s|$)"));
   for (int context : kEveryContext) {
     if (context == kHelpOptions || context == kHelpFirstRun || context == kHelpMainWindow) continue;
-    const QString text = Shipped().FindContext(context)->text;
+    const QString text = QString::fromStdString(Shipped().FindContext(context)->text);
     EXPECT_GE(text.count(sentenceEnd), 2) << text.toStdString();
     EXPECT_LE(text.count(sentenceEnd), 5) << text.toStdString();
   }
@@ -71,7 +74,7 @@ TEST(HelpTopics, WhatAControlIsForIsSaidInAFewSentences) {
 TEST(HelpTopics, EveryLinkLeadsToATopic) {
   for (const Topic& topic : Shipped().Topics()) {
     for (const QString& link : Attributes(topic.body, "a", "href"))
-      EXPECT_NE(Shipped().Find(link), nullptr) << topic.name.toStdString() << " -> " << link.toStdString();
+      EXPECT_NE(Shipped().Find(link.toStdString()), nullptr) << topic.name << " -> " << link.toStdString();
   }
 }
 
@@ -84,9 +87,9 @@ TEST(HelpTopics, EveryPictureCanBeDrawn) {
 
 TEST(HelpTopics, EveryTopicIsWellFormedMarkup) {
   for (const Topic& topic : Shipped().Topics()) {
-    QXmlStreamReader xml("<topic>" + topic.body + "</topic>");
+    QXmlStreamReader xml(QString::fromStdString("<topic>" + topic.body + "</topic>"));
     while (!xml.atEnd()) xml.readNext();
-    EXPECT_FALSE(xml.hasError()) << topic.name.toStdString() << ": " << xml.errorString().toStdString();
+    EXPECT_FALSE(xml.hasError()) << topic.name << ": " << xml.errorString().toStdString();
   }
 }
 
@@ -103,10 +106,10 @@ TEST(HelpTopics, EverySourceArrivesWithItsTitleAndWords) {
     ASSERT_TRUE(xml.readNextStartElement());
     const QString title = xml.attributes().value("title").toString();
     const QString words = xml.readElementText(QXmlStreamReader::IncludeChildElements).remove(QRegularExpression("\\s"));
-    const Topic* topic = Shipped().Find(name.chopped(5));
+    const Topic* topic = Shipped().Find(name.chopped(5).toStdString());
     ASSERT_NE(topic, nullptr) << name.toStdString();
-    EXPECT_EQ(topic->title, title);
-    EXPECT_EQ(QString(topic->text).remove(QRegularExpression("\\s")), words);
+    EXPECT_EQ(topic->title, title.toStdString());
+    EXPECT_EQ(QString::fromStdString(topic->text).remove(QRegularExpression("\\s")), words);
   }
 }
 

@@ -17,7 +17,7 @@
 #include "linux/help/HelpNavigation.h"
 #include "linux/help/HelpPopup.h"
 #include "linux/help/HelpViewer.h"
-#include "shell/MHelpConstants.h"
+#include "resources/MHelpConstants.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace dayvane::help {

@@ -6,9 +6,9 @@
 #include <sys/stat.h>
 
 #include "base/Error.h"
-#include "linux/GlibHandles.h"
+#include "linux/LinuxFileSystem.h"
 #include "linux/files/NativePath.h"
-#include "linux/files/PosixFileSystem.h"
+#include "linux/glib/GlibHandles.h"
 
 namespace dayvane::testing {
 
@@ -61,7 +61,7 @@ void TestDisk::DeleteShortcut(const std::string& name) {
 void TestDisk::WriteState(std::string_view text) {
   BeforeChange();
   fs::create_directories(fs::path(m_state).parent_path());
-  files::ReplaceUnflushed(files::FromNative(m_state).value(), text);
+  files::LinuxFileSystem().ReplaceUnflushed(files::FromNative(m_state).value(), text);
 }
 
 RecentDesk::RecentDesk() : m_now(At("2026-12-01T12:00:00Z")) {

@@ -3,8 +3,8 @@
 #include <sys/stat.h>
 
 #include "base/Error.h"
+#include "links/ShellLinkFormat.h"
 #include "linux/files/NativePath.h"
-#include "linux/links/ShellLinkFormat.h"
 #include "linux/recent/RecentFolder.h"
 #include "tests/linux/recent/RecentDesk.h"
 

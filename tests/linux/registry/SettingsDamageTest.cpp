@@ -4,7 +4,7 @@
 #include <random>
 
 #include "base/Error.h"
-#include "linux/registry/LinuxRegistry.h"
+#include "linux/LinuxRegistry.h"
 #include "linux/registry/SettingsFile.h"
 #include "settings/COptions.h"
 #include "tests/support/BrokenDisk.h"

@@ -3,8 +3,8 @@
 #include <gtest/gtest.h>
 #include <sys/inotify.h>
 
+#include "linux/LinuxRegistry.h"
 #include "linux/files/FileDescriptor.h"
-#include "linux/registry/LinuxRegistry.h"
 #include "settings/FOptions.h"
 #include "shell/FMain.h"
 #include "tests/support/FullDisk.h"

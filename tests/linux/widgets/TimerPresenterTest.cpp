@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 #include <optional>
 
-#include "linux/UsersTurn.h"
+#include "controls/Deferred.h"
 #include "linux/widgets/TimerPresenter.h"
 
 namespace dayvane::widgets {
@@ -49,7 +49,7 @@ TEST(TimerPresenter, NothingTicksInTheMiddleOfWork) {
   timer.Tick.Connect([&] { ++ticks; });
   timer.SetInterval(1);
   timer.SetEnabled(true);
-  std::optional<WorkScope> work(std::in_place);
+  std::optional<controls::WorkScope> work(std::in_place);
   QTimer later;
   later.setSingleShot(true);
   later.start(20);

@@ -12,29 +12,29 @@ namespace {
 class ToolbarPresenterTest : public testing::Test {
  protected:
   ToolbarPresenterTest() {
-    m_buttons[0].SetToolTipText("Daily View");
-    m_buttons[2].SetToolTipText("Find Document");
+    m_buttons[kDailyButton].SetToolTipText("Daily View");
+    m_buttons[kFindButton].SetToolTipText("Find Document");
     m_presenter = std::make_unique<ToolbarPresenter>(m_strip, m_buttons, m_rules, &m_window);
     m_window.show();
   }
 
   controls::PictureBox m_strip;
-  std::array<controls::Button, 3> m_buttons;
+  std::array<controls::Button, kToolbarButtons> m_buttons;
   std::array<controls::Line, 2> m_rules;
   QWidget m_window;
   std::unique_ptr<ToolbarPresenter> m_presenter;
 };
 
 TEST_F(ToolbarPresenterTest, AButtonHasItsTipAndSpeaksIt) {
-  EXPECT_EQ(m_presenter->ButtonAt(0).toolTip(), "Daily View");
-  EXPECT_EQ(m_presenter->ButtonAt(0).accessibleName(), "Daily View");
+  EXPECT_EQ(m_presenter->ButtonAt(kDailyButton).toolTip(), "Daily View");
+  EXPECT_EQ(m_presenter->ButtonAt(kDailyButton).accessibleName(), "Daily View");
 }
 
 TEST_F(ToolbarPresenterTest, APressIsToldAfterItsEventIsDone) {
   int presses = 0;
-  m_buttons[2].Click.Connect([&] { ++presses; });
+  m_buttons[kFindButton].Click.Connect([&] { ++presses; });
 
-  m_presenter->ButtonAt(2).click();
+  m_presenter->ButtonAt(kFindButton).click();
   EXPECT_EQ(presses, 0);
   QCoreApplication::processEvents();
 
@@ -43,24 +43,24 @@ TEST_F(ToolbarPresenterTest, APressIsToldAfterItsEventIsDone) {
 
 TEST_F(ToolbarPresenterTest, ButtonsAreReachedByTheKeyboard) {
   int presses = 0;
-  m_buttons[0].Click.Connect([&] { ++presses; });
+  m_buttons[kDailyButton].Click.Connect([&] { ++presses; });
 
-  m_presenter->ButtonAt(0).setFocus(Qt::TabFocusReason);
-  QTest::keyClick(&m_presenter->ButtonAt(0), Qt::Key_Space);
+  m_presenter->ButtonAt(kDailyButton).setFocus(Qt::TabFocusReason);
+  QTest::keyClick(&m_presenter->ButtonAt(kDailyButton), Qt::Key_Space);
   QCoreApplication::processEvents();
 
   EXPECT_EQ(presses, 1);
 }
 
 TEST_F(ToolbarPresenterTest, ADisabledButtonIsGreyed) {
-  m_buttons[0].SetEnabled(false);
+  m_buttons[kDailyButton].SetEnabled(false);
 
-  EXPECT_FALSE(m_presenter->ButtonAt(0).isEnabled());
+  EXPECT_FALSE(m_presenter->ButtonAt(kDailyButton).isEnabled());
 }
 
 TEST_F(ToolbarPresenterTest, AButtonWithoutATipIsAGap) {
-  EXPECT_FALSE(m_presenter->ButtonAt(1).isVisible());
-  EXPECT_TRUE(m_presenter->ButtonAt(2).isVisible());
+  EXPECT_FALSE(m_presenter->ButtonAt(kBlankButton).isVisible());
+  EXPECT_TRUE(m_presenter->ButtonAt(kFindButton).isVisible());
 }
 
 TEST_F(ToolbarPresenterTest, TheRulesEndWhereTheirControlsSay) {

@@ -1,0 +1,64 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+
+/// Events run in three situations: while the program waits for the user, in the middle of its work so that windows are
+/// painted, and while a box or dialog of its own asks the user something. What begins something new must not begin it
+/// in the second, and commands from outside the dialog not in the third. Capture goes on in the third.
+namespace dayvane::controls {
+
+/// The program is in the middle of its work for as long as this lives.
+class WorkScope {
+ public:
+  WorkScope();
+  WorkScope(const WorkScope&) = delete;
+  WorkScope& operator=(const WorkScope&) = delete;
+  ~WorkScope();
+};
+
+/// The user is being asked something for as long as this lives.
+class QuestionScope {
+ public:
+  QuestionScope();
+  QuestionScope(const QuestionScope&) = delete;
+  QuestionScope& operator=(const QuestionScope&) = delete;
+  ~QuestionScope();
+};
+
+/// What runs for as long as this lives was begun by a timer and not by the user: how it goes reaches the screen only
+/// when it lasts.
+class BackgroundScope {
+ public:
+  BackgroundScope();
+  BackgroundScope(const BackgroundScope&) = delete;
+  BackgroundScope& operator=(const BackgroundScope&) = delete;
+  ~BackgroundScope();
+};
+
+bool IsAtWork();
+bool IsAsking();
+bool IsInBackground();
+
+/// Actions that wait until the program can begin something new. They go with the object that they belong to, which
+/// holds this.
+class Deferred {
+ public:
+  /// Acts at once if the program is not at work, else when it has done.
+  void AfterWork(std::function<void()> act);
+
+  /// The same, but an open box or dialog must have been answered too.
+  void OnUsersTurn(std::function<void()> act);
+
+ private:
+  std::shared_ptr<const bool> m_isAlive = std::make_shared<const bool>(true);
+};
+
+/// How a desktop has ActOnDeferred called soon, from its event loop: the end of the outermost scope is still inside the
+/// procedure that opened it. Without one, what waits waits for ever.
+void SetDeferredWaker(std::function<void()> wake);
+
+/// Does what waits and may be done now, in its order.
+void ActOnDeferred();
+
+}  // namespace dayvane::controls

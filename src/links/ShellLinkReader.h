@@ -1,0 +1,39 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <unordered_map>
+
+#include "platform/FileSystem.h"
+#include "platform/Shell.h"
+
+namespace dayvane::links {
+
+/// Reads shell link files for a program that reads all of them again every second: each with one opening, and with at
+/// most one word about each version of a file that is no link.
+class ShellLinkReader {
+ public:
+  /// A link takes a few kilobytes. A larger file is not a shell link, and no more of it is read.
+  static constexpr std::size_t kLargestLink = 1 << 20;
+
+  /// As many files that are no links are remembered, so that foreign files cannot make the memory grow. Further ones
+  /// are passed over in silence: forgetting older ones instead would report all of them again at every poll.
+  static constexpr std::size_t kMostReported = 1024;
+
+  /// `reportEvent` takes a text for the event log.
+  ShellLinkReader(platform::FileSystem& files, std::function<void(const std::string&)> reportEvent);
+
+  /// The link in a file, with the moment that the file was written. A file that is no shell link has empty fields; it
+  /// is reported once, and again when it is written anew. A file that cannot be opened is the file system's Error.
+  platform::ReadLink Read(const std::string& path);
+
+ private:
+  void ReportOnce(const std::string& path, const platform::FileMoment& written);
+
+  platform::FileSystem& m_files;
+  std::function<void(const std::string&)> m_reportEvent;
+  std::unordered_map<std::string, std::int64_t> m_reported;  ///< path, moment it was written (nanoseconds)
+};
+
+}  // namespace dayvane::links

@@ -1,0 +1,13 @@
+#include "linux/LinuxClock.h"
+
+#include <ctime>
+
+#include "linux/LinuxFileSystem.h"
+
+namespace dayvane {
+
+std::chrono::local_seconds LinuxClock::Now() {
+  return files::LocalTime(std::time(nullptr));
+}
+
+}  // namespace dayvane

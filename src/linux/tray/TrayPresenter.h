@@ -1,0 +1,58 @@
+#pragma once
+
+#include <QAction>
+#include <QSystemTrayIcon>
+#include <QTimer>
+#include <chrono>
+#include <memory>
+#include <vector>
+
+#include "controls/Deferred.h"
+#include "controls/Form.h"
+#include "controls/SimpleControls.h"
+#include "linux/tray/TrayStandIn.h"
+#include "linux/tray/TrayWatch.h"
+#include "linux/widgets/LateShow.h"
+#include "linux/widgets/MenuPresenter.h"
+
+namespace dayvane::widgets {
+
+/// Shows the tray icon with its menu. The panel opens the menu by itself, so the program hears of no right click;
+/// the menu's default item is its first visible one. While there is no tray and the main form is hidden, a stand-in
+/// window carries the menu's commands. Its Show and Hide are those that fit the form, which not every way of hiding it
+/// tells the menu of: without them there would be no way back.
+class TrayPresenter {
+ public:
+  /// `patience`: how long a tray may be gone before the stand-in shows, for a panel that only starts anew.
+  TrayPresenter(controls::SystemTray& control, controls::Menu& menu, controls::Form& form, TrayWatch& watch,
+                std::chrono::milliseconds patience = std::chrono::seconds(3));
+
+  TrayStandIn& StandIn() { return m_standIn; }
+  MenuPresenter& Menu() { return m_menu; }
+
+  /// What a click on the icon does.
+  void Activate(QSystemTrayIcon::ActivationReason reason);
+
+ private:
+  void Show();
+  void ShowPicture();
+  void ShowIcon();
+  void ShowStandIn();
+  QList<QAction*> Commands();  ///< of the stand-in
+
+  controls::SystemTray& m_control;
+  controls::Form& m_form;
+  TrayWatch& m_watch;
+  MenuPresenter m_menu;
+  QAction m_show;
+  QAction m_hide;
+  TrayStandIn m_standIn;
+  std::unique_ptr<QSystemTrayIcon> m_icon;  ///< once there was a tray
+  QTimer m_patience;
+  int m_shownPicture = 0;
+  controls::Deferred m_deferred;
+  LateShow m_late{[this] { ShowPicture(); }};
+  std::vector<controls::Connection> m_connections;
+};
+
+}  // namespace dayvane::widgets

@@ -1,0 +1,148 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <span>
+
+#include "resources/MHelpConstants.h"
+#include "resources/MResourceConstants.h"
+
+/// The commands of the main window: what stands in its menus and on its toolbar, once for every desktop. An enumerator
+/// is the index that the event of its menu or button carries; separators have one too.
+namespace dayvane {
+
+/// One item of a menu. "&" marks the access key, "-" is a separator.
+struct MenuRow {
+  int item;
+  const char* caption;
+};
+
+enum FileItem : int { kFileSuspend, kFileResume, kFileHide, kFileSeparator, kFileExit };
+inline constexpr std::array kFileRows{MenuRow{kFileSuspend, "S&uspend"}, MenuRow{kFileResume, "&Resume"},
+                                      MenuRow{kFileHide, "&Hide"}, MenuRow{kFileSeparator, "-"},
+                                      MenuRow{kFileExit, "E&xit"}};
+
+enum ViewItem : int {
+  kViewDaily,
+  kViewFavorites,
+  kViewDesktop,  ///< no action
+  kViewSeparator,
+  kViewLargeIcons,  ///< from here in the order of the list styles
+  kViewSmallIcons,
+  kViewList,
+  kViewDetails,
+  kViewSeparator2,
+  kViewArrangeIcons,
+  kViewSeparator3,
+  kViewOptions
+};
+inline constexpr std::array kViewRows{MenuRow{kViewDaily, "D&aily"},
+                                      MenuRow{kViewFavorites, "&Favorites"},
+                                      MenuRow{kViewDesktop, "D&esktop"},
+                                      MenuRow{kViewSeparator, "-"},
+                                      MenuRow{kViewLargeIcons, "Lar&ge Icons"},
+                                      MenuRow{kViewSmallIcons, "S&mall Icons"},
+                                      MenuRow{kViewList, "&List"},
+                                      MenuRow{kViewDetails, "&Details"},
+                                      MenuRow{kViewSeparator2, "-"},
+                                      MenuRow{kViewArrangeIcons, "Arrange &Icons"},
+                                      MenuRow{kViewSeparator3, "-"},
+                                      MenuRow{kViewOptions, "&Options"}};
+
+/// Of the View menu's submenu and of the lists' context menu.
+enum ArrangeItem : int { kArrangeByName, kArrangeByType, kArrangeSeparator, kArrangeAuto };
+inline constexpr std::array kArrangeRows{MenuRow{kArrangeByName, "by &Name"}, MenuRow{kArrangeByType, "by &Type"},
+                                         MenuRow{kArrangeSeparator, "-"}, MenuRow{kArrangeAuto, "&Auto Arrange"}};
+
+enum ToolsItem : int {
+  kToolsFind,
+  kToolsSeparator,
+  kToolsExplore,
+  kToolsOpenFolder,
+  kToolsSeparator2,
+  kToolsRebuildFavorites
+};
+inline constexpr std::array kToolsRows{
+    MenuRow{kToolsFind, "&Find..."},    MenuRow{kToolsSeparator, "-"},
+    MenuRow{kToolsExplore, "&Explore"}, MenuRow{kToolsOpenFolder, "&Open"},
+    MenuRow{kToolsSeparator2, "-"},     MenuRow{kToolsRebuildFavorites, "&Rebuild Favorites"}};
+
+enum HelpItem : int { kHelpTopics, kHelpSeparator, kHelpKorvathOnline, kHelpSeparator2, kHelpAbout };
+inline constexpr std::array kHelpRows{MenuRow{kHelpTopics, "&Dayvane Help Topics"}, MenuRow{kHelpSeparator, "-"},
+                                      MenuRow{kHelpKorvathOnline, "&Korvath Online"}, MenuRow{kHelpSeparator2, "-"},
+                                      MenuRow{kHelpAbout, "&About Dayvane"}};
+
+enum TreeViewItem : int { kTreeViewPurge };
+inline constexpr std::array kTreeViewRows{MenuRow{kTreeViewPurge, "&Purge"}};
+
+enum TrayItem : int {
+  kTrayShow,
+  kTrayHide,
+  kTraySuspend,
+  kTrayResume,
+  kTraySeparator,
+  kTrayAbout,
+  kTraySeparator2,
+  kTrayExit
+};
+inline constexpr std::array kTrayRows{MenuRow{kTrayShow, "&Show"},       MenuRow{kTrayHide, "&Hide"},
+                                      MenuRow{kTraySuspend, "S&uspend"}, MenuRow{kTrayResume, "&Resume"},
+                                      MenuRow{kTraySeparator, "-"},      MenuRow{kTrayAbout, "&About Dayvane"},
+                                      MenuRow{kTraySeparator2, "-"},     MenuRow{kTrayExit, "E&xit"}};
+
+enum ListViewItem : int {
+  kListViewOpen,
+  kListViewSeparator,
+  kListViewView,
+  kListViewSeparator2,
+  kListViewArrangeIcons
+};
+inline constexpr std::array kListViewRows{MenuRow{kListViewOpen, "&Open"}, MenuRow{kListViewSeparator, "-"},
+                                          MenuRow{kListViewView, "&View"}, MenuRow{kListViewSeparator2, "-"},
+                                          MenuRow{kListViewArrangeIcons, "Arrange &Icons"}};
+
+/// The context menu's submenu of list styles, in their order.
+enum StyleItem : int { kStyleLargeIcons, kStyleSmallIcons, kStyleList, kStyleDetails };
+inline constexpr std::array kStyleRows{MenuRow{kStyleLargeIcons, "Lar&ge Icons"},
+                                       MenuRow{kStyleSmallIcons, "S&mall Icons"}, MenuRow{kStyleList, "&List"},
+                                       MenuRow{kStyleDetails, "&Details"}};
+
+enum ToolbarButton : std::size_t {
+  kDailyButton,
+  kFavoritesButton,
+  kBlankButton,  ///< no action, not shown
+  kExploreButton,
+  kOpenFolderButton,
+  kFindButton,
+  kLargeIconsButton,  ///< from here in the order of the list styles
+  kSmallIconsButton,
+  kListButton,
+  kDetailsButton,
+  kHelpButton,
+  kWhatsThisButton
+};
+
+/// One button of the toolbar.
+struct ToolbarRow {
+  ToolbarButton button;
+  const char* tip;  ///< empty for a button that is not shown
+  HelpContextId help;
+  PictureId picture;
+  int group;  ///< there is room between the groups
+};
+inline constexpr std::array kToolbarRows{
+    ToolbarRow{kDailyButton, "Daily View", kHelpDailyViewButton, kDailyViewPicture, 0},
+    ToolbarRow{kFavoritesButton, "Favorites View", kHelpFavoritesViewButton, kFavoritesViewPicture, 0},
+    ToolbarRow{kBlankButton, "", kNoHelp, kNoPicture, 0},
+    ToolbarRow{kExploreButton, "Explore Folder", kHelpExploreFolderButton, kExploreFolderPicture, 1},
+    ToolbarRow{kOpenFolderButton, "Open Folder", kHelpOpenFolderButton, kOpenFolderPicture, 1},
+    ToolbarRow{kFindButton, "Find Document", kNoHelp, kFindDocumentPicture, 1},
+    ToolbarRow{kLargeIconsButton, "Large Icon View", kHelpLargeIconViewButton, kLargeIconViewPicture, 2},
+    ToolbarRow{kSmallIconsButton, "Small Icon View", kHelpSmallIconViewButton, kSmallIconViewPicture, 2},
+    ToolbarRow{kListButton, "List View", kHelpListViewButton, kListViewPicture, 2},
+    ToolbarRow{kDetailsButton, "Detail View", kHelpDetailViewButton, kDetailViewPicture, 2},
+    ToolbarRow{kHelpButton, "Main Window Help", kHelpMainWindowHelpButton, kMainWindowHelpPicture, 3},
+    ToolbarRow{kWhatsThisButton, "What's This Help", kNoHelp, kWhatsThisHelpPicture, 3}};
+inline constexpr std::size_t kToolbarButtons = kToolbarRows.size();
+
+}  // namespace dayvane

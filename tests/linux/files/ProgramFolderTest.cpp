@@ -1,0 +1,107 @@
+#include <filesystem>
+#include <gtest/gtest.h>
+
+#include "base/Error.h"
+#include "linux/files/ProgramFolder.h"
+#include "tests/support/TemporaryFolder.h"
+#include "tests/support/UnprivilegedUser.h"
+
+namespace dayvane {
+namespace {
+
+using dayvane::testing::TemporaryFolder;
+using dayvane::testing::UnprivilegedUser;
+namespace fs = std::filesystem;
+
+xdg::Environment Ana() {
+  xdg::Environment environment;
+  environment.home = "/home/ana";
+  return environment;
+}
+
+TEST(ProgramFolder, APortableProgramKeepsEverythingBesideItself) {
+  const TemporaryFolder folder;
+  const ProgramFolders found = FindProgramFolders(folder / "dayvane", Ana());
+  EXPECT_EQ(found.data, folder.Native());
+  EXPECT_EQ(found.resources, folder.Native());
+}
+
+TEST(ProgramFolder, AnInstalledProgramKeepsItsDataWithTheUsers) {
+  const TemporaryFolder prefix;
+  fs::create_directories(prefix / "share/dayvane");
+  const ProgramFolders found = FindProgramFolders(prefix / "bin/dayvane", Ana());
+  EXPECT_EQ(found.data, "/home/ana/.local/share/dayvane");
+  EXPECT_EQ(found.resources, prefix / "share/dayvane");
+}
+
+TEST(ProgramFolder, AFolderCalledBinAloneIsNoInstallation) {
+  const TemporaryFolder folder;
+  const ProgramFolders found = FindProgramFolders(folder / "bin/dayvane", Ana());
+  EXPECT_EQ(found.data, folder / "bin");
+  EXPECT_EQ(found.resources, folder / "bin");
+}
+
+TEST(ProgramFolder, TheSharedFolderAloneIsNoInstallation) {
+  const TemporaryFolder folder;
+  fs::create_directories(folder / "share/dayvane");
+  EXPECT_EQ(FindProgramFolders(folder / "build/dayvane", Ana()).data, folder / "build");
+}
+
+TEST(ProgramFolder, IsMadeForTheUserAlone) {
+  const TemporaryFolder folder;
+  MakeDataFolder({folder / "share/dayvane", {}, {}});
+  EXPECT_EQ(fs::status(folder / "share/dayvane").permissions(), fs::perms::owner_all);
+}
+
+TEST(ProgramFolder, ThatCannotBeMadeIsAnErrorWithPathAndReason) {
+  const TemporaryFolder folder;
+  fs::permissions(folder.Native(), fs::perms(0555));
+  try {
+    const UnprivilegedUser nobody;
+    MakeDataFolder({folder / "dayvane", {}, {}});
+    FAIL() << "nothing was reported";
+  } catch (const Error& error) {
+    EXPECT_EQ(error.Number(), kPermissionDenied);
+    EXPECT_EQ(error.Path(), folder / "dayvane");
+    EXPECT_FALSE(error.Description().empty());
+  }
+  fs::permissions(folder.Native(), fs::perms::owner_all);
+}
+
+TEST(ProgramFolder, ThatCannotBeWrittenIsAnErrorWithPathAndReason) {
+  const TemporaryFolder folder;
+  fs::permissions(folder.Native(), fs::perms(0555));
+  try {
+    const UnprivilegedUser nobody;
+    MakeDataFolder({folder.Native(), {}, {}});
+    FAIL() << "nothing was reported";
+  } catch (const Error& error) {
+    EXPECT_EQ(error.Number(), kPermissionDenied);
+    EXPECT_EQ(error.Path(), folder.Native());
+  }
+  fs::permissions(folder.Native(), fs::perms::owner_all);
+}
+
+TEST(ProgramFolder, AnInstallationThatLostItsSharedFolderIsToldAsThat) {
+  const TemporaryFolder prefix;
+  fs::create_directory(prefix / "bin");
+  for (const std::string& folder : {prefix.Native(), prefix / "bin"}) fs::permissions(folder, fs::perms(0555));
+  try {
+    const UnprivilegedUser nobody;
+    MakeDataFolder(FindProgramFolders(prefix / "bin/dayvane", Ana()));
+    FAIL() << "nothing was reported";
+  } catch (const Error& error) {
+    EXPECT_EQ(error.what(), "Dayvane is not completely installed. Its folder is missing: " + prefix / "share/dayvane");
+  }
+  fs::permissions(prefix.Native(), fs::perms::owner_all);
+}
+
+TEST(ProgramFolder, AProgramThatIsCarriedAboutMayLieInAFolderCalledBin) {
+  const TemporaryFolder folder;
+  fs::create_directory(folder / "bin");
+
+  EXPECT_NO_THROW(MakeDataFolder(FindProgramFolders(folder / "bin/dayvane", Ana())));
+}
+
+}  // namespace
+}  // namespace dayvane

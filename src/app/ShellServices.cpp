@@ -70,6 +70,10 @@ int ShellServices::Open(const std::string& target, const std::string& workingFol
   return m_desktop.shell.Open(target, workingFolder, showCommand);
 }
 
+void ShellServices::RunExplorer(const std::string& arguments) const {
+  m_desktop.shell.Run(WindowsFolder() + "\\EXPLORER.EXE " + arguments);
+}
+
 std::string ShellServices::DisplayPath(const std::string& path) const {
   return m_desktop.shell.DisplayPath(path);
 }

@@ -63,6 +63,9 @@ class ShellServices {
   /// The shell's result code, see platform::Shell::Open.
   int Open(const std::string& target, const std::string& workingFolder, std::int32_t showCommand) const;
 
+  /// Starts the desktop's explorer with these arguments.
+  void RunExplorer(const std::string& arguments) const;
+
   std::string DisplayPath(const std::string& path) const;
 
  private:

@@ -1,7 +1,6 @@
 #include "base/Text.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cwctype>
 #include <locale>
 
@@ -25,10 +24,6 @@ const std::ctype<wchar_t>& CaseTables() {
     return std::locale::classic();
   }();
   return std::use_facet<std::ctype<wchar_t>>(locale);
-}
-
-bool IsAscii(std::string_view text) {
-  return std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
 }
 
 char AsciiUpper(char c) {
@@ -62,6 +57,10 @@ std::string MapCase(std::string_view text, Ascii ascii, Wide wide) {
 }
 
 }  // namespace
+
+bool IsAscii(std::string_view text) {
+  return std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+}
 
 std::string_view Trim(std::string_view text) {
   const auto first = text.find_first_not_of(' ');
@@ -98,10 +97,7 @@ bool EndsWithIgnoringCase(std::string_view text, std::string_view ending) {
 std::optional<std::int32_t> ToInt32(std::string_view text) {
   text = Trim(text);
   if (text.starts_with('+')) text.remove_prefix(1);
-  std::int32_t number = 0;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-  if (error != std::errc{} || end != text.data() + text.size()) return std::nullopt;
-  return number;
+  return ToNumber<std::int32_t>(text);
 }
 
 bool IsNumeric(std::string_view text) {

@@ -1,9 +1,11 @@
 #pragma once
 
+#include <charconv>
 #include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <system_error>
 
 /// Text in UTF-8. Case follows Unicode's simple mappings, whatever the user's locale; bytes that are no UTF-8 pass
 /// through unchanged.
@@ -19,6 +21,17 @@ std::string ToLower(std::string_view text);
 int CompareIgnoringCase(std::string_view left, std::string_view right);
 
 bool EndsWithIgnoringCase(std::string_view text, std::string_view ending);
+
+bool IsAscii(std::string_view text);
+
+/// The whole text as a number in the form of std::from_chars, with nothing around it; nothing when it is none or does
+/// not fit.
+template <class Number>
+std::optional<Number> ToNumber(std::string_view text) {
+  Number number{};
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+  return error == std::errc() && end == text.data() + text.size() ? std::optional(number) : std::nullopt;
+}
 
 /// The whole text as a decimal integer, blanks around it allowed; nothing when it is none or does not fit.
 std::optional<std::int32_t> ToInt32(std::string_view text);

@@ -26,10 +26,11 @@ bool ProgramExists(platform::FileSystem& files, const std::string& path) {
 
 }  // namespace
 
-CShortcut::CShortcut(Application& application) : m_application(application), m_classes(application.desktop.registry) {}
+CShortcut::CShortcut(Application& application)
+    : Asserting(application, ClassName), m_application(application), m_classes(application.desktop.registry) {}
 
 void CShortcut::SetFile(const std::string& path) {
-  if (text::Trim(path).empty()) m_application.asserts.Assert(false, std::string(ClassName) + ".File: Path is missing");
+  Assert(!text::Trim(path).empty(), ".File: Path is missing");
   m_file = path;
   m_fileName = m_application.shellServices.SplitPath(path).fileName;
   m_isMissing = false;

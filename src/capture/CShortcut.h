@@ -4,6 +4,7 @@
 #include <string>
 
 #include "app/Application.h"
+#include "app/Asserting.h"
 #include "app/Date.h"
 #include "capture/DocumentClass.h"
 #include "platform/FileSystem.h"
@@ -12,7 +13,7 @@ namespace dayvane {
 
 /// One shortcut file (".lnk") and what it points at. Setting the file reads everything; the rest are plain values
 /// afterwards. Setting one object to many files is cheaper than an object for each: it reads each document class once.
-class CShortcut {
+class CShortcut : private Asserting {
  public:
   static constexpr const char* ClassName = "CShortcut";
 

@@ -2,7 +2,6 @@
 
 #include "app/IgnoreErrors.h"
 #include "app/ReportErrors.h"
-#include "base/Required.h"
 #include "base/Text.h"
 #include "capture/CShortcut.h"
 #include "capture/Filing.h"
@@ -65,10 +64,8 @@ void FMain::GetShortcuts() {
 }
 
 void FMain::ProcessShortcut(CShortcut* shortcut) {
-  Assert(shortcut != nullptr, ".ProcessShortcut: Shortcut is nothing");
-  Assert(m_oFavorites != nullptr, ".ProcessShortcut: Favorites object is nothing");
-  Required(shortcut);
-  Required(m_oFavorites);
+  Demand(shortcut, ".ProcessShortcut: Shortcut is nothing");
+  Demand(m_oFavorites, ".ProcessShortcut: Favorites object is nothing");
   const Date cutOff = m_application.Now().AddDays(-std::int64_t{m_purgeAge});
   auto& files = m_application.desktop.files;
   const std::string destination = filing::DayFolder(m_repository.DailyPath(), *shortcut) + "\\" + shortcut->FileName();

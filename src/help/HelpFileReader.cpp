@@ -1,10 +1,10 @@
 #include "help/HelpFileReader.h"
 
-#include <charconv>
-#include <optional>
+#include <algorithm>
 #include <utility>
 
 #include "base/Error.h"
+#include "base/Text.h"
 #include "base/Utf8.h"
 #include "help/PlainText.h"
 
@@ -36,12 +36,6 @@ std::vector<std::string_view> Split(std::string_view text, char separator) {
   }
   parts.push_back(text);
   return parts;
-}
-
-std::optional<int> NumberOf(std::string_view text) {
-  int number = 0;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-  return error == std::errc() && end == text.data() + text.size() ? std::optional(number) : std::nullopt;
 }
 
 }  // namespace
@@ -76,7 +70,7 @@ std::string_view HelpFileReader::TakeLine() {
 }
 
 std::string_view HelpFileReader::TakePayload(std::string_view size) {
-  const auto bytes = NumberOf(size);
+  const auto bytes = text::ToNumber<int>(size);
   if (!bytes || *bytes < 0) FailDamaged("a size is no number");
   const auto length = static_cast<std::size_t>(*bytes);
   if (length >= m_rest.size()) FailCutShort();  // a line feed follows the record
@@ -103,7 +97,7 @@ void HelpFileReader::TakeTopic(const Header& header) {
 }
 
 void HelpFileReader::TakeContext(std::string_view number) {
-  const auto context = NumberOf(number);
+  const auto context = text::ToNumber<int>(number);
   if (!context || *context < 1 || *context > kLargestContext) FailDamaged("a context is no number");
   if (!m_file.m_contexts.emplace(*context, m_file.m_topics.size()).second) FailDamaged("a context is there twice");
 }

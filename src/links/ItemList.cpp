@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <optional>
 
+#include "base/Text.h"
 #include "links/ByteWriter.h"
 #include "links/LinkText.h"
 #include "links/ShellLinkLayout.h"
@@ -101,10 +102,6 @@ bool AppendItem(std::string& path, ByteView item) {
                                     : false;
 }
 
-bool IsAscii(std::string_view text) {
-  return std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
-}
-
 std::string RootItem(unsigned sortIndex, std::string_view folder) {
   return ByteWriter().U16(4 + folder.size()).U8(kItemRoot).U8(sortIndex).Bytes(folder).Take();
 }
@@ -157,7 +154,7 @@ std::string ItemListFor(std::string_view path, bool isFolder) {
   const std::size_t share = ShareLength(path);
   if (share == 0 && !IsDrivePath(path)) return {};
   // A share's item has no Unicode form: the link info alone can spell such a name.
-  if (!IsAscii(path.substr(0, share))) return {};
+  if (!text::IsAscii(path.substr(0, share))) return {};
   std::string_view rest = path.substr(share == 0 ? 3 : share);
   std::string list = share == 0 ? RootItem(0x50, kMyComputer) + DriveItem(path.substr(0, 3))
                                 : RootItem(0x58, kNetworkPlaces) + ShareItem(path.substr(0, share));

@@ -29,7 +29,8 @@ void CreateRootFolder(platform::FileSystem& files, const std::string& path) {
 }  // namespace
 
 CRepository::CRepository(Application& application)
-    : m_application(application),
+    : Asserting(application, ClassName),
+      m_application(application),
       m_dailyPath(application.folder + "\\" + "Daily"),
       m_oDailyWalker(application.desktop.files),
       m_oFileWalker(application.desktop.files),
@@ -49,10 +50,6 @@ CRepository::CRepository(Application& application)
   CreateRootFolder(application.desktop.files, m_dailyPath);
   application.monthLanguages =
       settings::RememberMonthNames(application.desktop.registry, application.desktop.dates.monthNames);
-}
-
-void CRepository::Assert(bool condition, std::string_view message) const {
-  if (!condition) m_application.asserts.Assert(false, ClassName + std::string(message));
 }
 
 std::string CRepository::DayFolder(const Date& date) const {

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "app/Application.h"
+#include "app/Asserting.h"
 #include "app/Date.h"
 #include "fs/DirectoryWalker.h"
 #include "repository/CFolderFiles.h"
@@ -23,7 +24,7 @@ namespace dayvane {
 ///
 /// "Daily" may be a symbolic link to a folder elsewhere. Its path stays the one in the program folder all the same, so
 /// that what was recorded before the folder moved is still named rightly. Links below it are not followed.
-class CRepository {
+class CRepository : private Asserting {
  public:
   static constexpr const char* ClassName = "CRepository";
 
@@ -71,7 +72,6 @@ class CRepository {
   bool SweepFolder(const std::string& path);
   void PassOver(const std::string& folder);
   void Count(const std::string& path, bool counts, const char* procedure);
-  void Assert(bool condition, std::string_view message) const;
 
   Application& m_application;
   std::string m_dailyPath;

@@ -61,11 +61,9 @@ std::string FlagText(bool flag) {
 }
 
 std::optional<std::int16_t> ToInt16(std::string_view text) {
-  text = text::Trim(text);
-  double number = 0;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-  if (error != std::errc{} || end != text.data() + text.size()) return std::nullopt;
-  const double rounded = std::nearbyint(number);
+  const auto number = text::ToNumber<double>(text::Trim(text));
+  if (!number) return std::nullopt;
+  const double rounded = std::nearbyint(*number);
   if (!(rounded >= std::numeric_limits<std::int16_t>::min() && rounded <= std::numeric_limits<std::int16_t>::max()))
     return std::nullopt;
   return static_cast<std::int16_t>(rounded);

@@ -9,7 +9,10 @@
 namespace dayvane {
 
 FMain::FMain(Application& application, CRepository& repository)
-    : m_application(application), m_repository(repository), m_filedShortcuts(application.desktop.files) {
+    : Asserting(application, kName),
+      m_application(application),
+      m_repository(repository),
+      m_filedShortcuts(application.desktop.files) {
   application.activeForm = &form;
   ShowSuspendOrResume(true);
   ConnectControls();
@@ -17,10 +20,6 @@ FMain::FMain(Application& application, CRepository& repository)
 
 FMain::~FMain() {
   m_application.activeForm = nullptr;
-}
-
-void FMain::Assert(bool condition, std::string_view message) const {
-  if (!condition) m_application.asserts.Assert(false, kName + std::string(message));
 }
 
 void FMain::ConnectControls() {

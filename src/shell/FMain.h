@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "app/Application.h"
+#include "app/Asserting.h"
 #include "app/CWaitCursor.h"
 #include "base/Held.h"
 #include "capture/FiledShortcuts.h"
@@ -22,7 +23,7 @@ namespace dayvane {
 /// The program's only main window: the procedures behind its controls. Those of capture and of the views lie in the
 /// rooms of their concern (capture/FMainCapture.cpp, views/FMain*.cpp); what can be said without a window is a class or
 /// function of its room.
-class FMain : public FMainControls {
+class FMain : public FMainControls, private Asserting {
  public:
   static constexpr const char* kName = "FMain";
 
@@ -138,12 +139,11 @@ class FMain : public FMainControls {
   void SaveWindow();
   void SaveViews();
   void ShowListedDay(const controls::TreeNode* node);
-  void AddDocument(const std::string& nodeKey, const std::string& folder, const std::string& fileName);
+  void AddDocument(const std::string& key, const CShortcut& shortcut);
   void File(CShortcut& shortcut, const std::string& destination);
   void SaveCounts();
 
   std::unique_ptr<CWaitCursor> ShowWait();
-  void Assert(bool condition, std::string_view message) const;
 
   Application& m_application;
   CRepository& m_repository;

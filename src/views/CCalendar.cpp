@@ -1,7 +1,6 @@
 #include "views/CCalendar.h"
 
 #include "app/ReportErrors.h"
-#include "base/Required.h"
 #include "base/Text.h"
 #include "fs/Dir.h"
 
@@ -22,10 +21,6 @@ controls::Calendar::Day ToDay(const Date& date) {
 
 }  // namespace
 
-void CCalendar::Assert(bool condition, std::string_view message) const {
-  if (!condition) m_application.asserts.Assert(false, ClassName + std::string(message));
-}
-
 void CCalendar::SetCalendar(controls::Calendar* calendar) {
   m_calendar = calendar;
   m_dateChange =
@@ -35,24 +30,19 @@ void CCalendar::SetCalendar(controls::Calendar* calendar) {
 }
 
 Date CCalendar::Value() const {
-  Assert(m_calendar != nullptr, ".Value: Calendar is Nothing");
-  Required(m_calendar);
-  return ToDate(m_calendar->CurrentDate());
+  return ToDate(Demand(m_calendar, ".Value: Calendar is Nothing").CurrentDate());
 }
 
 void CCalendar::SetValue(const Date& date) {
   Assert(!date.IsZero(), ".Value: Invalid date");
-  Assert(m_calendar != nullptr, ".Value: Calendar is Nothing");
-  Required(m_calendar);
-  m_calendar->SetCurrentDate(ToDay(date));
+  Demand(m_calendar, ".Value: Calendar is Nothing").SetCurrentDate(ToDay(date));
 }
 
 void CCalendar::HighlightDays(const Date& date) {
   // The text is the one of SetValue, deliberately.
   Assert(!date.IsZero(), ".Value: Invalid date");
-  Assert(m_calendar != nullptr, ".HighlightDays: Calendar is Nothing");
   Assert(!text::Trim(DailyPath).empty(), ".HighlightDays: DailyPath is missing");
-  Required(m_calendar);
+  Demand(m_calendar, ".HighlightDays: Calendar is Nothing");
   for (int day = 1; day <= kLastDay; ++day) m_calendar->SetHighlight(day, false);
   auto& files = m_application.desktop.files;
   const auto& dates = m_application.desktop.dates;
@@ -65,9 +55,7 @@ void CCalendar::HighlightDays(const Date& date) {
 }
 
 void CCalendar::Refresh() {
-  Assert(m_calendar != nullptr, ".Refresh: Calendar is Nothing");
-  Required(m_calendar);
-  m_calendar->Redraw();
+  Demand(m_calendar, ".Refresh: Calendar is Nothing").Redraw();
 }
 
 void CCalendar::SetListed(const Date& date) {

@@ -3,17 +3,18 @@
 #include <string>
 
 #include "app/Application.h"
+#include "app/Asserting.h"
 #include "app/Date.h"
 #include "controls/Calendar.h"
 
 namespace dayvane {
 
 /// Wraps the month calendar: keeps the highlighted days in step with the repository and passes date changes on.
-class CCalendar {
+class CCalendar : private Asserting {
  public:
   static constexpr const char* ClassName = "CCalendar";
 
-  explicit CCalendar(Application& application) : m_application(application) {}
+  explicit CCalendar(Application& application) : Asserting(application, ClassName), m_application(application) {}
 
   /// The calendar control; its events are handled from then on. It must outlive this object or be taken away.
   void SetCalendar(controls::Calendar* calendar);
@@ -34,7 +35,6 @@ class CCalendar {
 
  private:
   void Calendar_DateChange(const Date& newDate);
-  void Assert(bool condition, std::string_view message) const;
 
   Application& m_application;
   controls::Calendar* m_calendar = nullptr;

@@ -1,9 +1,6 @@
 #include "views/CDaily.h"
 
-#include <cstdint>
-
 #include "app/ReportErrors.h"
-#include "base/Required.h"
 #include "settings/SettingsStore.h"
 
 namespace dayvane {
@@ -12,8 +9,6 @@ namespace {
 
 constexpr const char* kSubtree = "Daily";
 constexpr double kPastEdge = 30;  ///< twips that tree and list reach past the pane's inner edge
-
-enum Setting : std::size_t { kFirstWidth = 0, kSortColumn = 4, kSortOrder };
 
 const std::vector<settings::NamedText>& Defaults() {
   static const std::vector<settings::NamedText> defaults{{"Name Width", "1440"}, {"Type Width", "1440"},
@@ -36,8 +31,7 @@ void CDaily::SetControls(controls::TreeView* treeView, controls::ListView* listV
 }
 
 controls::TreeView& CDaily::Tree(const std::string& procedure) const {
-  Assert(m_treeView != nullptr, "." + procedure + ": TreeView is Nothing");
-  return Required(m_treeView);
+  return Demand(m_treeView, "." + procedure + ": TreeView is Nothing");
 }
 
 controls::TreeNode* CDaily::SelectedDay() const {
@@ -60,10 +54,10 @@ void CDaily::Container_Resize() {
 }
 
 void CDaily::Explore() const {
-  ShowFolder(List("Explore"), "\\EXPLORER.EXE /n,/e,/root,");
+  ShowFolder(List("Explore"), "/n,/e,/root,");
 }
 void CDaily::OpenFolder() const {
-  ShowFolder(List("OpenFolder"), "\\EXPLORER.EXE /n,");
+  ShowFolder(List("OpenFolder"), "/n,");
 }
 
 void CDaily::ShowFolder(const controls::ListView& list, const std::string& explorerArguments) const {
@@ -73,7 +67,7 @@ void CDaily::ShowFolder(const controls::ListView& list, const std::string& explo
     return;
   }
   const std::string& path = document->Text(kPathColumn);
-  m_application.desktop.shell.Run(m_application.shellServices.WindowsFolder() + explorerArguments + path);
+  m_application.shellServices.RunExplorer(explorerArguments + path);
 }
 
 void CDaily::RemoveDocument(const std::string& key) {
@@ -86,22 +80,15 @@ void CDaily::CreateRegistryKeys() {
 
 void CDaily::RestoreSettings() {
   controls::ListView& list = List("RestoreSettings");
-  const settings::Subtree subtree(m_application.desktop.registry, kSubtree, Defaults());
-  for (std::size_t column = 0; column < list.Columns().size(); ++column)
-    list.SetColumnWidth(column, subtree.Number(kFirstWidth + column));
-  list.SetSortKey(static_cast<std::size_t>(subtree.Number(kSortColumn)));
-  list.SetSortOrder(subtree.Number(kSortOrder) == 1 ? controls::SortOrder::Descending : controls::SortOrder::Ascending);
+  const Sort sort = RestoreColumns(kSubtree, Defaults());
+  list.SetSortKey(sort.column);
+  list.SetSortOrder(sort.order);
   list.SetSorted(true);
 }
 
 void CDaily::SaveSettings() const {
   const controls::ListView& list = List("SaveSettings");
-  const auto key = settings::OpenSubtree(m_application.desktop.registry, kSubtree);
-  for (std::size_t column = 0; column < list.Columns().size(); ++column)
-    key->SetValue(Defaults()[kFirstWidth + column].name, settings::NumberText(list.Columns()[column].width));
-  // Through the stored type, so that a column that is none goes back as it came.
-  key->SetValue("Sort Column", std::to_string(static_cast<std::int16_t>(list.SortKey())));
-  key->SetValue("Sort Order", std::to_string(static_cast<int>(list.Order())));
+  SaveColumns(kSubtree, Defaults(), {list.SortKey(), list.Order()});
 }
 
 }  // namespace dayvane

@@ -5,7 +5,6 @@
 
 #include "app/ReportErrors.h"
 #include "base/Error.h"
-#include "base/Required.h"
 #include "base/Text.h"
 #include "fs/DirectoryWalker.h"
 
@@ -44,9 +43,7 @@ std::string Storable(std::string text) {
 }  // namespace
 
 void CFavorites::ProcessShortcut(const CShortcut* shortcut) {
-  Assert(shortcut != nullptr, ".ProcessShortcut: Shortcut is Nothing");
-  Required(shortcut);
-  CountInTable(*shortcut);
+  CountInTable(Demand(shortcut, ".ProcessShortcut: Shortcut is Nothing"));
   if (std::erase(m_uncounted, shortcut->File()) > 0) m_unsaved.push_back(shortcut->File());
 }
 

@@ -10,8 +10,6 @@ namespace {
 
 constexpr const char* kSubtree = "Favorites";
 
-enum Setting : std::size_t { kFirstWidth = 0, kSortColumn = 5, kSortOrder };
-
 const std::vector<settings::NamedText>& Defaults() {
   static const std::vector<settings::NamedText> defaults{
       {"Name Width", "1440"},          {"Type Width", "1440"}, {"Path Width", "1440"}, {"Days Accessed Width", "1440"},
@@ -48,22 +46,13 @@ void CFavorites::CreateRegistryKeys() {
 }
 
 void CFavorites::RestoreSettings() {
-  controls::ListView& list = List("RestoreSettings");
-  const settings::Subtree subtree(m_application.desktop.registry, kSubtree, Defaults());
-  for (std::size_t column = 0; column < list.Columns().size(); ++column)
-    list.SetColumnWidth(column, subtree.Number(kFirstWidth + column));
-  m_sortColumn = static_cast<std::size_t>(subtree.Number(kSortColumn));
-  m_sortOrder = subtree.Number(kSortOrder) == 1 ? controls::SortOrder::Descending : controls::SortOrder::Ascending;
+  const Sort sort = RestoreColumns(kSubtree, Defaults());
+  m_sortColumn = sort.column;
+  m_sortOrder = sort.order;
 }
 
 void CFavorites::SaveSettings() const {
-  const controls::ListView& list = List("SaveSettings");
-  const auto key = settings::OpenSubtree(m_application.desktop.registry, kSubtree);
-  for (std::size_t column = 0; column < list.Columns().size(); ++column)
-    key->SetValue(Defaults()[kFirstWidth + column].name, settings::NumberText(list.Columns()[column].width));
-  // Through the stored type, so that a column that is none goes back as it came.
-  key->SetValue("Sort Column", std::to_string(static_cast<std::int16_t>(m_sortColumn)));
-  key->SetValue("Sort Order", std::to_string(static_cast<int>(m_sortOrder)));
+  SaveColumns(kSubtree, Defaults(), {m_sortColumn, m_sortOrder});
 }
 
 void CFavorites::SortAgain() {

@@ -3,7 +3,6 @@
 #include <utility>
 
 #include "app/ReportErrors.h"
-#include "base/Required.h"
 #include "controls/Keys.h"
 
 namespace dayvane {
@@ -12,27 +11,15 @@ using controls::ListArrange;
 using controls::ListStyle;
 using controls::SortOrder;
 
-namespace {
-
-// Key codes and modifier bits of the classic key events.
-
-}  // namespace
-
-DocumentListView::DocumentListView(Application& application, std::string className)
-    : m_application(application), m_className(std::move(className)) {}
-
-void DocumentListView::Assert(bool condition, std::string_view message) const {
-  if (!condition) m_application.asserts.Assert(false, m_className + std::string(message));
-}
+DocumentListView::DocumentListView(Application& application, std::string_view className)
+    : Asserting(application, className), m_application(application), m_className(className) {}
 
 controls::ListView& DocumentListView::List(const std::string& procedure) const {
-  Assert(m_listView != nullptr, "." + procedure + ": ListView is Nothing");
-  return Required(m_listView);
+  return Demand(m_listView, "." + procedure + ": ListView is Nothing");
 }
 
 controls::PictureBox& DocumentListView::Container(const std::string& procedure) const {
-  Assert(m_container != nullptr, "." + procedure + ": Container is Nothing");
-  return Required(m_container);
+  return Demand(m_container, "." + procedure + ": Container is Nothing");
 }
 
 template <class Handler>
@@ -130,6 +117,27 @@ void SortByColumn(controls::ListView& list, std::size_t column, SortOrder order)
   list.SetSortKey(column - 1);
   list.SetSortOrder(order);
   list.SetSorted(true);
+}
+
+DocumentListView::Sort DocumentListView::RestoreColumns(const char* subtree,
+                                                        const std::vector<settings::NamedText>& defaults) const {
+  controls::ListView& list = List("RestoreSettings");
+  const settings::Subtree stored(m_application.desktop.registry, subtree, defaults);
+  const std::size_t columns = list.Columns().size();
+  for (std::size_t column = 0; column < columns; ++column) list.SetColumnWidth(column, stored.Number(column));
+  return {static_cast<std::size_t>(stored.Number(columns)),
+          stored.Number(columns + 1) == 1 ? controls::SortOrder::Descending : controls::SortOrder::Ascending};
+}
+
+void DocumentListView::SaveColumns(const char* subtree, const std::vector<settings::NamedText>& defaults,
+                                   const Sort& sort) const {
+  const controls::ListView& list = List("SaveSettings");
+  const auto key = settings::OpenSubtree(m_application.desktop.registry, subtree);
+  for (std::size_t column = 0; column < list.Columns().size(); ++column)
+    key->SetValue(defaults[column].name, settings::NumberText(list.Columns()[column].width));
+  // Through the stored type, so that the number of a column that does not exist goes back as it came.
+  key->SetValue("Sort Column", std::to_string(static_cast<std::int16_t>(sort.column)));
+  key->SetValue("Sort Order", std::to_string(static_cast<int>(sort.order)));
 }
 
 }  // namespace dayvane

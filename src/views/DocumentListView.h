@@ -4,15 +4,17 @@
 #include <vector>
 
 #include "app/Application.h"
+#include "app/Asserting.h"
 #include "controls/ListView.h"
 #include "controls/SimpleControls.h"
 #include "resources/StringTable.h"
+#include "settings/SettingsStore.h"
 
 namespace dayvane {
 
 /// What the Daily list and the Favorites list have in common: a list of documents on a pane, its sorting by column
 /// clicks, and the events that the main window handles. Assertions bear the name of the derived class.
-class DocumentListView {
+class DocumentListView : protected Asserting {
  public:
   /// Columns, counted from 0; but for the last those of both lists.
   static constexpr std::size_t kNameColumn = 0;
@@ -20,7 +22,7 @@ class DocumentListView {
   static constexpr std::size_t kPathColumn = 2;
   static constexpr std::size_t kModifiedColumn = 3;  ///< of the Daily list
 
-  DocumentListView(Application& application, std::string className);
+  DocumentListView(Application& application, std::string_view className);
   DocumentListView(const DocumentListView&) = delete;
   DocumentListView& operator=(const DocumentListView&) = delete;
   virtual ~DocumentListView() = default;
@@ -45,8 +47,16 @@ class DocumentListView {
   /// Fail with kObjectNotSet, after the assertion, when the control is missing.
   controls::ListView& List(const std::string& procedure) const;
   controls::PictureBox& Container(const std::string& procedure) const;
-  void Assert(bool condition, std::string_view message) const;
   bool HasList() const { return m_listView != nullptr; }
+
+  /// The widths of the columns and the sort, as the settings keep them: the defaults of a list's subtree are the widths
+  /// in the order of the columns, then "Sort Column" and "Sort Order".
+  struct Sort {
+    std::size_t column = 0;
+    controls::SortOrder order = controls::SortOrder::Ascending;
+  };
+  Sort RestoreColumns(const char* subtree, const std::vector<settings::NamedText>& defaults) const;
+  void SaveColumns(const char* subtree, const std::vector<settings::NamedText>& defaults, const Sort& sort) const;
 
   /// Lays the controls out inside the pane.
   virtual void Container_Resize() = 0;

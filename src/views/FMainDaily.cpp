@@ -139,8 +139,11 @@ void FMain::LoadDailyListView(const controls::TreeNode* node) {
   if (node == nullptr) return;
   if (!m_inTreeClick) SetExploreOpen(false);
   const std::string folder = PathOf(node->key);
-  for (const auto& entry : Dir(m_application.desktop.files, folder + "\\*.lnk", DirKinds::Files))
-    AddDocument(node->key, folder, entry.name);
+  CShortcut shortcut(m_application);
+  for (const auto& entry : Dir(m_application.desktop.files, folder + "\\*.lnk", DirKinds::Files)) {
+    shortcut.SetFile(folder + "\\" + entry.name);
+    AddDocument(KeyOf(shortcut.File()), shortcut);
+  }
   lvwDaily.SetSorted(lvwDaily.Sorted());
 }
 
@@ -151,11 +154,10 @@ void FMain::ShowListedDay(const controls::TreeNode* node) {
   if (m_oCalendar) m_oCalendar->SetListed(day);
 }
 
-void FMain::AddDocument(const std::string& nodeKey, const std::string& folder, const std::string& fileName) {
-  CShortcut shortcut(m_application);
-  shortcut.SetFile(folder + "\\" + fileName);
+void FMain::AddDocument(const std::string& key, const CShortcut& shortcut) {
   const int icon = DailyImageListIndex(shortcut.File(), shortcut.TargetFileName());
-  auto& item = lvwDaily.Add(nodeKey + "\\" + fileName, fileName.substr(0, fileName.size() - 4), icon);
+  const std::string& name = shortcut.FileName();
+  auto& item = lvwDaily.Add(key, name.substr(0, name.size() - std::string_view(".lnk").size()), icon);
   item.subItems = {shortcut.TargetClass(), m_application.shellServices.DisplayPath(shortcut.WorkingDirectory()),
                    Format(shortcut.Modified(), "Short Time", m_application.desktop.dates)};
   item.sortTexts[DocumentListView::kModifiedColumn] = OrderText(shortcut.LastWritten());

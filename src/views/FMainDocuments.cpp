@@ -4,7 +4,6 @@
 
 #include "app/IgnoreErrors.h"
 #include "app/ReportErrors.h"
-#include "base/Required.h"
 #include "base/Text.h"
 #include "capture/CShortcut.h"
 #include "shell/FMain.h"
@@ -27,10 +26,9 @@ bool IsSystemError(int result) {
 
 void FMain::OpenDocument(const controls::ListItem* item) {
   ReportErrors(m_application, kOpeningDocument, kName, "OpenDocument", [&] {
-    Assert(item != nullptr, ".OpenDocument: Item is Nothing");
     Assert(!text::Trim(m_recentFolder).empty(), ".OpenDocument: Recent folder is missing");
     // A copy: while a question waits, the next capture may fill the lists anew.
-    const controls::ListItem document = Required(item);
+    const controls::ListItem document = Demand(item, ".OpenDocument: Item is Nothing");
     CShortcut shortcut(m_application);
     ReadShortcut(shortcut, document.key);
     const ShellServices& shell = m_application.shellServices;
@@ -91,12 +89,11 @@ void FMain::PutBackIntoRecent(const CShortcut& shortcut) {
 
 void FMain::RemoveLink(const controls::ListItem* item) {
   ReportErrors(m_application, kOpeningDocument, kName, "RemoveLink", [&] {
-    Assert(item != nullptr, ".RemoveLink: Item is nothing");
     Assert(m_oDaily != nullptr, ".RemoveLink: Daily object is nothing");
     Assert(m_oFavorites != nullptr, ".RemoveLink: Favorites object is nothing");
     Assert(!text::Trim(m_recentFolder).empty(), ".RemoveLink: Recent folder is missing");
     auto& files = m_application.desktop.files;
-    const std::string key = Required(item).key;
+    const std::string key = Demand(item, ".RemoveLink: Item is nothing").key;
     const std::string path = PathOf(key);
     IgnoreErrors([&] { files.Delete(path); });
     IgnoreErrors([&] { files.Delete(m_recentFolder + "\\" + m_application.shellServices.SplitPath(path).fileName); });
@@ -116,9 +113,8 @@ void FMain::RemoveLink(const controls::ListItem* item) {
 }
 
 void FMain::PurgeDay(const controls::TreeNode* node) {
-  Assert(node != nullptr, ".PurgeDay: Node is nothing");
   Assert(m_oFavorites != nullptr, ".PurgeDay: Favorites object is nothing");
-  m_repository.PurgeDay(PathOf(Required(node).key));
+  m_repository.PurgeDay(PathOf(Demand(node, ".PurgeDay: Node is nothing").key));
   RefreshDaily();
   RefreshCalendar();
   m_oFavorites->RebuildFavorites();

@@ -25,14 +25,6 @@ std::string FormatNumber(Number number) {
   return {buffer, end};
 }
 
-template <class Number>
-std::optional<Number> ParseNumber(std::string_view text) {
-  Number number{};
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-  if (error != std::errc{} || end != text.data() + text.size()) return std::nullopt;
-  return number;
-}
-
 /// The integers of a text whose fields have fixed widths, "0000-00-00 00:00:00"; nothing when it differs in shape.
 template <std::size_t Count>
 std::optional<std::array<int, Count>> ParseShape(std::string_view text, std::string_view shape) {
@@ -72,8 +64,8 @@ Value ParseUnquoted(std::string_view text) {
   if (text.empty()) return {};
   if (text.size() >= 2 && text.front() == '#' && text.back() == '#')
     if (const auto date = ParseDate(text.substr(1, text.size() - 2))) return *date;
-  if (const auto whole = ParseNumber<std::int64_t>(text)) return *whole;
-  if (const auto number = ParseNumber<double>(text)) return *number;
+  if (const auto whole = text::ToNumber<std::int64_t>(text)) return *whole;
+  if (const auto number = text::ToNumber<double>(text)) return *number;
   return std::string(text);
 }
 

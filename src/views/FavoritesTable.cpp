@@ -1,7 +1,5 @@
 #include "views/FavoritesTable.h"
 
-#include <charconv>
-
 #include "base/Error.h"
 #include "base/Text.h"
 #include "views/FavoritesFile.h"
@@ -27,12 +25,9 @@ double NumberOf(const Value& value) {
   if (const auto* date = std::get_if<Date>(&value)) return DayNumber(*date);
   const auto* text = std::get_if<std::string>(&value);
   if (text == nullptr) return 0;
-  const std::string_view trimmed = text::Trim(*text);
-  double number = 0;
-  const auto [end, error] = std::from_chars(trimmed.data(), trimmed.data() + trimmed.size(), number);
-  if (error != std::errc{} || end != trimmed.data() + trimmed.size())
-    throw Error(kTypeMismatch, "Type mismatch: \"" + *text + "\" is no number");
-  return number;
+  const auto number = text::ToNumber<double>(text::Trim(*text));
+  if (!number) throw Error(kTypeMismatch, "Type mismatch: \"" + *text + "\" is no number");
+  return *number;
 }
 
 bool IsLater(const Date& date, const Value& value) {

@@ -29,11 +29,11 @@ glib::Variant Unwrap(GVariant* boxed) {
   return value;
 }
 
-bool IsDark(const QPalette& palette) {
-  return palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness();
-}
-
 }  // namespace
+
+bool IsDark(const QColor& background, const QColor& text) {
+  return background.lightness() < text.lightness();
+}
 
 QPalette HighContrastPalette(bool dark) {
   constexpr QColor kNavy(0x00, 0x00, 0x80);
@@ -103,7 +103,7 @@ void Appearance::SetHighContrast(bool highContrast) {
 }
 
 void Appearance::Show() {
-  const bool themeIsDark = IsDark(m_usualPalette);
+  const bool themeIsDark = IsDark(m_usualPalette.color(QPalette::Window), m_usualPalette.color(QPalette::WindowText));
   const bool usual = !m_highContrast && (!m_dark || themeIsDark);
   // Other styles draw parts of their own and would mix light and dark.
   QApplication::setStyle(QStyleFactory::create(usual ? m_usualStyle : QStringLiteral("Fusion")));

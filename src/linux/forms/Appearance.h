@@ -8,6 +8,9 @@
 
 namespace dayvane::widgets {
 
+/// Whether the text is the lighter of the two.
+bool IsDark(const QColor& background, const QColor& text);
+
 /// The palette of a dark window, for the Fusion style.
 QPalette DarkPalette();
 

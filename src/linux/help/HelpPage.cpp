@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "linux/forms/Appearance.h"
+
 namespace dayvane::help {
 
 namespace {
@@ -17,19 +19,16 @@ QColor Mixed(const QColor& a, const QColor& b, qreal shareOfB) {
   return QColor::fromRgbF(mix(a.redF(), b.redF()), mix(a.greenF(), b.greenF()), mix(a.blueF(), b.blueF()));
 }
 
-bool IsDark(const QColor& background) {
-  return qGray(background.rgb()) < 128;
-}
-
 /// The desktop's own link colour where it can be read; many dark palettes keep the pure blue of the light ones.
-QColor LinkColor(const QColor& background, const QPalette& palette) {
+QColor LinkColor(const QColor& background, bool isDark, const QPalette& palette) {
   const QColor link = palette.color(QPalette::Link);
   const bool readable = std::abs(qGray(link.rgb()) - qGray(background.rgb())) > 80;
-  return readable ? link : QColor(IsDark(background) ? "#7db4ff" : "#1f56ab");
+  return readable ? link : QColor(isDark ? "#7db4ff" : "#1f56ab");
 }
 
 QString Style(const QColor& background, const QColor& text, const QPalette& palette) {
-  const QColor accent = IsDark(background) ? QColor("#9cc3ff") : QColor("#1f4f9e");
+  const bool isDark = widgets::IsDark(background, text);
+  const QColor accent = isDark ? QColor("#9cc3ff") : QColor("#1f4f9e");
   return QStringLiteral(
              "h1, h2, p.title { color: %1; }"
              "h1 { margin: 0 0 10px 0; }"
@@ -46,7 +45,7 @@ QString Style(const QColor& background, const QColor& text, const QPalette& pale
              " border: 1px solid %5; }"
              "table.grid td { padding: 5px 10px 5px 10px; border: 1px solid %5; }"
              "table.cards td { padding: 6px 10px 6px 4px; }")
-      .arg(accent.name(), LinkColor(background, palette).name(), Mixed(background, accent, 0.12).name(),
+      .arg(accent.name(), LinkColor(background, isDark, palette).name(), Mixed(background, accent, 0.12).name(),
            Mixed(text, background, 0.3).name(), Mixed(background, text, 0.22).name());
 }
 

@@ -9,6 +9,8 @@
 #include <array>
 #include <utility>
 
+#include "linux/forms/Appearance.h"
+
 namespace dayvane::widgets {
 
 namespace {
@@ -29,10 +31,6 @@ QDate ToQDate(Day day) {
 
 Day ToDay(QDate date) {
   return Day{std::chrono::days{kDayZero.daysTo(date)}};
-}
-
-bool IsDark(const QPalette& palette) {
-  return palette.color(QPalette::Base).lightness() < palette.color(QPalette::Text).lightness();
 }
 
 }  // namespace
@@ -114,7 +112,7 @@ void CalendarPresenter::changeEvent(QEvent* event) {
 void CalendarPresenter::Show() {
   const QScopedValueRollback showing(m_showing, true);
   const Day day = m_control.CurrentDate();
-  setSelectedDate(day == Day{} ? QDate::currentDate() : ToQDate(day));
+  if (day != Day{}) setSelectedDate(ToQDate(day));
   ShowHighlights();
   ShowExplanation();
 }
@@ -149,7 +147,8 @@ void CalendarPresenter::ShowHighlights() {
 
 void CalendarPresenter::ShowWeekend() {
   QTextCharFormat weekend;
-  weekend.setForeground(IsDark(palette()) ? kWeekendOnDark : kWeekendOnLight);
+  weekend.setForeground(IsDark(palette().color(QPalette::Base), palette().color(QPalette::Text)) ? kWeekendOnDark
+                                                                                                 : kWeekendOnLight);
   for (const Qt::DayOfWeek day : {Qt::Saturday, Qt::Sunday}) setWeekdayTextFormat(day, weekend);
 }
 

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <gtest/gtest.h>
 
 #include "links/ItemList.h"
@@ -129,6 +130,13 @@ TEST(ItemList, ANameWithABackslashSpellsNoPath) {
 
 TEST(ItemList, AnEmptyNameSpellsNoPath) {
   EXPECT_EQ(PathOf({RootItem(), DriveItem("C:\\"), OldFileItem("")}), "");
+}
+
+TEST(ItemList, ANameThatDoesNotEndInsideItsItemSpellsNoPath) {
+  std::string file = OldFileItem("docs");
+  constexpr std::size_t kNameAt = 14;
+  std::replace(file.begin() + kNameAt, file.end(), '\0', 'x');
+  EXPECT_EQ(PathOf({RootItem(), DriveItem("C:\\"), file}), "");
 }
 
 TEST(ItemList, AListWithoutItsEndSpellsNoPath) {

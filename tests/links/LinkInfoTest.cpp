@@ -110,6 +110,16 @@ TEST(LinkInfo, APathThatItsFlagDoesNotAnnounceIsNotThere) {
   EXPECT_EQ(AnsiPath(ByteView(bytes)), "");
 }
 
+TEST(LinkInfo, ANetworkPathThatItsFlagDoesNotAnnounceIsNotThere) {
+  Info info;
+  info.netName = "\\\\server\\share";
+  info.suffix = "a.txt";
+  std::string bytes = info.Bytes();
+  ASSERT_NE(AnsiPath(ByteView(bytes)), "");
+  bytes[8] = 0;
+  EXPECT_EQ(AnsiPath(ByteView(bytes)), "");
+}
+
 TEST(LinkInfo, AnOffsetBeyondTheEndOrIntoTheHeaderIsNoText) {
   const std::string good = LocalFile().Bytes();
   for (const std::uint32_t offset :

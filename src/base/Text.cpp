@@ -1,30 +1,14 @@
 #include "base/Text.h"
 
 #include <algorithm>
-#include <cwctype>
-#include <locale>
+#include <iterator>
 
+#include "base/CaseMapping.h"
 #include "base/Utf8.h"
 
 namespace dayvane::text {
 
 namespace {
-
-/// Case tables for all of Unicode. The classic locale knows ASCII alone on some systems, so a UTF-8 one is preferred;
-/// no user setting is consulted, because a path must fold alike on every start.
-const std::ctype<wchar_t>& CaseTables() {
-  static const std::locale locale = [] {
-    for (const char* name : {"C.UTF-8", "C.utf8", "en_US.UTF-8"}) {
-      try {
-        return std::locale(name);
-      } catch (const std::runtime_error&) {
-        // Not on this system: the next name may be.
-      }
-    }
-    return std::locale::classic();
-  }();
-  return std::use_facet<std::ctype<wchar_t>>(locale);
-}
 
 char AsciiUpper(char c) {
   return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
@@ -33,8 +17,8 @@ char AsciiLower(char c) {
   return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
 }
 
-template <class Ascii, class Wide>
-std::string MapCase(std::string_view text, Ascii ascii, Wide wide) {
+template <class Ascii, class Simple>
+std::string MapCase(std::string_view text, Ascii ascii, Simple simple) {
   std::string out;
   out.reserve(text.size());
   if (IsAscii(text)) {
@@ -48,9 +32,7 @@ std::string MapCase(std::string_view text, Ascii ascii, Wide wide) {
       text.remove_prefix(1);
       continue;
     }
-    // A platform whose wide characters have 16 bits has no mapping for what lies beyond them.
-    const bool mappable = codePoint <= static_cast<char32_t>(WCHAR_MAX);
-    utf8::Append(out, mappable ? static_cast<char32_t>(wide(static_cast<wchar_t>(codePoint))) : codePoint);
+    utf8::Append(out, simple(codePoint));
     text.remove_prefix(length);
   }
   return out;
@@ -69,11 +51,11 @@ std::string_view Trim(std::string_view text) {
 }
 
 std::string ToUpper(std::string_view text) {
-  return MapCase(text, AsciiUpper, [](wchar_t c) { return CaseTables().toupper(c); });
+  return MapCase(text, AsciiUpper, SimpleUpper);
 }
 
 std::string ToLower(std::string_view text) {
-  return MapCase(text, AsciiLower, [](wchar_t c) { return CaseTables().tolower(c); });
+  return MapCase(text, AsciiLower, SimpleLower);
 }
 
 int CompareIgnoringCase(std::string_view left, std::string_view right) {

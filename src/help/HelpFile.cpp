@@ -73,8 +73,8 @@ std::vector<const Topic*> HelpFile::Search(std::string_view words) const {
   if (wanted.empty()) return found;
   for (const Topic& topic : m_topics)
     if (HoldsEveryWord(text::ToLower(topic.title + ' ' + topic.text), wanted)) found.push_back(&topic);
-  std::ranges::stable_partition(found,
-                                [&](const Topic* topic) { return HoldsAnyWord(text::ToLower(topic->title), wanted); });
+  std::stable_partition(found.begin(), found.end(),
+                        [&](const Topic* topic) { return HoldsAnyWord(text::ToLower(topic->title), wanted); });
   return found;
 }
 

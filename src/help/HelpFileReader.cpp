@@ -63,7 +63,7 @@ HelpFile HelpFileReader::Read() {
 std::string_view HelpFileReader::TakeLine() {
   const auto end = m_rest.find('\n');
   if (end == std::string_view::npos && m_rest.size() <= kLongestLine) FailCutShort();
-  if (end == std::string_view::npos || end > kLongestLine) FailDamaged("a line is too long");
+  if (end > kLongestLine) FailDamaged("a line is too long");
   const std::string_view line = m_rest.substr(0, end);
   m_rest.remove_prefix(end + 1);
   return line;

@@ -1,9 +1,9 @@
 #pragma once
 
 #include <string>
-#include <sys/stat.h>
 #include <vector>
 
+#include "linux/files/NativeFile.h"
 #include "platform/FileSystem.h"
 
 namespace dayvane::files {
@@ -27,14 +27,5 @@ class LinuxFileSystem : public platform::FileSystem {
   void Delete(const std::string& path) override;
   void RemoveFolder(const std::string& path) override;
 };
-
-/// The moment a file was last written, with the user's local time beside it.
-platform::FileMoment MomentOf(const struct stat& status);
-
-/// The local time of a moment. Times outside the years 1601 to 9999 are moved to the nearer end.
-std::chrono::local_seconds LocalTime(std::int64_t secondsSince1970);
-
-/// Puts a whole file in place with the given last-written time (nanoseconds since 1970, UTC).
-void ReplaceWithTime(const std::string& nativePath, std::string_view bytes, std::int64_t writtenNanoseconds);
 
 }  // namespace dayvane::files

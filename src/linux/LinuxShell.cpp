@@ -26,7 +26,8 @@ LinuxShell::LinuxShell(platform::FileSystem& files, const std::string& dataFolde
       m_launcher(reportEvent),
       m_recentFolder(NanosecondsNow, {recent::DefaultListPath(), m_recentPath, dataFolder + "/Recent.state"},
                      links::WriteShellLink, reportEvent),
-      m_watch(recent::DefaultListPath(), [this] { m_deferred.AfterWork([this] { m_recentFolder.Look(); }); }) {}
+      m_watch(recent::DefaultListPath(),
+              [this] { m_deferred.AfterWork([this] { m_recentFolder.RememberOpenings(); }); }) {}
 
 std::string LinuxShell::SpecialFolderPath(int number) {
   if (number != platform::kRecentFolder)

@@ -20,7 +20,7 @@ using namespace favorites;  // NOLINT(google-build-using-namespace): the table's
 constexpr std::size_t kLargestFile = std::size_t{512} << 20;
 
 /// A disk that fails for a moment must cost no count.
-constexpr int kAttempts = 3;
+constexpr int kAttempts = 5;
 
 }  // namespace
 

@@ -122,7 +122,7 @@ TEST_F(CaptureFaultTest, ADataFileThatTheDiskDoesNotTellOfIsKeptBeforeTheTableIs
 
 TEST_F(CaptureFaultTest, ADataFileThatCannotBeReadForAMomentIsReadAllTheSame) {
   m_computer.Exit();
-  m_computer.desktop.files.beforeRead = [failures = 2](const std::string& path) mutable {
+  m_computer.desktop.files.beforeRead = [failures = 4](const std::string& path) mutable {
     if (path.ends_with("\\Favorites.dat") && failures-- > 0) throw Error(kDeviceIoError, "Input/output error", path);
   };
   std::filesystem::remove_all(m_computer.desktop.NativeFolder() + "/Daily/2026/November/20");
@@ -178,7 +178,7 @@ TEST_F(CaptureFaultTest, AJournalThatCannotBeReadForAMomentCostsNoCount) {
   Tick();
   m_computer.Kill();
   MendFiledShortcut();
-  m_computer.desktop.files.beforeRead = [failures = 2](const std::string& path) mutable {
+  m_computer.desktop.files.beforeRead = [failures = 4](const std::string& path) mutable {
     if (path.ends_with("\\Favorites.pending") && failures-- > 0)
       throw Error(kDeviceIoError, "Input/output error", path);
   };

@@ -34,7 +34,7 @@ bool IsTrashFolder(std::string_view name) {
 
 std::optional<std::string> DocumentPath(const std::string& href) {
   char* host = nullptr;
-  // QUrl would not keep names that are no UTF-8.
+  // QUrl would not keep names that are not UTF-8.
   const glib::Text path(g_filename_from_uri(href.c_str(), &host, nullptr));
   const glib::Text ownedHost(host);
   if (!path || !IsThisMachine(host)) return std::nullopt;
@@ -48,7 +48,7 @@ bool LiesInTrash(std::string_view path, std::string_view dataHome) {
   if (path.find("/.local/share/Trash/") != std::string_view::npos) return true;
   for (auto slash = path.find('/'); slash != std::string_view::npos;) {
     const auto next = path.find('/', slash + 1);
-    if (next == std::string_view::npos) return false;  // a document that is merely called so
+    if (next == std::string_view::npos) return false;  // a document with such a name
     if (IsTrashFolder(path.substr(slash + 1, next - slash - 1))) return true;
     slash = next;
   }

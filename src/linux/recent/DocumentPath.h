@@ -6,11 +6,11 @@
 
 namespace dayvane::recent {
 
-/// The native path of the document at an address of the recent list, byte for byte; nothing when the address is none
-/// of a file of this machine (another scheme or host, a fragment, a damaged escape, the root folder).
+/// The native path, byte for byte, that an address of the recent list means; nothing when the address does not name a
+/// file of this machine (another scheme or host, a fragment, a damaged escape, the root folder).
 ///
-/// Programs spell one path in several ways ("file:/x", "FILE:///x", "%5B" or "[", a slash at the end): all of them give
-/// the same path here, so that it can stand for the document. The disk is never asked.
+/// Programs spell one path in several ways ("file:/x", "FILE:///x", "%5B" or "[", a slash at the end). All of them give
+/// the same path here, so a path identifies its document. The disk is not touched.
 std::optional<std::string> DocumentPath(const std::string& href);
 
 /// Whether the path lies in the user's trash or in the trash of a removable disk.

@@ -13,8 +13,18 @@ struct ListedDocument {
   std::vector<Moment> openings;  ///< see RecentEntry
 };
 
-/// The documents that a list names, each once, in the order of the list. Entries that the user wants private, folders,
-/// what lies in the trash (`dataHome` is the user's data folder) and addresses of other machines are left away.
+/// What one reading of the list says.
+struct Listing {
+  /// Whether the list has entries, whatever they name. A damaged list in which no entry could be read is Unclear.
+  enum class Entries { Some, None, Unclear };
+
+  Entries entries = Entries::Unclear;
+  std::vector<ListedDocument> documents;
+  Moment readAt = 0;
+};
+
+/// The documents that a list names, each once, in the order of the list. Skips private entries, folders, the contents
+/// of the trash (`dataHome` is the user's data folder) and addresses on other machines.
 std::vector<ListedDocument> DocumentsOf(const std::vector<RecentEntry>& entries, const std::string& dataHome);
 
 }  // namespace dayvane::recent

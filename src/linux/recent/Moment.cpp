@@ -4,7 +4,7 @@
 #include <chrono>
 #include <limits>
 
-#include "linux/LinuxFileSystem.h"
+#include "linux/files/NativeFile.h"
 
 namespace dayvane::recent {
 

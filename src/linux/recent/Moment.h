@@ -11,9 +11,9 @@ using Moment = std::int64_t;
 
 inline constexpr Moment kNanosecondsPerSecond = 1'000'000'000;
 
-/// A date and time as the list has it: "2026-11-20T23:45:16.110424Z", with or without a fraction, with any offset;
-/// without one it is the user's local time. Nothing for other text, and for a date before 1990: no desktop kept a list
-/// then, so the program that wrote it had no date to write.
+/// A date and time as the list has it: "2026-11-20T23:45:16.110424Z", with or without a fraction, with any offset.
+/// Without an offset it is the user's local time. Nothing for other text, and nothing for a date before 1990: no
+/// desktop kept such a list then, so the program that wrote the date did not know it.
 std::optional<Moment> ParseIsoMoment(QStringView text);
 
 /// The same moment as older programs wrote it: whole seconds since 1970 ("1795218406").

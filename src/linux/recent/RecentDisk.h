@@ -3,6 +3,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "linux/recent/Moment.h"
@@ -17,17 +18,18 @@ struct FolderItem {
   Moment written = 0;
 };
 
-/// The two places on the disk that the recent documents' bridge changes: the Recent folder and its state file.
-/// Failures are Errors. The changes are virtual so that a disk can be full, or a session end, between any two of them.
+/// The two places on the disk that are changed for the recent documents: the Recent folder and the state file.
+/// Failures are Errors. Changes are virtual so that a test can fill the disk, or end the session, between any two.
 class RecentDisk {
  public:
   /// Native paths.
-  RecentDisk(const std::string& folder, const std::string& stateFile);
+  RecentDisk(std::string folder, std::string stateFile)
+      : m_folder(std::move(folder)), m_stateFile(std::move(stateFile)) {}
   RecentDisk(const RecentDisk&) = delete;
   RecentDisk& operator=(const RecentDisk&) = delete;
   virtual ~RecentDisk() = default;
 
-  /// Makes the Recent folder with the folders above it; none may exist already.
+  /// Makes the Recent folder and the folders above it, as far as they are missing.
   virtual void CreateFolder();
 
   /// Puts a shortcut in place as a whole, with its last-written time.
@@ -35,25 +37,23 @@ class RecentDisk {
   virtual void DeleteShortcut(const std::string& name);
   virtual void WriteState(std::string_view text);
 
-  /// Everything in the folder; nothing when there is no folder.
+  /// Everything in the folder; empty when there is no folder.
   std::vector<FolderItem> List() const;
 
-  /// When a shortcut was last written; nothing when there is none of that name.
+  /// When a shortcut was last written; nothing when there is no shortcut of that name.
   std::optional<Moment> Written(const std::string& name) const;
 
-  /// The bytes of a file of the folder, or nothing when it is larger than a shortcut of ours ever is.
+  /// The bytes of a file in the folder; nothing when it is larger than any shortcut of ours.
   std::optional<std::string> ReadShortcut(const std::string& name) const;
 
   /// Nothing when there is no state file.
   std::optional<std::string> ReadState() const;
 
  private:
-  std::string PathOf(const std::string& name) const;
+  std::string PathOf(const std::string& name) const { return m_folder + "/" + name; }
 
-  // Paths as the program spells them, and the folder's native one.
   std::string m_folder;
   std::string m_stateFile;
-  std::string m_nativeFolder;
 };
 
 }  // namespace dayvane::recent

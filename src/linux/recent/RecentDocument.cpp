@@ -11,9 +11,9 @@ constexpr std::size_t kMostPending = 1000;
 
 /// The times that the list gives for a document, split at the present moment.
 struct ListedTimes {
-  std::optional<Moment> past;        ///< the latest of those that have been
-  std::optional<Moment> futureFrom;  ///< the earliest of those to come: a clock was wrong
-  std::optional<Moment> futureTo;    ///< the latest of those to come
+  std::optional<Moment> past;        ///< the latest that is not in the future
+  std::optional<Moment> futureFrom;  ///< the earliest in the future: a clock was wrong
+  std::optional<Moment> futureTo;    ///< the latest in the future
 };
 
 ListedTimes Split(const RecentDocument& document, const std::vector<Moment>& times, Moment now) {

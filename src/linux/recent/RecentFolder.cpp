@@ -12,7 +12,7 @@ namespace {
 /// More new documents at once than a person opens: a program has registered a whole folder.
 constexpr std::size_t kFlood = 100;
 
-/// A path for the event log: one line of sound text, whatever bytes it has.
+/// A path as one line of valid text for the event log.
 std::string Shown(const std::string& nativePath) {
   const glib::Text name(g_filename_display_name(nativePath.c_str()));
   std::string shown = name.get();
@@ -39,16 +39,9 @@ const char* Complaint(ListCondition condition) {
   return "";
 }
 
-/// Runs one step of the work; the next ones do what they can without it. The first failure is kept.
-template <class Step>
-bool Try(std::optional<std::string>& failure, Step step) {
-  try {
-    step();
-    return true;
-  } catch (const Error& error) {
-    if (!failure) failure = error.what();
-    return false;
-  }
+Listing::Entries EntriesOf(const RecentList& list) {
+  if (!list.entries.empty()) return Listing::Entries::Some;
+  return list.isWellFormed ? Listing::Entries::None : Listing::Entries::Unclear;
 }
 
 }  // namespace
@@ -68,69 +61,55 @@ RecentFolder::RecentFolder(Clock now, const std::string& list, std::unique_ptr<R
 
 void RecentFolder::Refresh() {
   if (!Load()) return;
-  const auto list = m_list.IsDue() ? ReadList() : std::nullopt;
-  if (!list && !m_shortcuts.IsWorkDue()) return;
-  Failure failure;
-  const bool isFolderThere = Try(failure, [&] { m_disk->CreateFolder(); });
-  const bool isFolderKnown = Try(failure, [&] { m_shortcuts.Observe(); });
-  ReportLostState();
-  if (list) TakeList(*list);
-  Try(failure, [&] { m_shortcuts.Save(); });
-  if (isFolderThere && isFolderKnown) Try(failure, [&] { m_shortcuts.Deliver(); });
-  Try(failure, [&] { m_shortcuts.Save(); });
-  for (const std::string& path : m_shortcuts.TakeLeftOut())
+  const auto listing = ReadList();
+  if (!listing && !m_shortcuts.IsWorkDue()) return;
+  const auto outcome = m_shortcuts.Refresh(listing);
+  // Before the first session there is no state, but then the folder is empty too.
+  const bool wasMissing = std::exchange(m_memory, RecentShortcuts::Memory::Sound) == RecentShortcuts::Memory::Missing;
+  if (wasMissing && outcome.isForeignFound)
+    m_reportEvent("Recent documents: the state is missing; it is made anew from the list and the Recent folder");
+  ReportNews(outcome.news);
+  for (const std::string& path : outcome.unlinkable)
     m_reportEvent("Recent documents: there can be no shortcut to " + Shown(path));
-  Report(failure);
-  m_isFailing = failure.has_value();
+  ReportFailure(outcome.failure);
+  m_isFailing = outcome.failure.has_value();
 }
 
 void RecentFolder::Captured() {
-  if (!m_isLoaded) return;
-  Failure failure;
-  Try(failure, [&] { m_shortcuts.Captured(); });
-  Try(failure, [&] { m_shortcuts.Save(); });
-  Report(failure);
+  if (m_memory) ReportFailure(m_shortcuts.Captured());
 }
 
-void RecentFolder::Look() {
-  const auto list = m_isLoaded && m_list.IsDue() ? ReadList() : std::nullopt;
-  if (!list) return;
-  TakeList(*list);
-  // Where the state cannot be written, it stays in memory until the next Refresh, which tells of it.
-  Failure failure;
-  Try(failure, [&] { m_shortcuts.Save(); });
+void RecentFolder::RememberOpenings() {
+  const auto listing = m_memory ? ReadList() : std::nullopt;
+  if (listing) ReportNews(m_shortcuts.Remember(*listing));
 }
 
-/// Whether it is known by now what an earlier session left.
+/// Whether the state that the last session left is loaded, or given up as lost.
 bool RecentFolder::Load() {
-  if (m_isLoaded) return true;
-  Failure failure;
-  auto memory = RecentShortcuts::Memory::Sound;
-  Try(failure, [&] { memory = m_shortcuts.Load(); });
-  // A disk that fails for a moment must not cost the state, which is written anew as soon as it counts as lost.
-  constexpr int kAttempts = 3;
-  if (failure && ++m_failedLoads < kAttempts) return false;
-  m_isLoaded = true;
-  if (failure) m_reportEvent("Recent documents: the state cannot be read: " + *failure);
-  m_hasNoState = memory == RecentShortcuts::Memory::None;
-  if (memory == RecentShortcuts::Memory::Damaged)
-    m_reportEvent("Recent documents: the state is damaged; it is made anew from the list and the Recent folder");
+  if (m_memory) return true;
+  try {
+    m_memory = m_shortcuts.Load();
+    if (m_memory == RecentShortcuts::Memory::Damaged)
+      m_reportEvent("Recent documents: the state is damaged; it is made anew from the list and the Recent folder");
+  } catch (const Error& error) {
+    // A disk that fails for a moment must not cost the state: once given up, it is overwritten.
+    constexpr int kAttempts = 3;
+    if (++m_failedLoads < kAttempts) return false;
+    m_memory = RecentShortcuts::Memory::Damaged;
+    m_reportEvent("Recent documents: the state cannot be read: " + std::string(error.what()));
+  }
   return true;
 }
 
-/// Without a state the folder should hold nothing, as before the first session.
-void RecentFolder::ReportLostState() {
-  if (std::exchange(m_hasNoState, false) && m_shortcuts.KnowsNotAll())
-    m_reportEvent("Recent documents: the state is missing; it is made anew from the list and the Recent folder");
-}
-
-/// The list, unless there is nothing to be read.
-std::optional<RecentList> RecentFolder::ReadList() {
-  ListReading reading = m_list.Read();
+/// What the list says now; nothing when it is unchanged or cannot be read.
+std::optional<Listing> RecentFolder::ReadList() {
+  if (!m_list.IsDue()) return std::nullopt;
+  const ListReading reading = m_list.Read();
   ReportCondition(reading.condition);
   const bool isRead = reading.condition == ListCondition::Sound || reading.condition == ListCondition::Damaged ||
                       reading.condition == ListCondition::CutShort;
-  return isRead ? std::optional(std::move(reading.list)) : std::nullopt;
+  if (!isRead) return std::nullopt;
+  return Listing{EntriesOf(reading.list), DocumentsOf(reading.list.entries, m_dataHome), m_now()};
 }
 
 void RecentFolder::ReportCondition(ListCondition condition) {
@@ -138,17 +117,14 @@ void RecentFolder::ReportCondition(ListCondition condition) {
   m_reportEvent("Recent documents: the list " + m_list.Path() + " " + Complaint(condition));
 }
 
-void RecentFolder::TakeList(const RecentList& list) {
-  if (!list.entries.empty()) m_shortcuts.NoteFilled();
-  const bool isEmptied = list.entries.empty() && list.isWellFormed;
-  if (isEmptied && m_shortcuts.NoteEmptied())
+void RecentFolder::ReportNews(const RecentShortcuts::News& news) {
+  if (news.isEmptied)
     m_reportEvent("Recent documents: the list has been emptied, so the Recent folder will be emptied too");
-  const std::size_t added = m_shortcuts.Note(DocumentsOf(list.entries, m_dataHome), m_now());
-  if (added > kFlood) m_reportEvent("Recent documents: " + std::to_string(added) + " new documents at once");
+  if (news.added > kFlood) m_reportEvent("Recent documents: " + std::to_string(news.added) + " new documents at once");
 }
 
-/// One line for all that fails until a Refresh has found nothing wrong any more.
-void RecentFolder::Report(const Failure& failure) {
+/// Reports the first failure only, until a Refresh succeeds.
+void RecentFolder::ReportFailure(const Failure& failure) {
   if (!failure || std::exchange(m_isFailing, true)) return;
   m_reportEvent("Recent documents: the Recent folder cannot be kept up to date: " + *failure);
 }

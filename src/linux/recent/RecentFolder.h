@@ -14,20 +14,21 @@ namespace dayvane::recent {
 /// Keeps a Recent folder of shortcuts in step with the desktop's list of recent documents.
 ///
 /// The folder looks like a shell's own: whole files only, one shortcut for each document ("Report.odt.lnk"), last
-/// written at the moment when the document was last opened. The list is a poor witness. Programs lose each other's
-/// entries, cut the list short, or empty it by accident; so what was seen once is remembered, and a missing entry means
-/// nothing. A shortcut that was removed stays removed until its document is opened again. Only a sound list without
-/// any entry is taken for the user's wish: then the folder is emptied too, once what it holds has been captured.
+/// written when the document was last opened. The list alone cannot be trusted: programs lose each other's entries, cut
+/// the list short, or empty it by accident. So an entry that was seen once is remembered, and a missing one means
+/// nothing. A shortcut that the user removed stays removed until its document is opened again. Only a sound list
+/// without entries counts as cleared by the user; the folder is then emptied too, once its shortcuts have been
+/// captured.
 ///
-/// An opening on another day than the shortcut's waits until the shortcut has been captured, so that every day gets
-/// its document. Nothing here ever looks at a document itself: its drive may be asleep.
+/// An opening on a later day waits until the shortcut has been captured for its own day, so that the document is filed
+/// under both. The documents themselves are never touched: their drive may be asleep.
 class RecentFolder {
  public:
   /// The present moment in nanoseconds since 1970, UTC.
   using Clock = std::function<std::int64_t()>;
   using EventLog = std::function<void(const std::string&)>;
 
-  /// Native paths. The Recent folder and the state file are made when missing, with the folders above them.
+  /// Native paths. A missing Recent folder or state file is created, with the folders above it.
   struct Paths {
     std::string list;    ///< "recently-used.xbel"
     std::string folder;  ///< the Recent folder
@@ -38,28 +39,25 @@ class RecentFolder {
   RecentFolder(Clock now, const std::string& list, std::unique_ptr<RecentDisk> disk, LinkWriter writeLink,
                EventLog reportEvent, RecentShortcuts::Limits limits);
 
-  /// Brings the folder up to date: before every listing of it. While the list is unchanged and nothing waits, that is
-  /// one look at its status. Does not fail: what cannot be done is reported once and tried again by the next call.
+  /// Brings the folder up to date; to be called before the folder is listed. While the list is unchanged and nothing
+  /// waits, this costs one look at the list's status. Never fails: a problem is reported once, and the next call tries
+  /// again.
   void Refresh();
 
-  /// Everything that the folder held after the last Refresh has been filed. Between the listing of the folder and this
-  /// call there must be no other Refresh, but there may be a Look.
+  /// Call when everything that the folder held after the last Refresh has been filed. No other Refresh may come between
+  /// listing the folder and this call; RememberOpenings may.
   void Captured();
 
-  /// Takes in what is new in the list and leaves the folder alone: at any time, as soon as the list has changed.
-  /// Does nothing before the first Refresh.
-  void Look();
+  /// Remembers new openings without changing the folder. Call it whenever the list has changed: the next program to
+  /// write the list may drop the entry. Does nothing before the first Refresh.
+  void RememberOpenings();
 
  private:
-  /// What went wrong with the disk during one call; the first of it is worth a line.
-  using Failure = std::optional<std::string>;
-
   bool Load();
-  void ReportLostState();
-  std::optional<RecentList> ReadList();
+  std::optional<Listing> ReadList();
   void ReportCondition(ListCondition condition);
-  void TakeList(const RecentList& list);
-  void Report(const Failure& failure);
+  void ReportNews(const RecentShortcuts::News& news);
+  void ReportFailure(const Failure& failure);
 
   Clock m_now;
   EventLog m_reportEvent;
@@ -67,10 +65,9 @@ class RecentFolder {
   std::string m_dataHome;
   std::unique_ptr<RecentDisk> m_disk;
   RecentShortcuts m_shortcuts;
-  bool m_isLoaded = false;
+  std::optional<RecentShortcuts::Memory> m_memory;  ///< left by the last session; empty until loaded
   int m_failedLoads = 0;
-  bool m_hasNoState = false;
-  ListCondition m_condition = ListCondition::Sound;
+  ListCondition m_condition = ListCondition::Sound;  ///< as last reported
   bool m_isFailing = false;
 };
 

@@ -1,148 +1,117 @@
 #include "linux/recent/RecentList.h"
 
-#include <QXmlStreamReader>
+#include <QString>
 #include <algorithm>
+#include <iterator>
 #include <optional>
+#include <pugixml.hpp>
 #include <utility>
 
-#include "linux/recent/XmlMending.h"
+#include "base/Utf8.h"
 
 namespace dayvane::recent {
 
 namespace {
 
-constexpr std::size_t kPiece = 65536;                ///< bytes handed to the reader at a time
+using pugi::xml_node;
+
 constexpr std::size_t kLongestBookmark = 1U << 20U;  ///< bytes
+constexpr std::ptrdiff_t kMostParts = 2'000'000;     ///< tags and attributes parsed at once: each takes memory
 constexpr int kDeepest = 64;                         ///< elements within elements
-constexpr int kMostAttributes = 64;                  ///< of one tag: Qt compares each with each
+constexpr int kMostAttributes = 64;                  ///< of one tag
 
-/// An entry of which the end has not been read yet.
-struct OpenBookmark {
+/// Elements are known by their local name: the prefix of a namespace is the writer's choice, and not every writer
+/// declares the ones it uses.
+std::string_view LocalName(xml_node node) {
+  const std::string_view name = node.name();
+  return name.substr(name.rfind(':') + 1);
+}
+
+bool IsBookmark(xml_node node) {
+  return LocalName(node) == "bookmark";
+}
+
+std::optional<Moment> MomentOf(xml_node node, const char* attribute) {
+  return ParseIsoMoment(QString::fromUtf8(node.attribute(attribute).value()));
+}
+
+void ReadPart(xml_node part, RecentEntry& entry) {
+  const auto name = LocalName(part);
+  if (name == "private") entry.isPrivate = true;
+  if (name == "mime-type") entry.mimeType = part.attribute("type").value();
+  if (name != "application") return;
+  auto moment = MomentOf(part, "modified");
+  if (!moment) moment = ParseEpochMoment(QString::fromUtf8(part.attribute("timestamp").value()));
+  if (moment) entry.openings.push_back(*moment);
+}
+
+/// Calls `visit` for every node below this one, in the order of the text.
+template <class Visit>
+void ForEachBelow(xml_node node, Visit visit) {
+  node.find_node([&](xml_node below) { return visit(below), false; });
+}
+
+RecentEntry ReadBookmark(xml_node bookmark) {
   RecentEntry entry;
-  std::optional<Moment> added;
-  std::optional<Moment> modified;
-  std::optional<Moment> visited;
-};
-
-std::optional<Moment> MomentOf(const QXmlStreamAttributes& attributes, QLatin1String name) {
-  return ParseIsoMoment(attributes.value(name));
-}
-
-OpenBookmark Open(const QXmlStreamAttributes& attributes) {
-  OpenBookmark bookmark;
-  bookmark.entry.href = attributes.value(QLatin1String("href")).toUtf8().toStdString();
-  bookmark.added = MomentOf(attributes, QLatin1String("added"));
-  bookmark.modified = MomentOf(attributes, QLatin1String("modified"));
-  bookmark.visited = MomentOf(attributes, QLatin1String("visited"));
-  return bookmark;
-}
-
-RecentEntry Close(OpenBookmark bookmark) {
-  auto& openings = bookmark.entry.openings;
-  const auto take = [&](const std::optional<Moment>& moment) {
-    if (moment) openings.push_back(*moment);
+  entry.href = bookmark.attribute("href").value();
+  ForEachBelow(bookmark, [&](xml_node part) { ReadPart(part, entry); });
+  const auto take = [&](const char* attribute) {
+    if (const auto moment = MomentOf(bookmark, attribute)) entry.openings.push_back(*moment);
   };
-  if (openings.empty()) {
-    take(bookmark.modified);
-    take(bookmark.added);
-    if (openings.empty()) take(bookmark.visited);
-  } else {
-    take(bookmark.visited);
+  const bool isTimedByProgram = !entry.openings.empty();
+  if (!isTimedByProgram) {
+    take("modified");
+    take("added");
   }
-  return std::move(bookmark.entry);
+  if (isTimedByProgram || entry.openings.empty()) take("visited");
+  return entry;
 }
 
-/// Gathers the bookmarks from a reader's tokens. Elements are known by their local name: the prefix of a namespace is
-/// the writer's choice, and not every writer declares the ones it uses.
-class BookmarkCollector {
- public:
-  /// False when this cannot be part of a sound list.
-  bool Start(const QXmlStreamReader& xml) {
-    ++m_depth;
-    if (m_depth == 1) m_rootIsList = xml.name() == QLatin1String("xbel");
-    if (xml.name() == QLatin1String("bookmark")) return StartBookmark(xml);
-    if (m_open) StartPart(xml);
-    return m_depth <= kDeepest;
-  }
-
-  void End() {
-    if (m_open && m_depth == m_openDepth) {
-      m_entries.push_back(Close(std::move(*m_open)));
-      m_open.reset();
-    }
-    --m_depth;
-  }
-
-  bool RootIsList() const { return m_rootIsList; }
-  bool IsInBookmark() const { return m_open.has_value(); }
-  std::vector<RecentEntry> TakeEntries() { return std::move(m_entries); }
-
- private:
-  bool StartBookmark(const QXmlStreamReader& xml) {
-    // Entries do not nest: the end of the one before is missing.
-    const bool isNested = m_open.has_value();
-    m_open = Open(xml.attributes());
-    m_openDepth = m_depth;
-    return !isNested;
-  }
-
-  void StartPart(const QXmlStreamReader& xml) {
-    const auto name = xml.name();
-    if (name == QLatin1String("private")) m_open->entry.isPrivate = true;
-    if (name == QLatin1String("mime-type"))
-      m_open->entry.mimeType = xml.attributes().value(QLatin1String("type")).toUtf8().toStdString();
-    if (name != QLatin1String("application")) return;
-    auto moment = MomentOf(xml.attributes(), QLatin1String("modified"));
-    if (!moment) moment = ParseEpochMoment(xml.attributes().value(QLatin1String("timestamp")));
-    if (moment) m_open->entry.openings.push_back(*moment);
-  }
-
-  std::vector<RecentEntry> m_entries;
-  std::optional<OpenBookmark> m_open;
-  int m_openDepth = 0;
-  int m_depth = 0;
-  bool m_rootIsList = false;
-};
-
-QByteArray Unowned(std::string_view text) {
-  return QByteArray::fromRawData(text.data(), static_cast<qsizetype>(text.size()));
-}
-
-/// Whether the reader would take unreasonably long over some tag.
-bool HasAbsurdTag(std::string_view text) {
-  int quotes = 0;
-  for (const char c : text) {
-    if (c == '<') quotes = 0;
-    if ((c == '"' || c == '\'') && ++quotes > 2 * kMostAttributes) return true;
-  }
+/// More attributes than any program writes, or two of the same name.
+bool HasOddAttributes(xml_node node) {
+  int count = 0;
+  for (const auto attribute : node.attributes())
+    if (++count > kMostAttributes || node.attribute(attribute.name()) != attribute) return true;
   return false;
 }
 
-bool IsBlank(std::string_view text) {
-  return text.find_first_not_of(" \t\r\n") == std::string_view::npos;
+/// Whether pugixml accepts something here that a sound list cannot have.
+bool IsFaulty(xml_node node) {
+  int depth = 0;
+  for (xml_node above = node.parent(); above; above = above.parent()) {
+    // Entries do not nest: the one before lacks its end.
+    if (++depth > kDeepest || (IsBookmark(node) && IsBookmark(above))) return true;
+  }
+  return HasOddAttributes(node) || std::string_view(node.value()).size() > kLongestBookmark;
 }
 
-/// Reads the list as XML from end to end, a piece at a time; false when there is a fault in it.
-bool ReadWhole(std::string_view text, BookmarkCollector& bookmarks) {
-  QXmlStreamReader xml;
-  xml.setNamespaceProcessing(false);
-  std::size_t fed = 0;
-  std::size_t fedAtLastToken = 0;
-  for (;;) {
-    const auto token = xml.readNext();
-    if (token == QXmlStreamReader::EndDocument) return bookmarks.RootIsList() && IsBlank(text.substr(fed));
-    if (token == QXmlStreamReader::StartElement && !bookmarks.Start(xml)) return false;
-    if (token == QXmlStreamReader::EndElement) bookmarks.End();
-    if (token != QXmlStreamReader::Invalid) {
-      fedAtLastToken = fed;
-      continue;
-    }
-    const bool needsMore = xml.error() == QXmlStreamReader::PrematureEndOfDocumentError && fed < text.size();
-    if (!needsMore || fed - fedAtLastToken > kLongestBookmark) return false;
-    const std::string_view piece = text.substr(fed, kPiece);
-    xml.addData(Unowned(piece));
-    fed += piece.size();
+/// The entries of a text that is one element of this name; nothing when it is anything else, or damaged.
+std::optional<std::vector<RecentEntry>> ReadElement(std::string_view text, std::string_view name) {
+  if (std::ranges::count_if(text, [](char c) { return c == '<' || c == '='; }) > kMostParts) return std::nullopt;
+  // parse_fragment: text beside the element is seen and refused. The encoding is UTF-8, whatever the text declares.
+  constexpr unsigned kOptions = pugi::parse_escapes | pugi::parse_wconv_attribute | pugi::parse_fragment;
+  pugi::xml_document document;
+  if (!document.load_buffer(text.data(), text.size(), kOptions, pugi::encoding_utf8)) return std::nullopt;
+  const xml_node element = document.first_child();
+  if (LocalName(element) != name || element.next_sibling() || document.find_node(IsFaulty)) return std::nullopt;
+  std::vector<RecentEntry> entries;
+  ForEachBelow(document, [&](xml_node node) {
+    if (IsBookmark(node)) entries.push_back(ReadBookmark(node));
+  });
+  return entries;
+}
+
+/// Whether a strict reader would refuse some character of the text; pugixml accepts any. References to control
+/// characters are fine: GLib writes them.
+bool HasOddCharacters(std::string_view text) {
+  const auto isOdd = [](char c) { return static_cast<unsigned char>(c) < 0x20 && c != '\t' && c != '\r' && c != '\n'; };
+  if (!utf8::IsValid(text) || std::ranges::any_of(text, isOdd)) return true;
+  static constexpr std::string_view kReferences[] = {"amp;", "lt;", "gt;", "quot;", "apos;", "#"};
+  for (auto at = text.find('&'); at != std::string_view::npos; at = text.find('&', at + 1)) {
+    const auto isHere = [&](std::string_view name) { return text.substr(at + 1).starts_with(name); };
+    if (std::ranges::none_of(kReferences, isHere)) return true;
   }
+  return false;
 }
 
 /// Start of the next "<bookmark ...", not of a "<bookmark:groups>".
@@ -155,7 +124,7 @@ std::size_t FindBookmark(std::string_view text, std::size_t from) {
   return std::string_view::npos;
 }
 
-/// The length of the tag that the text starts with; npos without its end.
+/// The length of the tag that the text starts with; npos when the tag has no end.
 std::size_t TagLength(std::string_view text) {
   char quote = '\0';
   for (std::size_t i = 0; i < text.size(); ++i) {
@@ -169,7 +138,7 @@ std::size_t TagLength(std::string_view text) {
   return std::string_view::npos;
 }
 
-/// The text up to the end of its first bookmark, where it has one.
+/// The text up to the end of the bookmark that it starts with, or all of it when that end is missing.
 std::string_view UpToEnd(std::string_view text) {
   const std::string_view tag = text.substr(0, TagLength(text));
   if (tag.ends_with("/>")) return tag;
@@ -177,32 +146,14 @@ std::string_view UpToEnd(std::string_view text) {
   return endTag == std::string_view::npos ? text : text.substr(0, endTag + std::string_view("</bookmark>").size());
 }
 
-/// Reads the one bookmark that the piece starts with, if it is sound up to its end.
-void ReadPiece(std::string_view piece, std::vector<RecentEntry>& entries) {
-  const bool isTag = piece.find('>') != std::string_view::npos;
-  if (!isTag || piece.size() > kLongestBookmark || HasAbsurdTag(piece)) return;
-  QXmlStreamReader xml(Unowned(piece));
-  xml.setNamespaceProcessing(false);
-  BookmarkCollector bookmarks;
-  for (;;) {
-    const auto token = xml.readNext();
-    if (token == QXmlStreamReader::Invalid || token == QXmlStreamReader::EndDocument) return;
-    if (token == QXmlStreamReader::StartElement && !bookmarks.Start(xml)) return;
-    if (token != QXmlStreamReader::EndElement) continue;
-    bookmarks.End();
-    if (bookmarks.IsInBookmark()) continue;
-    auto found = bookmarks.TakeEntries();
-    entries.insert(entries.end(), std::make_move_iterator(found.begin()), std::make_move_iterator(found.end()));
-    return;
-  }
-}
-
 /// Reads each bookmark by itself: a damaged one costs only itself.
 std::vector<RecentEntry> ReadPieces(std::string_view text) {
   std::vector<RecentEntry> entries;
   for (auto start = FindBookmark(text, 0); start != std::string_view::npos;) {
     const auto next = FindBookmark(text, start + 1);
-    ReadPiece(UpToEnd(text.substr(start, std::min(next, text.size()) - start)), entries);
+    const auto piece = UpToEnd(text.substr(start, std::min(next, text.size()) - start));
+    auto found = piece.size() > kLongestBookmark ? std::nullopt : ReadElement(piece, "bookmark");
+    if (found) std::ranges::move(*found, std::back_inserter(entries));
     start = next;
   }
   return entries;
@@ -216,13 +167,14 @@ bool ReachesEnd(std::string_view text) {
 }  // namespace
 
 RecentList ParseRecentList(std::string_view bytes) {
-  const MendedXml mended = MendXml(bytes);
-  BookmarkCollector bookmarks;
-  const bool isSound = !HasAbsurdTag(mended.text) && ReadWhole(mended.text, bookmarks);
+  std::string text(bytes);
+  // A null would end the text. An address with "#" names no document, like one with a null.
+  std::ranges::replace(text, '\0', '#');
+  auto whole = ReadElement(text, "xbel");
   RecentList list;
-  list.entries = isSound ? bookmarks.TakeEntries() : ReadPieces(mended.text);
-  list.isWellFormed = isSound && !mended.wasBroken;
-  list.isComplete = isSound || ReachesEnd(mended.text);
+  list.isWellFormed = whole && !HasOddCharacters(bytes);
+  list.isComplete = whole || ReachesEnd(text);
+  list.entries = whole ? std::move(*whole) : ReadPieces(text);
   return list;
 }
 

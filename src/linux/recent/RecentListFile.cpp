@@ -2,31 +2,13 @@
 
 #include <cerrno>
 #include <fcntl.h>
-#include <unistd.h>
 #include <utility>
 
-#include "linux/files/FileDescriptor.h"
+#include "base/Error.h"
+#include "linux/files/NativeFile.h"
 #include "linux/files/XdgFolders.h"
 
 namespace dayvane::recent {
-
-namespace {
-
-/// All of an open file up to `limit` bytes; false when it cannot be read.
-bool ReadUpTo(std::size_t limit, int file, std::string& bytes) {
-  constexpr std::size_t kStep = 65536;
-  while (bytes.size() < limit) {
-    const std::size_t used = bytes.size();
-    bytes.resize(std::min(limit, used + std::max(kStep, used)));
-    const ssize_t count = read(file, bytes.data() + used, bytes.size() - used);
-    bytes.resize(used + static_cast<std::size_t>(std::max<ssize_t>(count, 0)));
-    if (count < 0 && errno == EINTR) continue;
-    if (count <= 0) return count == 0;
-  }
-  return true;
-}
-
-}  // namespace
 
 std::string DefaultListPath() {
   return xdg::DataFolder(xdg::Environment::OfProcess()) + "/recently-used.xbel";
@@ -62,14 +44,14 @@ ListReading RecentListFile::Read() {
     return reading;
   }
   reading.condition = reading.list.isComplete ? ListCondition::Damaged : ListCondition::CutShort;
-  // Not every program writes the list whole: this may have been a look at half a file. One more look tells; a version
-  // that stays damaged is not read again and again.
+  // Some programs write the list in place, so this may have been half a file: it is read once more. A version that is
+  // still damaged then is not read again.
   m_isDue = m_isDue || m_damaged != m_read;
   m_damaged = m_read;
   return reading;
 }
 
-/// Sound when the bytes are there to be read as a list.
+/// Sound when all bytes could be read.
 ListCondition RecentListFile::ReadBytes(std::string& bytes) {
   // Not blocking: a named pipe in place of the list must not stop the program. Links are followed: some users keep
   // their data folder's files elsewhere.
@@ -78,14 +60,16 @@ ListCondition RecentListFile::ReadBytes(std::string& bytes) {
   struct stat status {};
   if (!file.IsOpen() || fstat(file.Number(), &status) != 0) {
     m_read = CurrentVersion();
-    // Permission can be given back without a trace in the file's version.
+    // Restoring the permission does not change the file's version.
     m_isDue = !isMissing;
     return isMissing ? ListCondition::Missing : ListCondition::Unreadable;
   }
   m_read = Version(status);
   if (!S_ISREG(status.st_mode)) return ListCondition::Unreadable;
   if (static_cast<std::size_t>(status.st_size) > m_limit) return ListCondition::TooLarge;
-  if (!ReadUpTo(m_limit, file.Number(), bytes)) {
+  try {
+    bytes = files::ReadOpenFile(file.Number(), status, m_limit, m_path);
+  } catch (const Error&) {
     m_isDue = true;
     return ListCondition::Unreadable;
   }

@@ -22,19 +22,19 @@ struct ListReading {
 /// The file that keeps the desktop's list of recent documents. It is read, never written.
 class RecentListFile {
  public:
-  /// A list of more than `limit` bytes is not read; a real one has half a megabyte for the thousand entries it may
-  /// hold.
+  /// A list of more than `limit` bytes is not read. A real one of a thousand entries, the most that GTK keeps, has half
+  /// a megabyte.
   explicit RecentListFile(std::string path, std::size_t limit = 32U << 20U);
 
   const std::string& Path() const { return m_path; }
 
-  /// Whether there may be something new in it. Costs one look at the file's status.
+  /// Whether it may hold something new. Costs one look at the file's status.
   bool IsDue() const;
 
   ListReading Read();
 
  private:
-  /// One version of the file. Inode numbers are used again soon, so they say nothing alone.
+  /// One version of the file. Inode numbers are soon used again, so the number alone is not enough.
   struct Version {
     explicit Version(const struct stat& status);
     friend bool operator==(const Version&, const Version&) = default;
@@ -52,7 +52,7 @@ class RecentListFile {
   std::size_t m_limit;
   std::optional<Version> m_read;     ///< the version read last, none when there was no file
   std::optional<Version> m_damaged;  ///< the version last found damaged
-  bool m_isDue = true;               ///< whatever its version
+  bool m_isDue = true;               ///< even if its version is the one read last
 };
 
 }  // namespace dayvane::recent

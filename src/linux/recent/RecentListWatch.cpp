@@ -34,7 +34,7 @@ RecentListWatch::~RecentListWatch() {
 }
 
 void RecentListWatch::OnEvent(GFileMonitor*, GFile*, GFile*, GFileMonitorEvent, gpointer watch) {
-  // A running delay is not started anew: where writes never cease, it would never end.
+  // A running delay is not restarted: under constant writing it would never end.
   CatchErrors(kCheckingForDocuments, [watch] {
     QTimer& delay = static_cast<RecentListWatch*>(watch)->m_delay;
     if (!delay.isActive()) delay.start();

@@ -1,35 +1,32 @@
 #include "linux/recent/RecentShortcuts.h"
 
 #include <algorithm>
-#include <exception>
 #include <utility>
 
 #include "base/Error.h"
-#include "base/Text.h"
 #include "linux/files/NativePath.h"
 
 namespace dayvane::recent {
 
 namespace {
 
-/// A link to the document, or nothing when its path cannot be spelled.
-std::optional<platform::ShellLink> LinkTo(const std::string& nativePath) {
-  const auto target = files::FromNative(nativePath);
-  if (!target) return std::nullopt;
-  platform::ShellLink link;
-  link.target = *target;
-  // No working folder: the program then takes the document's own, in the letters that it is written with.
-  return link;
+/// Runs one step of several that do not depend on each other, and keeps the first failure.
+template <class Step>
+bool Try(Failure& failure, Step step) {
+  try {
+    step();
+    return true;
+  } catch (const Error& error) {
+    if (!failure) failure = error.what();
+    return false;
+  }
 }
 
 }  // namespace
 
-RecentShortcuts::RecentShortcuts(RecentDisk& disk, LinkWriter writeLink, Limits limits)
-    : m_disk(disk), m_writeLink(std::move(writeLink)), m_limits(limits) {}
-
 RecentShortcuts::Memory RecentShortcuts::Load() {
   const auto text = m_disk.ReadState();
-  if (!text) return Memory::None;
+  if (!text) return Memory::Missing;
   StateReading reading = ReadState(*text);
   m_state = std::move(reading.state);
   for (const auto& [path, document] : m_state.documents)
@@ -38,40 +35,65 @@ RecentShortcuts::Memory RecentShortcuts::Load() {
   return reading.isDamaged ? Memory::Damaged : Memory::Sound;
 }
 
+RecentShortcuts::Outcome RecentShortcuts::Refresh(const std::optional<Listing>& listing) {
+  Outcome outcome;
+  Failure& failure = outcome.failure;
+  const bool isFolderThere = Try(failure, [&] { m_disk.CreateFolder(); });
+  const bool isFolderSeen = Try(failure, [&] { LookAtFolder(); });
+  outcome.isForeignFound = !m_foreign.IsEmpty();
+  if (listing) outcome.news = TakeIn(*listing);
+  Try(failure, [&] { Save(); });
+  if (isFolderThere && isFolderSeen) Deliver(failure);
+  if (isFolderSeen) m_folder = FolderView::Outdated;
+  Try(failure, [&] { Save(); });
+  outcome.unlinkable = std::exchange(m_unlinkable, {});
+  return outcome;
+}
+
+RecentShortcuts::News RecentShortcuts::Remember(const Listing& listing) {
+  const News news = TakeIn(listing);
+  Failure failure;
+  Try(failure, [&] { Save(); });
+  return news;
+}
+
+Failure RecentShortcuts::Captured() {
+  Failure failure;
+  Try(failure, [&] { MarkCaptured(); });
+  Try(failure, [&] { Save(); });
+  return failure;
+}
+
 void RecentShortcuts::Save() {
   if (!m_isChanged) return;
   m_disk.WriteState(WriteState(m_state));
   m_isChanged = false;
 }
 
-void RecentShortcuts::Observe() {
-  m_isFolderKnown = false;
-  m_isDeliveryDue = true;
+void RecentShortcuts::LookAtFolder() {
+  m_delivery = Delivery::Due;
   const auto items = m_disk.List();
-  m_strangers.clear();
-  m_adoptable.clear();
-  m_isAdoptableRead = false;
+  m_foreign.Clear();
   for (auto& [path, document] : m_state.documents) document.isPresent = false;
   for (const FolderItem& item : items) {
     const std::string* owner = m_names.Owner(item.name);
     RecentDocument* document = owner == nullptr ? nullptr : &m_state.documents.at(*owner);
     if (document != nullptr && document->name == item.name && item.isFile)
-      ObserveShortcut(*document, item);
+      LookAtShortcut(*document, item);
     else
-      m_strangers.emplace(text::ToLower(item.name), item);
+      m_foreign.Add(item);
   }
-  m_isFolderKnown = true;
-  m_wasObserved = true;
+  m_folder = FolderView::Current;
 }
 
-void RecentShortcuts::ObserveShortcut(RecentDocument& document, const FolderItem& item) {
+void RecentShortcuts::LookAtShortcut(RecentDocument& document, const FolderItem& item) {
   // Shortcuts are not flushed to the disk one by one, so a power cut may have left this one with a name and no bytes.
-  if (item.size == 0 && !m_wasObserved) {
+  if (item.size == 0 && m_folder == FolderView::Never) {
     if (document.pending.empty()) document.pending.push_back(document.seen);
     return;
   }
   document.isPresent = true;
-  // The program writes shortcuts too: it puts one back when its document is opened from a list of the program's.
+  // The main program writes shortcuts too: when a document is opened from one of its views, it puts the shortcut back.
   if (document.written != item.written) {
     document.written = item.written;
     document.isCaptured = false;
@@ -79,34 +101,47 @@ void RecentShortcuts::ObserveShortcut(RecentDocument& document, const FolderItem
   if (!document.isCaptured) m_awaitsCapture = true;
 }
 
-std::size_t RecentShortcuts::Note(const std::vector<ListedDocument>& documents, Moment now) {
+RecentShortcuts::News RecentShortcuts::TakeIn(const Listing& listing) {
+  News news;
+  if (listing.entries == Listing::Entries::Some && std::exchange(m_state.isEmptied, false)) m_isChanged = true;
+  if (listing.entries == Listing::Entries::None) news.isEmptied = NoteEmptied();
   ++m_readings;
-  std::size_t added = 0;
-  for (const ListedDocument& listed : documents)
-    if (NoteDocument(listed, now)) ++added;
+  for (const ListedDocument& listed : listing.documents)
+    if (TakeInDocument(listed, listing.readAt)) ++news.added;
   Forget();
-  return added;
+  return news;
 }
 
-bool RecentShortcuts::NoteDocument(const ListedDocument& listed, Moment now) {
+/// Everything now in the folder is deleted as soon as it is captured. False when the list was empty before, too.
+bool RecentShortcuts::NoteEmptied() {
+  if (std::exchange(m_state.isEmptied, true)) return false;
+  for (auto& [path, document] : m_state.documents)
+    if (!document.name.empty()) document.isToBeCleared = true;
+  m_isChanged = true;
+  m_awaitsCapture = true;
+  return true;
+}
+
+/// Returns whether the document is new.
+bool RecentShortcuts::TakeInDocument(const ListedDocument& listed, Moment now) {
   if (IsLongForgotten(listed)) return false;
   const auto [place, isNew] = m_state.documents.try_emplace(listed.path);
   RecentDocument& document = place->second;
   document.listedAt = m_readings;
   if (isNew) {
     m_isChanged = true;
-    if (!LinkTo(listed.path))
-      LeaveOut(*place);
-    else if (m_isFolderKnown)
+    if (!files::FromNative(listed.path))
+      MarkUnlinkable(*place);
+    else if (m_folder == FolderView::Current)
       GiveName(*place);
   }
-  if (document.isLeftOut) return false;
+  if (document.isUnlinkable) return false;
   const auto opening = TakeNewOpening(document, listed.openings, now);
   if (!opening) return isNew;
   AddPending(document, *opening);
   document.isToBeCleared = false;
   m_isChanged = true;
-  m_isDeliveryDue = true;
+  m_delivery = Delivery::Due;
   return isNew;
 }
 
@@ -115,67 +150,53 @@ bool RecentShortcuts::IsLongForgotten(const ListedDocument& listed) const {
   return *std::max_element(listed.openings.begin(), listed.openings.end()) <= m_state.forgotten.latest;
 }
 
-void RecentShortcuts::LeaveOut(Document& document) {
-  document.second.isLeftOut = true;
+void RecentShortcuts::MarkUnlinkable(Document& document) {
+  document.second.isUnlinkable = true;
   document.second.pending.clear();
-  m_leftOut.push_back(document.first);
+  m_unlinkable.push_back(document.first);
   m_isChanged = true;
 }
 
-/// The bytes of its link; a document whose link cannot be written is left out.
+/// The bytes of the link to a document; nothing when there can be none.
 std::optional<std::string> RecentShortcuts::LinkBytes(Document& document) {
+  platform::ShellLink link;  // without a working folder: the document's own is then used, spelled as on the disk
   try {
-    if (const auto link = LinkTo(document.first)) return m_writeLink(*link);
+    link.target = files::FromNative(document.first).value_or("");
+    if (!link.target.empty()) return m_writeLink(link);
   } catch (const Error&) {
-    // The format has no room for this path, today or later: trying again would be in vain.
+    // The format has no room for this path, and never will have.
   }
-  LeaveOut(document);
+  MarkUnlinkable(document);
   return std::nullopt;
 }
 
 void RecentShortcuts::GiveName(Document& document) {
   auto& [path, memory] = document;
   const bool isAdopted = Adopt(document);
-  if (memory.isLeftOut) return;
+  if (memory.isUnlinkable) return;
   if (!isAdopted)
-    memory.name = m_names.Choose(path.substr(path.rfind('/') + 1),
-                                 [&](const std::string& name) { return m_strangers.contains(text::ToLower(name)); });
+    memory.name =
+        m_names.Choose(path.substr(path.rfind('/') + 1), [&](const std::string& name) { return m_foreign.Has(name); });
   m_names.Take(memory.name, path);
   m_isChanged = true;
 }
 
-/// Finds the document's own shortcut among the files that nobody knows: the state was lost, or is an old one.
+/// Finds the document's own shortcut among the foreign ones, where it is when the state was lost or is an old copy.
 bool RecentShortcuts::Adopt(Document& document) {
-  ReadAdoptable();
-  const auto bytes = m_adoptable.empty() ? std::nullopt : LinkBytes(document);
-  const auto found = bytes ? m_adoptable.find(*bytes) : m_adoptable.end();
-  if (found == m_adoptable.end()) return false;
-  const FolderItem& item = found->second;
+  const auto bytes = m_foreign.HasShortcuts() ? LinkBytes(document) : std::nullopt;
+  const auto item = bytes ? m_foreign.Adopt(*bytes) : std::nullopt;
+  if (!item) return false;
   RecentDocument& memory = document.second;
-  memory.name = item.name;
-  memory.written = item.written;
-  memory.seen = std::max(memory.seen, item.written);
+  memory.name = item->name;
+  memory.written = item->written;
+  memory.seen = std::max(memory.seen, item->written);
   memory.isPresent = true;
   m_awaitsCapture = true;
-  m_strangers.erase(text::ToLower(item.name));
-  m_adoptable.erase(found);
   return true;
 }
 
-void RecentShortcuts::ReadAdoptable() {
-  if (std::exchange(m_isAdoptableRead, true)) return;
-  for (const auto& [lowerName, item] : m_strangers) {
-    if (!item.isFile || !item.name.ends_with(".lnk")) continue;
-    try {
-      if (auto bytes = m_disk.ReadShortcut(item.name)) m_adoptable.emplace(std::move(*bytes), item);
-    } catch (const Error&) {
-      // A file that cannot be read stays a stranger.
-    }
-  }
-}
-
 void RecentShortcuts::Forget() {
-  if (m_state.documents.size() <= m_limits.documents || !m_isFolderKnown) return;
+  if (m_state.documents.size() <= m_limits.documents || m_folder != FolderView::Current) return;
   std::vector<std::map<std::string, RecentDocument>::iterator> dispensable;
   for (auto document = m_state.documents.begin(); document != m_state.documents.end(); ++document) {
     const RecentDocument& memory = document->second;
@@ -191,35 +212,13 @@ void RecentShortcuts::Forget() {
   }
 }
 
-void RecentShortcuts::NoteFilled() {
-  if (std::exchange(m_state.isEmptied, false)) m_isChanged = true;
-}
-
-bool RecentShortcuts::NoteEmptied() {
-  if (std::exchange(m_state.isEmptied, true)) return false;
-  for (auto& [path, document] : m_state.documents)
-    if (!document.name.empty()) document.isToBeCleared = true;
-  m_isChanged = true;
-  m_awaitsCapture = true;
-  return true;
-}
-
-void RecentShortcuts::Deliver() {
-  m_isDeliveryDue = false;
-  m_isHeldBack = false;
-  std::exception_ptr failure;
-  for (Document& document : m_state.documents) {
-    if (document.second.pending.empty()) continue;
-    try {
-      DeliverTo(document);
-    } catch (const Error&) {
-      // One bad name must not keep the other shortcuts from being written.
-      if (!failure) failure = std::current_exception();
-      m_isDeliveryDue = true;
-    }
-  }
-  m_isFolderKnown = false;
-  if (failure) std::rethrow_exception(failure);
+/// Writes what is pending. One bad name does not keep the other shortcuts from being written.
+void RecentShortcuts::Deliver(Failure& failure) {
+  m_delivery = Delivery::Done;
+  bool isComplete = true;
+  for (Document& document : m_state.documents)
+    if (!document.second.pending.empty()) isComplete = Try(failure, [&] { DeliverTo(document); }) && isComplete;
+  if (!isComplete) m_delivery = Delivery::Due;
 }
 
 void RecentShortcuts::DeliverTo(Document& document) {
@@ -229,10 +228,10 @@ void RecentShortcuts::DeliverTo(Document& document) {
     const Moment opening = memory.pending.front();
     const bool isSameDay = memory.isPresent && OnSameLocalDay(memory.written, opening);
     if (memory.isPresent && !memory.isCaptured && !isSameDay) {
-      m_isHeldBack = true;
+      m_delivery = Delivery::WaitsForCapture;
       return;
     }
-    // A shortcut of that day with that time or a later one says all there is to say of the day.
+    // A shortcut with that time, or a later one of the same day, already shows all that counts of the day.
     const bool isTold = isSameDay && memory.written >= opening;
     if (!isTold && !Write(document, opening)) return;
     memory.pending.erase(memory.pending.begin());
@@ -240,13 +239,13 @@ void RecentShortcuts::DeliverTo(Document& document) {
   }
 }
 
-/// False when the document has to be left out.
+/// False when there can be no shortcut to the document.
 bool RecentShortcuts::Write(Document& document, Moment opening) {
   const auto bytes = LinkBytes(document);
   if (!bytes) return false;
   RecentDocument& memory = document.second;
   m_disk.WriteShortcut(memory.name, *bytes, opening);
-  // What the file system made of the time: not every one keeps nanoseconds.
+  // Read back, because not every file system keeps nanoseconds.
   memory.written = m_disk.Written(memory.name).value_or(opening);
   memory.isPresent = true;
   memory.isCaptured = false;
@@ -254,8 +253,8 @@ bool RecentShortcuts::Write(Document& document, Moment opening) {
   return true;
 }
 
-void RecentShortcuts::Captured() {
-  if (m_isHeldBack) m_isDeliveryDue = true;
+void RecentShortcuts::MarkCaptured() {
+  if (m_delivery == Delivery::WaitsForCapture) m_delivery = Delivery::Due;
   if (!m_awaitsCapture) return;
   for (auto& [path, document] : m_state.documents) {
     if (!document.isPresent || document.isCaptured) continue;
@@ -287,7 +286,7 @@ void RecentShortcuts::Prune() {
     if (document->isCaptured && document->pending.empty()) RemoveUnchanged(*document);
 }
 
-/// Deletes a captured shortcut. One that was written anew since stays: its document was opened from the program.
+/// Deletes a captured shortcut, unless it was rewritten since: then its document was opened from the program.
 void RecentShortcuts::RemoveUnchanged(RecentDocument& document) {
   const auto written = m_disk.Written(document.name);
   if (written && *written != document.written) return;

@@ -3,10 +3,10 @@
 #include <functional>
 #include <optional>
 #include <string>
-#include <unordered_map>
 #include <utility>
 #include <vector>
 
+#include "linux/recent/ForeignShortcuts.h"
 #include "linux/recent/ListedDocuments.h"
 #include "linux/recent/RecentDisk.h"
 #include "linux/recent/RecentState.h"
@@ -17,74 +17,85 @@ namespace dayvane::recent {
 /// The bytes of a shell link.
 using LinkWriter = std::function<std::string(const platform::ShellLink&)>;
 
+/// The first thing that went wrong with the disk during one call.
+using Failure = std::optional<std::string>;
+
 /// The shortcuts of the Recent folder, one for each document that was ever listed, and what is remembered of them.
 ///
 /// A change goes to the disk in three steps: the state with the new openings as pending, the shortcuts, the state
-/// without them. Whatever is cut off there, the next session finds what is still to do, and does not do twice what is
-/// done: the folder shows which shortcut has its time already. All functions may fail with an Error and can then be
-/// called again.
+/// without them. After a kill between any two of them the next session does what is left and nothing twice, because
+/// the folder shows which shortcuts have their time already. A step that fails is tried again by the next call.
 class RecentShortcuts {
  public:
   struct Limits {
     std::size_t shortcuts = 1000;  ///< the folder keeps this many of the newest
 
-    /// Documents that are remembered; more only where the list itself or the folder holds more. Those opened longest
-    /// ago are forgotten down to their trace (see Forgotten), and only when neither the list nor the folder has them.
+    /// Documents that are remembered; more only where the list or the folder itself holds more. Those opened longest
+    /// ago are forgotten first (see Forgotten), and only when neither the list nor the folder has them.
     std::size_t documents = 10'000;
   };
 
-  RecentShortcuts(RecentDisk& disk, LinkWriter writeLink, Limits limits);
+  RecentShortcuts(RecentDisk& disk, LinkWriter writeLink, Limits limits)
+      : m_disk(disk), m_writeLink(std::move(writeLink)), m_limits(limits), m_foreign(disk) {}
 
-  enum class Memory { Sound, None, Damaged };
+  /// The state that the last session left.
+  enum class Memory { Sound, Missing, Damaged };
 
-  /// Takes up the state that an earlier session left.
+  /// Reads that state. Fails with an Error when it cannot be read.
   Memory Load();
 
-  /// Looks at what the folder holds. Names are given only while that is known: from here to the end of Deliver.
-  void Observe();
+  /// What a reading of the list brought.
+  struct News {
+    std::size_t added = 0;   ///< documents that were not remembered before
+    bool isEmptied = false;  ///< the user has just emptied the list
+  };
 
-  /// Whether the folder holds anything that is no document's shortcut.
-  bool KnowsNotAll() const { return !m_strangers.empty(); }
+  struct Outcome {
+    News news;
+    bool isForeignFound = false;  ///< the folder holds what no remembered document owns
+    std::vector<std::string>
+        unlinkable;  ///< native paths of documents that no shortcut can lead to, each reported once
+    Failure failure;
+  };
 
-  /// Takes in the documents of the list; returns how many of them are new.
-  std::size_t Note(const std::vector<ListedDocument>& documents, Moment now);
+  /// Takes in the listing, if there is a new one, and brings the folder up to date as far as no opening would be lost
+  /// that is not captured yet. Every step is tried even if another one fails.
+  Outcome Refresh(const std::optional<Listing>& listing);
 
-  /// The list holds something.
-  void NoteFilled();
+  /// Whether a Refresh has something to do although the list is unchanged.
+  bool IsWorkDue() const { return m_delivery == Delivery::Due || m_isChanged; }
 
-  /// The user emptied the list: what the folder holds now goes as soon as it is captured. False when that is known.
-  bool NoteEmptied();
+  /// Takes in a listing without changing the folder. Where the state cannot be written, the next Refresh writes it.
+  News Remember(const Listing& listing);
 
-  /// Writes what is pending, as far as nothing that is not captured yet would be lost. Every shortcut is tried; the
-  /// first failure is passed on.
-  void Deliver();
-
-  /// Everything in the folder has been filed, as far as Observe saw it or Deliver wrote it.
-  void Captured();
-
-  /// Writes the state, if there is anything new in it.
-  void Save();
-
-  /// Whether there is something to do although the list is unchanged.
-  bool IsWorkDue() const { return m_isDeliveryDue || m_isChanged; }
-
-  /// Native paths of documents that were found to have no form that the program can spell, each reported once.
-  std::vector<std::string> TakeLeftOut() { return std::exchange(m_leftOut, {}); }
+  /// Everything that the last Refresh left in the folder has been filed.
+  Failure Captured();
 
  private:
   using Document = std::pair<const std::string, RecentDocument>;
 
-  void ObserveShortcut(RecentDocument& document, const FolderItem& item);
-  bool NoteDocument(const ListedDocument& listed, Moment now);
+  /// What is known of the folder's contents.
+  enum class FolderView { Never, Outdated, Current };
+
+  /// Openings that the shortcuts do not show yet.
+  enum class Delivery { Done, WaitsForCapture, Due };
+
+  void Save();
+  void LookAtFolder();
+  void LookAtShortcut(RecentDocument& document, const FolderItem& item);
+  News TakeIn(const Listing& listing);
+  bool TakeInDocument(const ListedDocument& listed, Moment now);
+  bool NoteEmptied();
   bool IsLongForgotten(const ListedDocument& listed) const;
-  void LeaveOut(Document& document);
+  void MarkUnlinkable(Document& document);
   std::optional<std::string> LinkBytes(Document& document);
   void GiveName(Document& document);
   bool Adopt(Document& document);
-  void ReadAdoptable();
   void Forget();
+  void Deliver(Failure& failure);
   void DeliverTo(Document& document);
   bool Write(Document& document, Moment opening);
+  void MarkCaptured();
   void RemoveCleared();
   void Prune();
   void RemoveUnchanged(RecentDocument& document);
@@ -94,16 +105,12 @@ class RecentShortcuts {
   Limits m_limits;
   RecentState m_state;
   ShortcutNames m_names{m_state.forgotten};
-  std::unordered_map<std::string, FolderItem> m_strangers;  ///< by lower-case name: what is nobody's shortcut
-  std::unordered_map<std::string, FolderItem> m_adoptable;  ///< strangers by their bytes
-  std::vector<std::string> m_leftOut;
-  std::uint64_t m_readings = 0;  ///< of the list
-  bool m_isFolderKnown = false;  ///< Observe's findings hold
-  bool m_wasObserved = false;    ///< in this session
-  bool m_isAdoptableRead = false;
-  bool m_isChanged = false;  ///< the state differs from its file
-  bool m_isDeliveryDue = true;
-  bool m_isHeldBack = false;    ///< something waits for the next capture
+  ForeignShortcuts m_foreign;
+  std::vector<std::string> m_unlinkable;  ///< not reported yet
+  std::uint64_t m_readings = 0;           ///< of the list
+  FolderView m_folder = FolderView::Never;
+  Delivery m_delivery = Delivery::Due;
+  bool m_isChanged = false;     ///< the state differs from its file
   bool m_awaitsCapture = true;  ///< the next capture changes something
 };
 

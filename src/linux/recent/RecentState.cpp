@@ -33,7 +33,7 @@ std::string Escape(std::string_view text) {
   return escaped;
 }
 
-/// A number of this type that is not negative: a state holds no other.
+/// A number that is not negative: a state has no others.
 template <class Number>
 std::optional<Number> ParseNumber(std::string_view text, int base = 10) {
   Number number = 0;
@@ -42,7 +42,7 @@ std::optional<Number> ParseNumber(std::string_view text, int base = 10) {
   return number;
 }
 
-/// Nothing for a text that Escape does not write: one with a null would be cut short on its way to the system.
+/// Nothing for a text that Escape does not write. A null in particular would cut a path short in system calls.
 std::optional<std::string> Unescape(std::string_view text) {
   std::string plain;
   for (std::size_t i = 0; i < text.size(); ++i) {
@@ -89,7 +89,7 @@ std::string Hexadecimal(std::uint16_t hash) {
 std::string Flags(const RecentDocument& document) {
   std::string flags;
   if (document.isCaptured) flags += 'c';
-  if (document.isLeftOut) flags += 'o';
+  if (document.isUnlinkable) flags += 'o';
   if (document.isToBeCleared) flags += 'x';
   return flags.empty() ? std::string(kNone) : flags;
 }
@@ -108,7 +108,7 @@ std::string DocumentLine(const std::string& path, const RecentDocument& document
   return line + "\n";
 }
 
-/// A list of numbers, or nothing when one of them is none.
+/// A list of numbers; nothing when one part of it is not a number.
 template <class Number>
 std::optional<std::vector<Number>> ParseList(std::string_view text, int base) {
   std::vector<Number> numbers;
@@ -127,7 +127,7 @@ bool ParseFlags(std::string_view text, RecentDocument& document) {
     if (flag == 'c')
       document.isCaptured = true;
     else if (flag == 'o')
-      document.isLeftOut = true;
+      document.isUnlinkable = true;
     else if (flag == 'x')
       document.isToBeCleared = true;
     else
@@ -148,7 +148,7 @@ bool ParseFuture(std::string_view text, RecentDocument& document) {
   return true;
 }
 
-/// A name that a shortcut of ours may have: never one that leads out of the folder.
+/// Whether a shortcut of ours may have this name, which must not lead out of the folder.
 bool IsShortcutName(const std::string& name) {
   return name.ends_with(".lnk") && !name.starts_with('.') && name.size() <= 255 && name.find('/') == std::string::npos;
 }

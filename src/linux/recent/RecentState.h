@@ -19,11 +19,11 @@ namespace dayvane::recent {
 ///     document  SEEN  WRITTEN  FLAGS  FUTURE  PENDING  NAME  PATH
 ///     end  COUNT                                 of the documents
 ///
-/// Moments are nanoseconds since 1970. FLAGS is any of "c" (isCaptured), "o" (isLeftOut) and "x" (isToBeCleared);
+/// Moments are nanoseconds since 1970. FLAGS is any of "c" (isCaptured), "o" (isUnlinkable) and "x" (isToBeCleared);
 /// FUTURE is two moments with a colon between them; PENDING is moments with commas between them; a field without a
 /// value is "-". In NAME and PATH a percent sign, a control character, and every byte beyond ASCII of a text that is
-/// no UTF-8 are written "%XX". A line that is not of this form, a second line for a path or a name, and a line without
-/// its line end are passed over; the rest of such a file still counts. A file without the first line is worth nothing.
+/// not UTF-8 are written "%XX". A line of any other form, a second line for a path or a name, and a line without its
+/// line end are skipped; the rest of such a file still counts. A file without the first line is not read.
 struct RecentState {
   std::map<std::string, RecentDocument> documents;  ///< by native path
   Forgotten forgotten;
@@ -34,7 +34,7 @@ std::string WriteState(const RecentState& state);
 
 struct StateReading {
   RecentState state;
-  bool isDamaged = false;  ///< the text is not a whole and sound state; what is sound in it was taken
+  bool isDamaged = false;  ///< the text is not a whole and sound state; its sound lines were read
 };
 
 StateReading ReadState(std::string_view text);

@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::string_view kExtension = ".lnk";
 constexpr std::size_t kLongestName = 255;  // bytes: NAME_MAX of the usual file systems
-constexpr std::size_t kMostDigits = 6;     // a longer number in a name is the document's own
+constexpr std::size_t kMostDigits = 6;     // a longer number belongs to the document's name
 
 /// The first `size` bytes, or a little less where that would cut a character in two.
 std::string_view Shortened(std::string_view text, std::size_t size) {
@@ -31,7 +31,7 @@ std::pair<std::string_view, int> SplitNumber(std::string_view name) {
   return number ? std::pair{name.substr(0, start), *number} : std::pair{name, 1};
 }
 
-/// FNV-1a, folded to 16 bits: the state file keeps it, so it must be the same everywhere and always.
+/// FNV-1a, folded to 16 bits. It is kept in the state file, so it must never change.
 std::uint16_t Hash(std::string_view text) {
   std::uint32_t hash = 2166136261U;
   for (const char c : text) hash = (hash ^ static_cast<unsigned char>(c)) * 16777619U;

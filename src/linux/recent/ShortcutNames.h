@@ -11,8 +11,8 @@
 
 namespace dayvane::recent {
 
-/// Trace of documents that are no longer remembered, of a size that has a bound: enough to never give one's shortcut
-/// name to another document, and to never take an old opening for a new one.
+/// What is left of documents that are no longer remembered. Its size is bounded, and it is enough never to give a
+/// shortcut's name to another document, and never to take an old opening for a new one.
 struct Forgotten {
   Moment latest = 0;                 ///< no forgotten document was opened later than this
   int highestNumber = 0;             ///< no forgotten name has a higher number; 0 when nothing is forgotten
@@ -27,20 +27,20 @@ class ShortcutNames {
  public:
   explicit ShortcutNames(Forgotten& forgotten) : m_forgotten(forgotten) {}
 
-  /// A free name for a document, given its file name; `isInFolder` knows of files that are nobody's shortcut.
+  /// A free name for a document, given its file name; `isInFolder` says whether a foreign file has a name.
   std::string Choose(const std::string& documentName, const std::function<bool(const std::string&)>& isInFolder);
 
   void Take(const std::string& name, const std::string& owner);
   void Forget(const std::string& name, Moment lastOpening);
 
-  /// The document whose shortcut has this name, but for letter case; null when there is none.
+  /// The document whose shortcut has this name, in any letter case; null when no document owns it.
   const std::string* Owner(const std::string& name) const;
 
  private:
   bool IsForgotten(const std::string& name) const;
 
   std::unordered_map<std::string, std::string> m_owners;     ///< documents by lower-case name
-  std::unordered_map<std::string, int> m_lowestFreeNumbers;  ///< by lower-case stem; spares trying them all each time
+  std::unordered_map<std::string, int> m_lowestFreeNumbers;  ///< by lower-case stem; saves trying all of them each time
   Forgotten& m_forgotten;
 };
 

@@ -117,7 +117,7 @@ TEST(RecentFolderCapture, ALookDuringACaptureChangesNothingInTheFolder) {
   desk.PutDocuments({{kReport, "2026-11-20T08:00:00Z"}});
   folder.Refresh();
   desk.PutDocuments({{kReport, "2026-11-20T09:00:00Z"}, {"/home/ana/new.txt", "2026-11-20T09:00:00Z"}});
-  folder.Look();
+  folder.RememberOpenings();
   EXPECT_THAT(desk.Shortcuts(), ElementsAre(Pair("Report.odt.lnk", "2026-11-20T08:00:00.000000000Z")));
   folder.Captured();
   desk.PutDocuments({{kReport, "2026-11-21T09:00:00Z"}});
@@ -133,7 +133,7 @@ TEST(RecentFolderCapture, WhatOnlyALookSawIsKeptFromOneSessionToTheNext) {
   RecentFolder& folder = desk.Start();
   folder.Refresh();
   desk.PutDocuments({{kReport, "2026-11-20T09:00:00Z"}});
-  folder.Look();
+  folder.RememberOpenings();
   fs::remove(desk.m_list);
   desk.Start();
   desk.Poll();

@@ -56,7 +56,7 @@ TEST(RecentFolder, BeforeTheFirstRefreshNothingHappens) {
   desk.PutDocuments({{"/home/ana/Report.odt", kMorning}});
   const std::string before = desk.Traces();
   RecentFolder& folder = desk.Start();
-  folder.Look();
+  folder.RememberOpenings();
   folder.Captured();
   EXPECT_EQ(desk.Traces(), before);
 }

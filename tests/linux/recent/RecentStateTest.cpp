@@ -20,7 +20,7 @@ RecentState Example() {
   odd.futureTo = 6;
   odd.isToBeCleared = true;
   RecentDocument& unspellable = state.documents["/home/ana/\xFF\xFE"];
-  unspellable.isLeftOut = true;
+  unspellable.isUnlinkable = true;
   state.forgotten = {7, 2, {0x1, 0xABCD}};
   state.isEmptied = true;
   return state;

@@ -10,7 +10,7 @@
 namespace dayvane::programshortcut {
 
 /// Where in a folder the shortcut of a program goes, by its name without ".lnk". An earlier one of a program may lie
-/// there, and is to be replaced.
+/// there, and will be replaced.
 std::string PathFor(Application& application, const std::string& folder, const std::string& name);
 
 /// Gives the shortcut of a program that lies where a document's is due another name, so that the document's counts as

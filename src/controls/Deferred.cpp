@@ -104,7 +104,7 @@ void ActOnDeferred() {
     try {
       act();
     } catch (...) {
-      WakeIfNeeded();  // for the others, while the error goes on to whoever reports it
+      WakeIfNeeded();  // for the others, while the error goes on to be reported
       throw;
     }
   }

@@ -17,7 +17,7 @@ class Connection {
   std::shared_ptr<void> m_listener;
 };
 
-/// An event of a control: whoever connected is called, in the order of connecting. Listeners may come and go while it
+/// An event of a control: its listeners are called in the order of connecting. Listeners may come and go while it
 /// is raised.
 template <class... Arguments>
 class Signal {

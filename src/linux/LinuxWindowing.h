@@ -11,7 +11,7 @@ namespace dayvane::widgets {
 
 class FormPresenter;
 
-/// Message boxes, menus at a point and windows. Whoever makes a form's window registers it; a form without a window
+/// Message boxes, menus at a point and windows. A form's window is registered by its maker; a form without a window
 /// is not shown.
 class LinuxWindowing : public platform::Windowing {
  public:

@@ -76,7 +76,7 @@ void LayNet(std::optional<ErrorNet>& net, Application& application) {
   net.emplace(report, [] { QCoreApplication::exit(kFailure); });
 }
 
-/// Whoever asked for help when welcomed wants to read it, and not to see the main window come over it.
+/// A user who asked for help at the welcome wants to read it, and not to have the main window cover it.
 void KeepHelpInFront(help::LinuxHelp& help, FMainControls& mainWindow) {
   mainWindow.form.Activate.Connect([&help, isFirst = true]() mutable {
     if (std::exchange(isFirst, false)) QTimer::singleShot(0, qApp, [&help] { help.BringToFront(); });

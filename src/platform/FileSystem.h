@@ -61,7 +61,7 @@ class FileSystem {
   /// The first `limit` bytes of a file.
   virtual FileContents Read(const std::string& path, std::size_t limit) = 0;
 
-  /// Puts a whole file in place of what was there: whoever looks, even after a kill or a power cut, finds the old
+  /// Puts a whole file in place of what was there: every reader, even after a kill or a power cut, finds the old
   /// file or the new one.
   virtual void Replace(const std::string& path, std::string_view bytes) = 0;
 

@@ -58,7 +58,7 @@ class WritesTogether {
   WritesTogether(const WritesTogether&) = delete;
   WritesTogether& operator=(const WritesTogether&) = delete;
 
-  /// For whoever does not ask: what was written before an error is stored too, and a failure is not told.
+  /// For callers that do not call Store: what was written before an error is stored too, and failures are ignored.
   ~WritesTogether() {
     try {
       Store();

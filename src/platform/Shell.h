@@ -29,7 +29,7 @@ struct ReadLink {
 /// Number of the user's Recent folder among the shell's special folders (CSIDL_RECENT).
 inline constexpr int kRecentFolder = 8;
 
-/// Results of opening a document that are told apart (ShellExecute, SE_ERR_…); above 32 it was opened, and other values
+/// Results of opening a document that matter (ShellExecute, SE_ERR_…); above 32 it was opened, and other values
 /// are other failures.
 enum OpenResult : int {
   kSeFileNotFound = 2,
@@ -55,7 +55,7 @@ class Shell {
   /// Everything the Recent folder held after the last refresh has been filed; what was waiting for that may go.
   virtual void RecentFolderCaptured() = 0;
 
-  /// Reads a shell link. A file that is none reads as an empty link, with an entry in the event log; a file that
+  /// Reads a shell link. A file in any other format reads as an empty link, with an entry in the event log; a file that
   /// cannot be opened is an error.
   virtual ReadLink ReadShellLink(const std::string& path) = 0;
 

@@ -68,7 +68,7 @@ void FOptions::Form_Load() {
 }
 
 void FOptions::Form_QueryUnload(bool& cancel, controls::UnloadMode mode) {
-  // Whoever closes the dialog has cancelled it; it goes when its owner is done with it.
+  // Closing the dialog cancels it; its owner destroys it.
   if (mode == controls::UnloadMode::Code) return;
   cancel = true;
   cmdOptions[kCancel].Press();

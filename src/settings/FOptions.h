@@ -36,7 +36,7 @@ class FOptions {
   /// Shows the dialog and returns, once it is hidden again, whether the user accepted.
   bool GetValues();
 
-  /// Whether all fields are in range; the first that is not is told of and gets the focus.
+  /// Whether all fields are in range; the first that is not is reported and gets the focus.
   bool Validate();
 
   controls::Form form;

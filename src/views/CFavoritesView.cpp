@@ -35,7 +35,7 @@ void CFavorites::Container_Resize() {
 bool CFavorites::RemoveDocument(const std::string& key) {
   Assert(!text::Trim(key).empty(), ".RemoveDocument: Key is missing");
   Assert(HasList(), ".RemoveDocument: ListView is Nothing");
-  // A key that is not in the list is the usual case, not a failure to tell of.
+  // A key that is not in the list is the usual case, not a failure.
   if (!HasList() || List("RemoveDocument").Find(key) == nullptr) return false;
   List("RemoveDocument").Remove(key);
   return true;

@@ -17,7 +17,7 @@ using views::PathOf;
 
 namespace {
 
-/// The results for which the user is told of an operating system error.
+/// The results that are reported to the user as an operating system error.
 bool IsSystemError(int result) {
   return result == 0 || result == 11 || (result >= 26 && result <= 30);
 }

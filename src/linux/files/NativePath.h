@@ -12,7 +12,7 @@
 /// Unix give such characters (0xF000 plus the character).
 namespace dayvane::files {
 
-/// The native path, byte for byte; nothing for a path on a drive that this system has not.
+/// The native path, byte for byte; nothing for a path on a drive that does not exist here.
 std::optional<std::string> ToNative(std::string_view path);
 
 /// The native path of a document or folder that a link names. Where the exact name does not exist, one that differs

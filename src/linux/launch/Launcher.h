@@ -15,7 +15,7 @@ using enum platform::OpenResult;
 /// for an application. Needs the GLib main loop for what happens later.
 class Launcher {
  public:
-  /// `report` is told of failures that come to light after a call has returned.
+  /// `report` takes failures that come to light after a call has returned.
   explicit Launcher(Reporter report);
   Launcher(const Launcher&) = delete;
   Launcher& operator=(const Launcher&) = delete;

@@ -159,7 +159,7 @@ void CalendarPresenter::ShowMonth(int year, int month) {
 
 void CalendarPresenter::SelectionMoved() {
   if (m_showing) return;
-  // The click that moved the selection is told of right after it.
+  // The click that moved the selection is reported right after it.
   m_selectionMoved = true;
   QTimer::singleShot(0, this, [this] { m_selectionMoved = false; });
   Choose(selectedDate());

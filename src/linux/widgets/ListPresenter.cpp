@@ -130,7 +130,7 @@ void ListPresenter::ShowSelection() {
   CurrentView().setAutoScroll(false);
   m_selection.setCurrentIndex(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
   CurrentView().setAutoScroll(true);
-  // A list that is filled again gets its selection back; whoever had scrolled away from it stays there.
+  // A list that is filled again gets its selection back; a user who had scrolled away from it stays there.
   if (item != nullptr && !m_scroll.ScrolledAwayFrom(item->key)) ScrollToSelection();
 }
 

@@ -79,7 +79,7 @@ QIcon IconDrawnPerSize(const char* name) {
 }  // namespace
 
 QIcon PictureIcon(int picture) {
-  // Drawn once each: an icon keeps the pixmaps that were asked of it, and is shared by whoever shows it.
+  // Drawn once each: an icon keeps the pixmaps it was asked for, and everything that shows it shares them.
   static QHash<int, QIcon> icons;
   const auto known = icons.constFind(picture);
   if (known != icons.constEnd()) return *known;

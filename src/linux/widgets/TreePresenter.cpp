@@ -41,7 +41,7 @@ void TreePresenter::ListenToUser() {
   SetEvents({[this](const QModelIndex& index) { Click(index); }, nullptr,
              [this](int button, QPoint at) { RaiseMouseUp(button, at); },
              [this](int key, int modifiers) {
-               // Who has no mouse gets at the node's menu by the keyboard.
+               // The node's menu without a mouse.
                if (key == controls::kKeyF10 && modifiers == controls::kAltMask)
                  RaiseMouseUp(controls::kRightButton, visualRect(currentIndex()).center());
              }});

@@ -42,7 +42,7 @@ class SettingsKey : public RegistryKey {
 
   void AddSubKey(const std::string& name) override {
     const bool fits = !name.empty() && std::none_of(name.begin(), name.end(), [](char c) {
-      return c == '\\' || static_cast<unsigned char>(c) < 0x20;
+      return std::string_view("\\[]").find(c) != std::string_view::npos || static_cast<unsigned char>(c) < 0x20;
     });
     if (!fits) throw Error(kInvalidProcedureCall, "Not the name of a registry key", name);
     const std::string path = Below(m_path, name);

@@ -122,7 +122,7 @@ std::string FaultyDesk::ComplaintAbout(const std::string& path) const {
   if (name == "Favorites.dat" || name.starts_with("Favorites.damaged"))
     return IsWholeFavorites(text) ? "" : "favorites in part";
   if (name == "Recent.state") return recent::ReadState(text).isDamaged ? "a state in part" : "";
-  if (name.starts_with("dayvane.ini")) return registry::ParseSettings(text).damaged ? "settings in part" : "";
+  if (name.starts_with("dayvane.ini")) return registry::ParseSettings(text) ? "" : "settings in part";
   if (name.ends_with(".lnk")) return IsWholeLink(text) ? "" : "a shortcut in part";
   const bool isKnown = name == kList || name == kEditor || name == "ErrorLog.txt" || name == "EventLog.txt" ||
                        name == "Favorites.pending";

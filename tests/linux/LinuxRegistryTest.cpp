@@ -63,7 +63,7 @@ TEST_F(LinuxRegistryTest, AddingAKeyThatIsThereSaysSo) {
 
 TEST_F(LinuxRegistryTest, AKeyNameIsOneLevel) {
   auto software = m_registry.KeyFromRoot(kHkeyCurrentUser)->OpenSubKey("Software");
-  for (const char* name : {"", "a\\b", "a\nb"})
+  for (const char* name : {"", "a\\b", "a\nb", "a[b", "a]b"})
     EXPECT_EQ(NumberOfError([&] { software->AddSubKey(name); }), kInvalidProcedureCall) << name;
 }
 

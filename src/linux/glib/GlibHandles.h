@@ -33,6 +33,11 @@ struct FreeObjectList {
 };
 using ObjectList = std::unique_ptr<GList, FreeObjectList>;
 
+struct UnrefKeyFile {
+  void operator()(GKeyFile* file) const { g_key_file_unref(file); }
+};
+using KeyFile = std::unique_ptr<GKeyFile, UnrefKeyFile>;
+
 /// Room for the failure of one call.
 class Failure {
  public:

@@ -32,13 +32,6 @@ std::string FreeNameBeside(const std::string& nativePath) {
   return name;
 }
 
-const std::string* Find(const SettingsKeys& keys, std::string_view path, std::string_view name) {
-  const auto key = keys.find(path);
-  if (key == keys.end()) return nullptr;
-  const auto value = key->second.find(name);
-  return value == key->second.end() ? nullptr : &value->second;
-}
-
 void Merge(SettingsKeys& keys, const SettingsKeys& newer) {
   for (const auto& [path, values] : newer)
     for (const auto& [name, text] : values) keys[path][name] = text;
@@ -70,7 +63,7 @@ void SettingsFile::AddKey(std::string_view path) {
 std::optional<std::string> SettingsFile::Value(std::string_view path, std::string_view name) {
   Refresh();
   for (const SettingsKeys* keys : {&m_changes, &m_keys, &m_thisRuns})
-    if (const std::string* text = Find(*keys, path, name)) return *text;
+    if (const std::string* text = FindSetting(*keys, path, name)) return *text;
   return std::nullopt;
 }
 
@@ -108,15 +101,17 @@ void SettingsFile::Store() {
 
 void SettingsFile::Replace(const SettingsKeys& changes) {
   Refresh();
-  SettingsKeys changed = m_thisRuns;
-  Merge(changed, m_keys);
+  SettingsKeys changed = m_keys;
+  for (const auto& [path, values] : m_thisRuns) changed[path].insert(values.begin(), values.end());
   Merge(changed, changes);
   if (changed == m_keys) return;
 
   xdg::MakeFolder(ParentOf(m_nativePath));
   const std::string file = FilePath();
   if (m_damaged) KeepDamagedFile(file);
-  files::LinuxFileSystem().Replace(file, WriteSettings(changed));
+  std::string text = WriteSettings(changed, m_text);
+  files::LinuxFileSystem().Replace(file, text);
+  m_text = std::move(text);
   m_keys = std::move(changed);
   IgnoreErrors([&] { m_version = VersionOf(file); });  // or it is read again
 }
@@ -143,27 +138,24 @@ void SettingsFile::Refresh() {
   const bool isKnown = IgnoreErrors([&] { found = VersionOf(path); });
   if (isKnown && found == m_version) return;
   m_version = found;
+  m_text.clear();
   m_keys.clear();
   // Of a file that the disk tells nothing of no setting is known, and none may be lost by that.
   m_damaged = !isKnown;
   if (!found) return;
   Read(path);
-  if (m_damaged) m_report("The settings file is damaged; what cannot be read counts as missing: " + m_nativePath);
+  if (m_damaged) m_report("The settings file is damaged and counts as empty: " + m_nativePath);
 }
 
 void SettingsFile::Read(const std::string& path) {
   std::string bytes;
-  try {
-    bytes = files::LinuxFileSystem().Read(path, kLargestFile + 1).bytes;
-  } catch (const Error&) {
-    // A folder in its place, or a file that may not be read: no setting is known, and nothing may be lost by that.
-    m_damaged = true;
-    return;
-  }
-  ParsedSettings parsed;
-  if (bytes.size() <= kLargestFile) parsed = ParseSettings(bytes);
-  m_keys = std::move(parsed.keys);
-  m_damaged = parsed.damaged || bytes.size() > kLargestFile;
+  // Of a folder in its place, and of a file that may not be read, no setting is known, and nothing may be lost by that.
+  const bool isRead = IgnoreErrors([&] { bytes = files::LinuxFileSystem().Read(path, kLargestFile + 1).bytes; });
+  auto keys = isRead && bytes.size() <= kLargestFile ? ParseSettings(bytes) : std::nullopt;
+  m_damaged = !keys;
+  if (m_damaged) return;
+  m_keys = std::move(*keys);
+  m_text = std::move(bytes);
 }
 
 void SettingsFile::KeepDamagedFile(const std::string& path) {

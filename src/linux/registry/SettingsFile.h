@@ -16,14 +16,12 @@ namespace dayvane::registry {
 ///
 /// The file is the only truth: it is read again whenever it has changed on the disk, so that a value that its user
 /// edits or removes by hand while the program runs is seen, and kept when another one is written.
-///
-/// The toolkit's own settings class is not used: left behind by a kill, its lock file stops every later start for ever.
 class SettingsFile {
  public:
   using Reporter = std::function<void(const std::string& event)>;
 
   /// The file and its folders need not exist: the first value written makes them. A file that cannot be read whole is
-  /// reported, read as far as it can be, and kept under another name (".damaged" added) before it is first replaced.
+  /// reported, counts as empty, and is kept under another name (".damaged" added) before it is first replaced.
   SettingsFile(std::string nativePath, Reporter report);
 
   /// A key exists when it or one below it has a value, or when it was added in this run: a key reaches the disk with
@@ -65,6 +63,7 @@ class SettingsFile {
 
   std::string m_nativePath;
   Reporter m_report;
+  std::string m_text;  ///< of the file, empty when it is damaged
   SettingsKeys m_keys;
   SettingsKeys m_changes;        ///< held, not yet on the disk
   bool m_mustReachDisk = false;  ///< there are others than defaults among the held ones

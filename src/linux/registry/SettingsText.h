@@ -1,6 +1,7 @@
 #pragma once
 
 #include <map>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -19,25 +20,26 @@ using SettingsValues = std::map<std::string, std::string, IgnoringCase>;
 /// Values by the path of their key, "Software\Korvath\Dayvane\Options".
 using SettingsKeys = std::map<std::string, SettingsValues, IgnoringCase>;
 
-struct ParsedSettings {
-  SettingsKeys keys;
-  bool damaged = false;  ///< the text holds lines that mean nothing
-};
+/// The text of a value; null when there is none.
+const std::string* FindSetting(const SettingsKeys& keys, std::string_view path, std::string_view name);
 
-/// The settings in the form in which they are kept, which a person can read and edit:
+/// The settings in the form in which they are kept, one of GLib's key files, which a person can read and edit:
 ///
+///     # often
 ///     [Software\Korvath\Dayvane\Options]
-///     Favorites Threshold=3
+///     Timer Interval=5
 ///
-/// UTF-8, a line for each value below the path of its key. Blanks around a name, a text or a line, empty lines and
-/// lines that start with ";" or "#" mean nothing. The value without a name is "@". What cannot stand for itself is
-/// written as \\, \n, \r, \t, \s (a blank at either end) or \xHH (one byte, hexadecimal); any other "\" is itself.
+/// UTF-8, a line for each value below the path of its key. Blanks around a name or a text, empty lines and lines that
+/// start with ";" or "#" mean nothing. The value without a name is "@"; one given twice has the later text.
 ///
-/// A value given twice has the later text. A line that is none of these is skipped and counts as damage, and so are
-/// the values below a key's line that cannot be read: better missing than under another key.
-ParsedSettings ParseSettings(std::string_view text);
+/// GLib's own escapes are too few for any text and for names. What cannot stand for itself is written as \\, \n, \r,
+/// \t, \s (a blank at either end) or \xHH (one byte, hexadecimal); any other "\" is itself.
+///
+/// A line that is none of these makes the whole text damaged: nothing is returned.
+std::optional<SettingsKeys> ParseSettings(std::string_view text);
 
-/// Parsing the result gives the same settings back, but for keys without values, which are left out.
-std::string WriteSettings(const SettingsKeys& keys);
+/// The settings with the comments, the empty lines and the order of the text that they came from. Parsing the result
+/// gives the same settings back, but for keys without values, which are left out.
+std::string WriteSettings(const SettingsKeys& keys, std::string_view old = {});
 
 }  // namespace dayvane::registry

@@ -174,11 +174,29 @@ TEST_F(SettingsFileTest, AValueThatTheUserWritesIntoTheFileIsStrongerThanADefaul
   EXPECT_EQ(file.Value(kKey, "Purge Age"), "30");
 }
 
-TEST_F(SettingsFileTest, ADamagedFileIsReadAsFarAsItCanBeAndReportedOnce) {
+TEST_F(SettingsFileTest, CommentsAndEmptyLinesThatTheUserWroteSurviveASave) {
+  const std::string above = "; mine\n\n# often\n\n";
+  m_folder.Write("config/dayvane/dayvane.ini", above + kStored);
+  SettingsFile file = Open();
+  file.SetValue(kKey, "Purge Age", "31");
+  file.SetValue(kKey, "Timer Interval", "60");
+  EXPECT_EQ(ReadFile(m_path), above + "[Software\\Korvath\\Dayvane\\Options]\nPurge Age=31\nTimer Interval=60\n");
+}
+
+TEST_F(SettingsFileTest, ACommentWrittenWhileTheProgramRunsIsKept) {
+  m_folder.Write("config/dayvane/dayvane.ini", kStored);
+  SettingsFile file = Open();
+  ASSERT_EQ(file.Value(kKey, "Purge Age"), "30");
+  m_folder.Write("config/dayvane/dayvane.ini", std::string(kStored) + "# a month\n");
+  file.SetValue(kKey, "Purge Age", "31");
+  EXPECT_THAT(ReadFile(m_path), HasSubstr("Purge Age=31\n# a month\n"));
+}
+
+TEST_F(SettingsFileTest, ADamagedFileHoldsNothingAndIsReportedOnce) {
   m_folder.Write("config/dayvane/dayvane.ini", std::string(kStored) + "\xFFgarbage\nTimer Interval=60\n");
   SettingsFile file = Open();
-  EXPECT_EQ(file.Value(kKey, "Purge Age"), "30");
-  EXPECT_EQ(file.Value(kKey, "Timer Interval"), "60");
+  EXPECT_EQ(file.Value(kKey, "Purge Age"), std::nullopt);
+  EXPECT_EQ(file.Value(kKey, "Timer Interval"), std::nullopt);
   EXPECT_THAT(m_events, ElementsAre(HasSubstr(m_path)));
 }
 

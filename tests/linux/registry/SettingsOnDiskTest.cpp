@@ -157,7 +157,7 @@ TEST_F(SettingsOnDiskTest, ValuesThatAreMissingAreAddedInOneReplacementForEachGr
   Replacements replacements(Config());
   Load();
   EXPECT_LE(replacements.Count(), 5);
-  EXPECT_THAT(testing::ReadFile(File()), HasSubstr("Favorites Threshold=3\nPurge Age=30\nTimer Interval=60\n"));
+  EXPECT_THAT(testing::ReadFile(File()), HasSubstr("Purge Age=30\nFavorites Threshold=3\nTimer Interval=60\n"));
   EXPECT_THAT(desktop.windowing.Texts(), IsEmpty());
 }
 

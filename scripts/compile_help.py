@@ -22,8 +22,20 @@ import sys
 import xml.etree.ElementTree as ElementTree
 
 ALLOWED = {
-    "p": {"class"}, "h2": set(), "ol": set(), "ul": set(), "li": set(), "b": set(), "i": set(), "br": set(),
-    "a": {"href"}, "img": {"src", "width", "height", "alt"}, "table": {"class"}, "tr": set(), "td": set(), "th": set(),
+    "p": {"class"},
+    "h2": set(),
+    "ol": set(),
+    "ul": set(),
+    "li": set(),
+    "b": set(),
+    "i": set(),
+    "br": set(),
+    "a": {"href"},
+    "img": {"src", "width", "height", "alt"},
+    "table": {"class"},
+    "tr": set(),
+    "td": set(),
+    "th": set(),
 }
 NAME = re.compile(r"[a-z0-9][a-z0-9.-]*\Z")
 
@@ -63,17 +75,21 @@ class Topic:
 
 def read_contents(path):
     """The tree as (depth, name), top down."""
+
     def walk(element, depth):
         for child in element:
             yield depth, child.get("name")
             yield from walk(child, depth + 1)
+
     return list(walk(ElementTree.parse(path).getroot(), 0))
 
 
 def check(topics, contents, pictures):
     listed = [name for _, name in contents]
     if sorted(listed) != sorted(topics):
-        raise SourceError(f"contents.xml and the topics differ: {sorted(set(listed) ^ set(topics)) or 'one is listed twice'}")
+        raise SourceError(
+            f"contents.xml and the topics differ: {sorted(set(listed) ^ set(topics)) or 'one is listed twice'}"
+        )
     contexts = [context for topic in topics.values() for context in topic.contexts]
     if len(contexts) != len(set(contexts)):
         raise SourceError(f"a context number is given twice: {sorted(contexts)}")

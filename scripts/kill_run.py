@@ -86,7 +86,9 @@ class MadeUpUser:
     def _noon(self, days_ago):
         """Shortly after noon."""
         day = self._today
-        return time.mktime((day.tm_year, day.tm_mon, day.tm_mday - days_ago, 12, 0, 0, 0, 0, -1)) + self._chance.random()
+        return (
+            time.mktime((day.tm_year, day.tm_mon, day.tm_mday - days_ago, 12, 0, 0, 0, 0, -1)) + self._chance.random()
+        )
 
     def _is_filed(self, shortcut, moment):
         try:
@@ -156,8 +158,9 @@ class Findings:
         for record in records:
             self.found[record[3]] += int(record[0])
         self.doubled = [path for path in filed if path not in run.user.opened]
-        self.doubled += [name for name, times in collections.Counter(record[3] for record in records).items()
-                         if times > 1]
+        self.doubled += [
+            name for name, times in collections.Counter(record[3] for record in records).items() if times > 1
+        ]
         self.wrong = sorted(name for name in self.expected | self.found if self.expected[name] != self.found[name])
         self.errors = dayvane.errors()
 
@@ -168,9 +171,11 @@ class Findings:
         run = self._run
         moments = collections.Counter(moment for _, moment in run.kills)
         told = ", ".join(f"{moments[name]} {name}" for name in ("starting", "working", "ending"))
-        return (f"{len(run.kills)} kills ({told}), {run.user.openings} openings, {self.filed} shortcuts filed, "
-                f"counts expected {self.expected.total()}, counts found {self.found.total()}, lost {len(self.lost)}, "
-                f"doubled {len(self.doubled)}")
+        return (
+            f"{len(run.kills)} kills ({told}), {run.user.openings} openings, {self.filed} shortcuts filed, "
+            f"counts expected {self.expected.total()}, counts found {self.found.total()}, lost {len(self.lost)}, "
+            f"doubled {len(self.doubled)}"
+        )
 
     def details(self):
         for shortcut in self.lost:
@@ -184,8 +189,12 @@ class Findings:
     def _nearest_kill(self, name):
         """The kill that came soonest after one of a document's shortcuts was put in place."""
         put = [path.stat().st_ctime for path in self._run.dayvane.daily.glob(f"*/*/*/{name}.lnk")]
-        gaps = [(killed - moment, number, what) for number, (killed, what) in enumerate(self._run.kills, 1)
-                for moment in put if killed >= moment]
+        gaps = [
+            (killed - moment, number, what)
+            for number, (killed, what) in enumerate(self._run.kills, 1)
+            for moment in put
+            if killed >= moment
+        ]
         return "kill {1} ({2}) came {0:.3f} s after a filing".format(*min(gaps)) if gaps else "no kill came after it"
 
 

@@ -25,13 +25,31 @@ THRESHOLD_DAYS = 3
 
 SETTINGS = {
     "options": {"Favorites Threshold": THRESHOLD_DAYS},
-    "Window": {"Visible": True, "Window State": 0, "Left": 20 * TWIPS, "Top": 20 * TWIPS, "Width": 1000 * TWIPS,
-               "Height": 640 * TWIPS},
-    "Daily": {"Name Width": 200 * TWIPS, "Type Width": 160 * TWIPS, "Path Width": 270 * TWIPS,
-              "Modified Width": 70 * TWIPS, "Sort Column": 3, "Sort Order": 0},
-    "Favorites": {"Name Width": 220 * TWIPS, "Type Width": 180 * TWIPS, "Path Width": 320 * TWIPS,
-                  "Days Accessed Width": 110 * TWIPS, "Last Accessed Width": 140 * TWIPS, "Sort Column": 4,
-                  "Sort Order": 1},
+    "Window": {
+        "Visible": True,
+        "Window State": 0,
+        "Left": 20 * TWIPS,
+        "Top": 20 * TWIPS,
+        "Width": 1000 * TWIPS,
+        "Height": 640 * TWIPS,
+    },
+    "Daily": {
+        "Name Width": 200 * TWIPS,
+        "Type Width": 160 * TWIPS,
+        "Path Width": 270 * TWIPS,
+        "Modified Width": 70 * TWIPS,
+        "Sort Column": 3,
+        "Sort Order": 0,
+    },
+    "Favorites": {
+        "Name Width": 220 * TWIPS,
+        "Type Width": 180 * TWIPS,
+        "Path Width": 320 * TWIPS,
+        "Days Accessed Width": 110 * TWIPS,
+        "Last Accessed Width": 140 * TWIPS,
+        "Sort Column": 4,
+        "Sort Order": 1,
+    },
 }
 VIEWS = ["daily", "favorites"]
 
@@ -71,8 +89,10 @@ def moments(days_ago, openings):
     if days_ago == 0:
         return [(now - datetime.timedelta(minutes=len(openings) - i)).timestamp() for i in range(len(openings))]
     day = now - datetime.timedelta(days=days_ago)
-    return [day.replace(hour=hour, minute=7 * i + 4, second=0, microsecond=0).timestamp()
-            for i, (hour, _) in enumerate(openings)]
+    return [
+        day.replace(hour=hour, minute=7 * i + 4, second=0, microsecond=0).timestamp()
+        for i, (hour, _) in enumerate(openings)
+    ]
 
 
 def install_programs(desktop):
@@ -89,7 +109,9 @@ def install_programs(desktop):
         executable.chmod(0o755)
         (applications / f"{name}.desktop").write_text(
             f"[Desktop Entry]\nType=Application\nName={name.capitalize()}\nExec={executable} %f\n"
-            f"MimeType={';'.join(types)};\n", encoding="utf-8")
+            f"MimeType={';'.join(types)};\n",
+            encoding="utf-8",
+        )
         defaults += [f"{type}={name}.desktop" for type in types]
     (desktop.config / "mimeapps.list").write_text("\n".join(defaults) + "\n", encoding="utf-8")
 
@@ -108,6 +130,7 @@ def live_a_day(desktop, dayvane, recent, days_ago):
 
     def missing():
         return [str(path) for path in wanted if not path.exists()]
+
     wait_until(lambda: not missing(), CAPTURE_SECONDS, lambda: f"{missing()} filed")
 
 
@@ -120,6 +143,7 @@ def take_picture(desktop, view, file):
         desktop.run(["import", "-frame", "-window", window, file])
         last.append(desktop.run(["identify", "-format", "%#", file]))
         return len(last) > 1 and last[-1] == last[-2]
+
     wait_until(still, PAINT_SECONDS, "a window at rest")
 
 

@@ -22,7 +22,9 @@ class CompileHelpTest(unittest.TestCase):
 
     def compile(self):
         output = self.folder / "out.hlp"
-        result = subprocess.run([sys.executable, COMPILER, output, self.folder, self.folder], capture_output=True, text=True)
+        result = subprocess.run(
+            [sys.executable, COMPILER, output, self.folder, self.folder], capture_output=True, text=True
+        )
         return result.returncode, result.stderr, output.read_bytes() if output.exists() else None
 
     def assert_refused(self, why):
@@ -38,8 +40,11 @@ class CompileHelpTest(unittest.TestCase):
 
     def test_a_picture_is_packed_once_and_named_with_its_size(self):
         self.write("dot.svg", "<svg/>")
-        self.write("home.html", '<topic title="Home"><p><img src="dot.svg" width="3" height="4" alt=""/>'
-                                '<img src="dot.svg" width="3" height="4" alt=""/></p></topic>')
+        self.write(
+            "home.html",
+            '<topic title="Home"><p><img src="dot.svg" width="3" height="4" alt=""/>'
+            '<img src="dot.svg" width="3" height="4" alt=""/></p></topic>',
+        )
         output = self.compile()[2]
         self.assertEqual(output.count(b"picture 6 dot.svg\n<svg/>\n"), 1)
         self.assertEqual(output.count(b'src="dot.svg?3x4"'), 2)

@@ -29,7 +29,8 @@ class ADocumentOpenedInAnEditor(SessionTest):
     def choose_editor(cls):
         """Makes the editor the user's program for texts, whatever else is installed."""
         (cls.desktop.config / "mimeapps.list").write_text(
-            "[Default Applications]\ntext/plain=org.xfce.mousepad.desktop\n", encoding="utf-8")
+            "[Default Applications]\ntext/plain=org.xfce.mousepad.desktop\n", encoding="utf-8"
+        )
 
     @classmethod
     def open_in_editor(cls):
@@ -64,8 +65,11 @@ class ADocumentOpenedInAnEditor(SessionTest):
         self.wait_for(["Daily", year, month, day], lambda: self.user.names(DAYS))
 
     def test_shows_in_the_list_of_the_day(self):
-        wait_until(lambda: self.letter.name in self.user.names(DOCUMENTS), SOON_SECONDS,
-                   lambda: f"the letter in {self.user.names(DOCUMENTS)}")
+        wait_until(
+            lambda: self.letter.name in self.user.names(DOCUMENTS),
+            SOON_SECONDS,
+            lambda: f"the letter in {self.user.names(DOCUMENTS)}",
+        )
 
 
 class ADocumentOpenedAgainTheSameDay(ADocumentOpenedInAnEditor):

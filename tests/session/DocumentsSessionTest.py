@@ -39,8 +39,14 @@ class ADocumentOfTheDay(WeekTest):
         path = self.lose("Kept.txt")
         box = self.wait_for_box()
         self.answer("No")
-        self.assertEqual(box, {"title": "Dayvane", "buttons": ["Yes", "No"],
-                               "texts": [f"The document {path}\nwas not found. Remove this link?"]})
+        self.assertEqual(
+            box,
+            {
+                "title": "Dayvane",
+                "buttons": ["Yes", "No"],
+                "texts": [f"The document {path}\nwas not found. Remove this link?"],
+            },
+        )
 
     def test_that_is_gone_stays_in_the_record_after_no(self):
         self.lose("Moved.txt")

@@ -64,9 +64,11 @@ class AHostileRecord(SessionTest):
         command = str(cls.editor).replace("$", "\\\\$")
         (applications / "editor.desktop").write_text(
             f'[Desktop Entry]\nType=Application\nName=Editor\nExec="{command}" %f\nMimeType=text/plain;\n',
-            encoding="utf-8")
-        (cls.desktop.config / "mimeapps.list").write_text("[Default Applications]\ntext/plain=editor.desktop\n",
-                                                          encoding="utf-8")
+            encoding="utf-8",
+        )
+        (cls.desktop.config / "mimeapps.list").write_text(
+            "[Default Applications]\ntext/plain=editor.desktop\n", encoding="utf-8"
+        )
 
     @classmethod
     def make_documents(cls):
@@ -135,8 +137,11 @@ class AHostileRecord(SessionTest):
     def plant_links_to_folders(cls):
         """A day, a month and a year that lie elsewhere, and folders that are called like shortcuts."""
         month = cls.days[0].parent
-        cls.links = {cls.dayvane.daily / "1999": cls.archive, month.parent / "Elsewhere": cls.archive / "January",
-                     month / "00": cls.archive / "January/05"}
+        cls.links = {
+            cls.dayvane.daily / "1999": cls.archive,
+            month.parent / "Elsewhere": cls.archive / "January",
+            month / "00": cls.archive / "January/05",
+        }
         for link, folder in cls.links.items():
             link.symlink_to(folder)
         (cls.days[0] / "Folder.txt.lnk").mkdir()
@@ -208,8 +213,12 @@ class AHostileRecord(SessionTest):
         for link, folder in self.links.items():
             if pathlib.Path(path).is_relative_to(link) and path != str(link):
                 path = folder / pathlib.Path(path).relative_to(link)
-        own = (self.dayvane.folder, self.dayvane.settings_file.parent, self.desktop.folder / "runtime",
-               self.desktop.home / ".cache")
+        own = (
+            self.dayvane.folder,
+            self.dayvane.settings_file.parent,
+            self.desktop.folder / "runtime",
+            self.desktop.home / ".cache",
+        )
         return str(path) in SHARED_FILES or any(pathlib.Path(path).is_relative_to(folder) for folder in own)
 
     def test_changes_nothing_outside_of_the_programs_own_folders(self):
@@ -236,8 +245,10 @@ class AHostileRecord(SessionTest):
         self.assertEqual(listed & {"Symbolic", "Dangling", "Pipe", "Socket", "Device", "Folder", "Kept"}, set())
 
     def test_goes_when_its_day_is_purged(self):
-        self.assertEqual([self.days[days_ago].exists() for days_ago in (*OLD_DAYS, *LIVING_DAYS, 0)],
-                         [False, False, False, True, True])
+        self.assertEqual(
+            [self.days[days_ago].exists() for days_ago in (*OLD_DAYS, *LIVING_DAYS, 0)],
+            [False, False, False, True, True],
+        )
 
     def test_keeps_what_lies_in_a_folder_that_is_called_like_a_shortcut(self):
         self.assertEqual(self.kept.read_text(encoding="utf-8"), "kept")

@@ -1,4 +1,4 @@
-"""The program's life in a session: its first run, suspended and hidden, and what comes back when it is started again."""
+"""The program's life in a session: first run, suspended and hidden, and what comes back when it is started again."""
 
 import unittest
 
@@ -63,6 +63,7 @@ class TheFirstRunOfACuriousUser(SessionTest):
     def has_come_to_rest_on_the_help(self):
         def active():
             return self.desktop.run(["xdotool", "getactivewindow", "getwindowname"], check=False).strip()
+
         try:
             stays(lambda: active() == "Getting started - Dayvane Help", REST_SECONDS, active)
         except AssertionError:
@@ -109,8 +110,10 @@ class TheSessionsEndWithoutAPlaceToSave(SessionTest):
 
     def test_is_held_up_by_no_box(self):
         self.dayvane.stop()
-        self.assertIn("An error occurred saving the current settings.",
-                      (self.dayvane.folder / "ErrorLog.txt").read_text(encoding="utf-8"))
+        self.assertIn(
+            "An error occurred saving the current settings.",
+            (self.dayvane.folder / "ErrorLog.txt").read_text(encoding="utf-8"),
+        )
 
 
 class ASecondStart(SessionTest):
@@ -189,8 +192,11 @@ class TheNextStart(WeekTest):
 
     @classmethod
     def look(cls):
-        return {"place": cls.desktop.placed(cls.desktop.window(WINDOW_TITLE)), "favorites": cls.user.rows(FAVORITES),
-                "widths": [cls.user.header(FAVORITES, column)[2] for column in range(5)]}
+        return {
+            "place": cls.desktop.placed(cls.desktop.window(WINDOW_TITLE)),
+            "favorites": cls.user.rows(FAVORITES),
+            "widths": [cls.user.header(FAVORITES, column)[2] for column in range(5)],
+        }
 
     def test_finds_the_window_where_it_was(self):
         self.assertEqual(self.after["place"], self.before["place"])

@@ -84,8 +84,9 @@ class TheOptions(WeekTest):
         self.user.write(AGE, "5000")
         self.user.write(INTERVAL, "2")
         self.end("OK")
-        self.wait_for({**self.stored, "Purge Age": "5000", "Timer Interval": "2"},
-                      lambda: self.dayvane.settings("Options"))
+        self.wait_for(
+            {**self.stored, "Purge Age": "5000", "Timer Interval": "2"}, lambda: self.dayvane.settings("Options")
+        )
 
     def test_fill_the_favorites_anew_with_another_threshold(self):
         self.user.choose("View", "Favorites")

@@ -7,8 +7,12 @@ from user import DAYS, DOCUMENTS, FAVORITES, RIGHT_BUTTON, SOON_SECONDS
 from waiting import wait_until
 from week_case import FAVORITE_DOCUMENTS, WeekTest
 
-STYLES = {"Large Icons": "Large Icon View", "Small Icons": "Small Icon View", "List": "List View",
-          "Details": "Detail View"}  # the button by menu item
+STYLES = {
+    "Large Icons": "Large Icon View",
+    "Small Icons": "Small Icon View",
+    "List": "List View",
+    "Details": "Detail View",
+}  # the button by menu item
 ICON_SIZE = 32
 
 
@@ -43,8 +47,10 @@ class TheWeeksDays(WeekTest):
 
     def test_are_selected_in_the_calendar_when_clicked_in_the_tree(self):
         self.user.click_row(DAYS, self.day_name(1))
-        self.wait_for([str(int(self.day_name(1)))],
-                      lambda: [cell.name for cell in self.user.calendar() if "selected" in cell.states])
+        self.wait_for(
+            [str(int(self.day_name(1)))],
+            lambda: [cell.name for cell in self.user.calendar() if "selected" in cell.states],
+        )
 
     def test_tell_the_number_of_their_documents_in_the_status_bar(self):
         self.user.click_row(DAYS, self.day_name(2))
@@ -111,8 +117,10 @@ class TheMainWindow(WeekTest):
 
     def test_tells_the_days_accessed_of_a_favorite(self):
         self.user.choose("View", "Favorites")
-        self.wait_for({name: "2" for name in FAVORITE_DOCUMENTS},
-                      lambda: {row[0]: row[3].strip() for row in self.user.rows(FAVORITES)})
+        self.wait_for(
+            {name: "2" for name in FAVORITE_DOCUMENTS},
+            lambda: {row[0]: row[3].strip() for row in self.user.rows(FAVORITES)},
+        )
 
     def test_shows_the_documents_in_four_styles_by_the_menu(self):
         for style in STYLES:

@@ -24,8 +24,17 @@ class OnWayland(SessionTest):
 
     @classmethod
     def start_compositor(cls):
-        cls.desktop.start(["weston", "--backend=headless-backend.so", "--use-pixman", "--width=1280", "--height=800",
-                           "--socket=dayvane-test", "--no-config"])
+        cls.desktop.start(
+            [
+                "weston",
+                "--backend=headless-backend.so",
+                "--use-pixman",
+                "--width=1280",
+                "--height=800",
+                "--socket=dayvane-test",
+                "--no-config",
+            ]
+        )
         socket = cls.desktop.folder / "runtime/dayvane-test"
         wait_until(socket.exists, START_SECONDS, "the compositor's socket")
 
@@ -34,8 +43,12 @@ class OnWayland(SessionTest):
         values."""
         self.dayvane.write_settings(Window={"Visible": True, "Window State": 0, **PLACE, **SIZE, **window})
         # Leaks are not looked for here: the Wayland client library and Qt's plug-in for it keep some memory to the end.
-        process = self.desktop.start([self.dayvane.executable], WAYLAND_DISPLAY="dayvane-test",
-                                     QT_QPA_PLATFORM="wayland", ASAN_OPTIONS="detect_leaks=0")
+        process = self.desktop.start(
+            [self.dayvane.executable],
+            WAYLAND_DISPLAY="dayvane-test",
+            QT_QPA_PLATFORM="wayland",
+            ASAN_OPTIONS="detect_leaks=0",
+        )
         self.wait_for([["Daily"]], lambda: self.desktop.screen_reader(process).rows(DAYS))
         process.terminate()
         self.assertEqual(process.wait(START_SECONDS), 0)

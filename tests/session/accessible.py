@@ -30,8 +30,9 @@ def call(bus, name, path, method, *arguments):
     """Calls "interface.Method" with variants and returns its result, or all when there are several."""
     interface, _, member = method.rpartition(".")
     tuple_of_all = GLib.Variant.new_tuple(*arguments) if arguments else None
-    answer = bus.call_sync(name, path, interface, member, tuple_of_all, None, Gio.DBusCallFlags.NONE,
-                           ANSWER_MILLISECONDS, None).unpack()
+    answer = bus.call_sync(
+        name, path, interface, member, tuple_of_all, None, Gio.DBusCallFlags.NONE, ANSWER_MILLISECONDS, None
+    ).unpack()
     return answer[0] if len(answer) == 1 else answer
 
 
@@ -46,8 +47,9 @@ class Accessible:
 
     @property
     def name(self):
-        return self._call("org.freedesktop.DBus.Properties.Get", GLib.Variant("s", PREFIX + "Accessible"),
-                          GLib.Variant("s", "Name"))
+        return self._call(
+            "org.freedesktop.DBus.Properties.Get", GLib.Variant("s", PREFIX + "Accessible"), GLib.Variant("s", "Name")
+        )
 
     @property
     def role(self):
@@ -86,12 +88,17 @@ class Accessible:
     @property
     def size(self):
         """Rows and columns of a table."""
-        return tuple(self._call("org.freedesktop.DBus.Properties.Get", GLib.Variant("s", PREFIX + "Table"),
-                                GLib.Variant("s", count)) for count in ("NRows", "NColumns"))
+        return tuple(
+            self._call(
+                "org.freedesktop.DBus.Properties.Get", GLib.Variant("s", PREFIX + "Table"), GLib.Variant("s", count)
+            )
+            for count in ("NRows", "NColumns")
+        )
 
     def cell(self, row, column):
-        return Accessible(self._bus, *self._call(PREFIX + "Table.GetAccessibleAt", GLib.Variant("i", row),
-                                                 GLib.Variant("i", column)))
+        return Accessible(
+            self._bus, *self._call(PREFIX + "Table.GetAccessibleAt", GLib.Variant("i", row), GLib.Variant("i", column))
+        )
 
     def act(self):
         """What a screen reader does with a widget: its first action."""
@@ -134,13 +141,19 @@ class AccessibilityBus:
         return None
 
     def _process(self, name):
-        return call(self._bus, "org.freedesktop.DBus", "/org/freedesktop/DBus",
-                    "org.freedesktop.DBus.GetConnectionUnixProcessID", GLib.Variant("s", name))
+        return call(
+            self._bus,
+            "org.freedesktop.DBus",
+            "/org/freedesktop/DBus",
+            "org.freedesktop.DBus.GetConnectionUnixProcessID",
+            GLib.Variant("s", name),
+        )
 
     def _listen(self, event, signal):
         call(self._bus, REGISTRY, "/org/a11y/atspi/registry", REGISTRY + ".RegisterEvent", GLib.Variant("s", event))
-        self._bus.signal_subscribe(None, PREFIX + "Event.Object", signal, None, None, Gio.DBusSignalFlags.NONE,
-                                   self._remember_popup)
+        self._bus.signal_subscribe(
+            None, PREFIX + "Event.Object", signal, None, None, Gio.DBusSignalFlags.NONE, self._remember_popup
+        )
 
     def _remember_popup(self, _, name, path, _interface, _signal, arguments):
         state, is_set, *_ = arguments.unpack()

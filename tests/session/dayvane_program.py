@@ -17,8 +17,9 @@ WINDOW_TITLE = "^Dayvane - "
 
 def install(build_folder, stage):
     """Installs the program from a build folder, the only form in which it keeps its data in the user's own folders."""
-    subprocess.run(["cmake", "--install", str(build_folder), "--prefix", str(stage)], check=True,
-                   stdout=subprocess.DEVNULL)
+    subprocess.run(
+        ["cmake", "--install", str(build_folder), "--prefix", str(stage)], check=True, stdout=subprocess.DEVNULL
+    )
 
 
 class Dayvane:

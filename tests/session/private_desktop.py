@@ -64,9 +64,17 @@ class PrivateDesktop:
     def run(self, command, timeout=START_SECONDS, check=True):
         """Runs a program to its end and returns what it printed."""
         with open(self.log, "ab") as log:
-            return subprocess.run([str(part) for part in command], stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
-                                  stderr=log, env=self.environment, cwd=self.home, timeout=timeout, check=check,
-                                  text=True).stdout
+            return subprocess.run(
+                [str(part) for part in command],
+                stdin=subprocess.DEVNULL,
+                stdout=subprocess.PIPE,
+                stderr=log,
+                env=self.environment,
+                cwd=self.home,
+                timeout=timeout,
+                check=check,
+                text=True,
+            ).stdout
 
     def windows(self, pattern, by="name"):
         """Ids of the visible windows whose titles, or whose classes, match the regular expression."""
@@ -111,11 +119,13 @@ class PrivateDesktop:
         """Switches accessibility on. Programs ask at their start whether anybody listens, so it comes before them."""
         # Not everybody who needs a desktop has the bindings for its bus.
         from accessible import AccessibilityBus
+
         self._accessibility = AccessibilityBus(self.environment["DBUS_SESSION_BUS_ADDRESS"])
 
     def screen_reader(self, process):
         """A screen reader for the windows of a program that was started here."""
         from screen_reader import ScreenReader
+
         return ScreenReader(self._accessibility, process.pid)
 
     def open_in_dialog(self, process, title, path):
@@ -126,11 +136,13 @@ class PrivateDesktop:
         def entry():
             self.type_into(title, "slash")
             return reader.focus()["role"] == "text"
+
         wait_until(entry, START_SECONDS, f"an entry in the dialog {title}")
 
         def typed():
             self.type_into(title, "ctrl+a", text=str(path))
             return reader.focus()["text"] == str(path)
+
         wait_until(typed, START_SECONDS, f"the typed path in the dialog {title}")
 
         # Once: a second key would be typed into the document.
@@ -187,16 +199,19 @@ class PrivateDesktop:
 
     def _spawn(self, command, **options):
         with open(self.log, "ab") as log:
-            child = subprocess.Popen(command, stdin=subprocess.DEVNULL, stdout=log, stderr=log, cwd=self.home,
-                                     **options)
+            child = subprocess.Popen(
+                command, stdin=subprocess.DEVNULL, stdout=log, stderr=log, cwd=self.home, **options
+            )
         self._children.append(child)
         return child
 
     def _start_screen(self):
         told, tell = os.pipe()
         try:
-            self._serve(["Xvfb", "-displayfd", str(tell), "-screen", "0", f"{self.size}x24", "-nolisten", "tcp",
-                         "-noreset"], pass_fds=[tell])
+            self._serve(
+                ["Xvfb", "-displayfd", str(tell), "-screen", "0", f"{self.size}x24", "-nolisten", "tcp", "-noreset"],
+                pass_fds=[tell],
+            )
         finally:
             os.close(tell)
         with open(told, encoding="ascii") as number:
@@ -206,8 +221,15 @@ class PrivateDesktop:
         self.environment["DISPLAY"] = f":{display}"
 
     def _start_bus(self):
-        self._bus = self._serve(["dbus-daemon", "--session", "--nofork", "--nopidfile",
-                     f"--address={self.environment['DBUS_SESSION_BUS_ADDRESS']}"])
+        self._bus = self._serve(
+            [
+                "dbus-daemon",
+                "--session",
+                "--nofork",
+                "--nopidfile",
+                f"--address={self.environment['DBUS_SESSION_BUS_ADDRESS']}",
+            ]
+        )
         wait_until((self.folder / "runtime/bus").exists, START_SECONDS, "the session bus")
 
     def _start_window_manager(self):
@@ -215,6 +237,7 @@ class PrivateDesktop:
 
         def ready():
             return "window id" in self.run(["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"], check=False)
+
         wait_until(ready, START_SECONDS, "the window manager")
 
     def _end(self, sign):

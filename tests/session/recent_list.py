@@ -47,8 +47,14 @@ class RecentList:
         old = self._entries.get(document, {"added": stamp(moment), "count": 0})
         entry = {"added": old["added"], "count": old["count"] + 1}
         entry["text"] = ENTRY.format(
-            href=quoteattr("file://" + urllib.parse.quote(document)), added=entry["added"], modified=stamp(moment),
-            mime=quoteattr(mime), name=quoteattr(program.capitalize()), program=program, count=entry["count"])
+            href=quoteattr("file://" + urllib.parse.quote(document)),
+            added=entry["added"],
+            modified=stamp(moment),
+            mime=quoteattr(mime),
+            name=quoteattr(program.capitalize()),
+            program=program,
+            count=entry["count"],
+        )
         self._entries[document] = entry
         while len(self._entries) > LARGEST:
             del self._entries[next(iter(self._entries))]

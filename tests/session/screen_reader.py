@@ -61,8 +61,9 @@ class ScreenReader:
             return iter(())
         if window is None:
             return walk(program)
-        return (widget for child in program.children if child.name == window and child.is_showing
-                for widget in walk(child))
+        return (
+            widget for child in program.children if child.name == window and child.is_showing for widget in walk(child)
+        )
 
     def find(self, name, *roles, window=None):
         """The first widget of that name, and of one of the roles where there are some."""
@@ -106,5 +107,8 @@ class ScreenReader:
     @staticmethod
     def _window(window):
         inside = [(widget.role, widget.name) for widget in walk(window)]
-        return {"title": window.name, "texts": [name for role, name in inside if role == "label" and name],
-                "buttons": [name for role, name in inside if role == "push button" and name]}
+        return {
+            "title": window.name,
+            "texts": [name for role, name in inside if role == "label" and name],
+            "buttons": [name for role, name in inside if role == "push button" and name],
+        }

@@ -62,8 +62,11 @@ class SessionTest(unittest.TestCase):
 
     @classmethod
     def wait_for_filed(cls, *names, days_ago=0):
-        wait_until(lambda: all(cls.shortcut(name, days_ago).exists() for name in names), SOON_SECONDS,
-                   lambda: f"{names} among {cls.dayvane.filed()}")
+        wait_until(
+            lambda: all(cls.shortcut(name, days_ago).exists() for name in names),
+            SOON_SECONDS,
+            lambda: f"{names} among {cls.dayvane.filed()}",
+        )
 
     @classmethod
     def wait_for(cls, expected, look):
@@ -76,6 +79,7 @@ class SessionTest(unittest.TestCase):
             except ABSENT as absence:
                 seen[0] = absence
             return seen[0] == expected
+
         wait_until(fits, SOON_SECONDS, lambda: f"{expected}, but {seen[0]!r}")
 
     @classmethod

@@ -28,6 +28,7 @@ def _link_info(target):
     suffix_at = narrow_at + len(narrow)
     wide_at = suffix_at + 1 + (suffix_at + 1) % 2
     size = wide_at + len(wide) + 2
-    info = struct.pack("<IIIIIIIII", size, INFO_HEADER_SIZE, 1, INFO_HEADER_SIZE, narrow_at, 0, suffix_at, wide_at,
-                       wide_at + len(wide))
+    info = struct.pack(
+        "<IIIIIIIII", size, INFO_HEADER_SIZE, 1, INFO_HEADER_SIZE, narrow_at, 0, suffix_at, wide_at, wide_at + len(wide)
+    )
     return info + volume + narrow + bytes(wide_at - suffix_at) + wide + b"\0\0"

@@ -11,10 +11,43 @@ END_SECONDS = 30
 LONGEST_TEXT = 16384  # bytes; strace cuts longer ones
 
 # Beside the opening of files: what makes, changes, renames or removes something, by a name or by an open file.
-CHANGES = {"creat", "rename", "renameat", "renameat2", "unlink", "unlinkat", "rmdir", "mkdir", "mkdirat", "mknod",
-           "mknodat", "link", "linkat", "symlink", "symlinkat", "truncate", "ftruncate", "chmod", "fchmod", "fchmodat",
-           "chown", "fchown", "lchown", "fchownat", "utime", "utimes", "futimesat", "utimensat", "setxattr",
-           "lsetxattr", "fsetxattr", "removexattr", "lremovexattr", "fremovexattr", "fallocate"}
+CHANGES = {
+    "creat",
+    "rename",
+    "renameat",
+    "renameat2",
+    "unlink",
+    "unlinkat",
+    "rmdir",
+    "mkdir",
+    "mkdirat",
+    "mknod",
+    "mknodat",
+    "link",
+    "linkat",
+    "symlink",
+    "symlinkat",
+    "truncate",
+    "ftruncate",
+    "chmod",
+    "fchmod",
+    "fchmodat",
+    "chown",
+    "fchown",
+    "lchown",
+    "fchownat",
+    "utime",
+    "utimes",
+    "futimesat",
+    "utimensat",
+    "setxattr",
+    "lsetxattr",
+    "fsetxattr",
+    "removexattr",
+    "lremovexattr",
+    "fremovexattr",
+    "fallocate",
+}
 OPENINGS = {"open", "openat", "openat2"}
 RUNS = {"execve", "execveat"}
 FORKS = {"clone", "clone3", "fork", "vfork"}
@@ -28,6 +61,7 @@ PLACE = re.compile(r'(?:AT_FDCWD|\d+)<([^>]*)>(?:, "([^"]*)")?|"([^"]*)"')
 class Call(typing.NamedTuple):
     """A call with the full paths that it names, as far as they are known, and the arguments of a program that it
     runs."""
+
     name: str
     paths: tuple
     arguments: tuple = ()
@@ -49,8 +83,24 @@ class SystemCalls:
     def recorded(self, command):
         """A command that runs another as the same process and writes down its calls."""
         calls = ",?".join(sorted(CHANGES | OPENINGS | RUNS | FORKS))
-        return ["strace", "-D", "-ff", "--seccomp-bpf", "-q", "-y", "-xx", "-s", LONGEST_TEXT, "-e", "signal=none",
-                "-e", f"trace=?{calls}", "-o", self._folder / "calls", *command]
+        return [
+            "strace",
+            "-D",
+            "-ff",
+            "--seccomp-bpf",
+            "-q",
+            "-y",
+            "-xx",
+            "-s",
+            LONGEST_TEXT,
+            "-e",
+            "signal=none",
+            "-e",
+            f"trace=?{calls}",
+            "-o",
+            self._folder / "calls",
+            *command,
+        ]
 
     def wait_for_end(self, process):
         """Returns when the record of a process that has ended is whole."""
@@ -59,8 +109,11 @@ class SystemCalls:
 
     def changes(self):
         """The calls that were to make, change or remove something, whether or not they could."""
-        return [call for call, line in self._calls()
-                if call.name in CHANGES or (call.name in OPENINGS and FOR_WRITING.search(line))]
+        return [
+            call
+            for call, line in self._calls()
+            if call.name in CHANGES or (call.name in OPENINGS and FOR_WRITING.search(line))
+        ]
 
     def opened(self):
         """The paths that were opened, for whatever purpose."""
@@ -75,7 +128,7 @@ class SystemCalls:
         while waiting:
             record = waiting.pop(0)
             # What the process was before it became the program is not there: the record begins with that.
-            lines = record.read_text().splitlines()[1 if record == self._main else 0:]
+            lines = record.read_text().splitlines()[1 if record == self._main else 0 :]
             for name, inside, result, opened, line in self._found(lines):
                 if name in FORKS and int(result) > 0:
                     waiting.append(self._folder / f"calls.{result}")

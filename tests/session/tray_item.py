@@ -34,16 +34,25 @@ class TrayItem:
         return list(self._items())
 
     def choose(self, name):
-        self._call(self._menu_path(), f"{MENU}.Event", GLib.Variant("i", self._items()[name]),
-                   GLib.Variant("s", "clicked"), GLib.Variant("v", GLib.Variant("s", "")), GLib.Variant("u", 0))
+        self._call(
+            self._menu_path(),
+            f"{MENU}.Event",
+            GLib.Variant("i", self._items()[name]),
+            GLib.Variant("s", "clicked"),
+            GLib.Variant("v", GLib.Variant("s", "")),
+            GLib.Variant("u", 0),
+        )
 
     def _items(self):
         """The menu's numbers by name; a panel asks whether a menu has changed before it shows it."""
         path = self._menu_path()
         self._call(path, f"{MENU}.AboutToShow", ROOT)
         _, (_, _, entries) = self._call(path, f"{MENU}.GetLayout", ROOT, ALL_LEVELS, GLib.Variant("as", []))
-        return {shown["label"].replace("_", ""): number for number, shown, _ in entries
-                if shown.get("visible", True) and shown.get("type") != "separator"}
+        return {
+            shown["label"].replace("_", ""): number
+            for number, shown, _ in entries
+            if shown.get("visible", True) and shown.get("type") != "separator"
+        }
 
     def _menu_path(self):
         return self._get(self._names()[0], "/StatusNotifierItem", ITEM, "Menu")
@@ -54,8 +63,14 @@ class TrayItem:
         return [item.partition("/")[0] for item in items]
 
     def _get(self, name, path, interface, value):
-        return call(self._bus, name, path, "org.freedesktop.DBus.Properties.Get", GLib.Variant("s", interface),
-                    GLib.Variant("s", value))
+        return call(
+            self._bus,
+            name,
+            path,
+            "org.freedesktop.DBus.Properties.Get",
+            GLib.Variant("s", interface),
+            GLib.Variant("s", value),
+        )
 
     def _call(self, path, method, *arguments):
         return call(self._bus, self._names()[0], path, method, *arguments)

@@ -1,4 +1,4 @@
-"""What a user does with Dayvane's windows, with the mouse, the keyboard and a screen reader, and what they see there."""
+"""What a user does with Dayvane's windows, with mouse, keyboard and a screen reader, and what they see there."""
 
 from dayvane_program import WINDOW_TITLE
 from screen_reader import ABSENT, cells, walk
@@ -50,8 +50,10 @@ class User:
     def box(self, title=None):
         """The window that asks or tells something: its title, its texts and its buttons; None without one. With a
         title, the one that has it."""
+
         def fits(window):
             return title == window["title"] if title is not None else not window["title"].startswith("Dayvane - ")
+
         return next((window for window in self.reader.windows() if window["buttons"] and fits(window)), None)
 
     def can_press(self, button):
@@ -111,19 +113,23 @@ class User:
         def written():
             self.reader.find(entry, "text", "spin box").text = text
             return True
+
         self._patiently(f"an entry {entry}", written)
 
     def click_row(self, widget, name, button=1, times=1):
         """Clicks the row with that name in its first column."""
+
         def place():
             return next(row[0].place for row in cells(self.reader.find(widget)) if row[0].name == name)
+
         self.click(self._patiently(f"{name} in {widget}", place), button, times)
 
     def click(self, place, button=1, times=1):
         """Clicks into the middle of a place on the screen."""
         x, y, width, height = place
-        self._desktop.run(["xdotool", "mousemove", x + width // 2, y + height // 2,
-                           "click", "--repeat", times, "--delay", 20, button])
+        self._desktop.run(
+            ["xdotool", "mousemove", x + width // 2, y + height // 2, "click", "--repeat", times, "--delay", 20, button]
+        )
 
     def drag(self, start, end):
         """Moves the mouse from one point to another with its button down."""
@@ -141,9 +147,11 @@ class User:
     @staticmethod
     def _patiently(what, deed):
         """Does what needs something on the screen as soon as that is there."""
+
         def done():
             try:
                 return deed() or None
             except (*ABSENT, LookupError, StopIteration):
                 return None
+
         return wait_until(done, SOON_SECONDS, what)

@@ -44,7 +44,8 @@ class WeekTest(SessionTest):
             program.chmod(0o755)
             (applications / f"{name.lower()}.desktop").write_text(
                 f"[Desktop Entry]\nType=Application\nName={name}\nExec={program} %f\nMimeType={mime};\n",
-                encoding="utf-8")
+                encoding="utf-8",
+            )
             defaults.append(f"{mime}={name.lower()}.desktop")
         (cls.desktop.config / "mimeapps.list").write_text("\n".join(defaults) + "\n", encoding="utf-8")
 

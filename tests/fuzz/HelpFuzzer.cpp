@@ -1,5 +1,6 @@
 // A help file: it is whole, or it is refused.
 
+#include <algorithm>
 #include <string>
 
 #include "base/Error.h"

@@ -81,5 +81,16 @@ TEST_F(ExploreTest, FollowsTheSelectedFavoriteWhileTheFavoritesAreShown) {
   EXPECT_FALSE(CanExplore());
 }
 
+TEST_F(ExploreTest, IsOverOnceTheSelectedDocumentIsNoFavoriteAnyMore) {
+  window.SetActiveView(FMain::kFavoritesView);
+  window.lvwFavorites.SetSelectedItem(&window.lvwFavorites.Item(window.lvwFavorites.Row(0).key));
+  window.RefreshFavorites();
+  ASSERT_TRUE(CanExplore());
+  fs::remove_all(Daily("2026/November/19"));
+  window.mnuToolsPopup.Choose(kToolsRebuildFavorites);
+  ASSERT_EQ(window.lvwFavorites.Count(), 0U);
+  EXPECT_FALSE(CanExplore());
+}
+
 }  // namespace
 }  // namespace dayvane

@@ -95,7 +95,7 @@ std::optional<std::vector<RecentEntry>> ReadElement(std::string_view text, std::
   const xml_node element = document.first_child();
   if (LocalName(element) != name || element.next_sibling() || document.find_node(IsFaulty)) return std::nullopt;
   std::vector<RecentEntry> entries;
-  ForEachBelow(document, [&](xml_node node) {
+  ForEachBelow(document.root(), [&](xml_node node) {
     if (IsBookmark(node)) entries.push_back(ReadBookmark(node));
   });
   return entries;

@@ -65,6 +65,13 @@ TEST_F(ExploreTest, IsOverOnceTheSelectedDocumentIsRemoved) {
   EXPECT_FALSE(CanExplore());
 }
 
+TEST_F(ExploreTest, IsOverOnceTheSelectedDocumentIsRemovedAndOthersOfItsDayStay) {
+  window.lvwDaily.Click(Row("b.odt"));
+  window.RemoveLink(&Row("b.odt"));
+  ASSERT_EQ(window.lvwDaily.Count(), 1U);
+  EXPECT_FALSE(CanExplore());
+}
+
 TEST_F(ExploreTest, IsOverOnceTheDayIsPurged) {
   window.lvwDaily.Click(Row("a.odt"));
   window.PurgeDay(&Node("2026\\November\\20"));

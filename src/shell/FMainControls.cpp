@@ -10,8 +10,8 @@ namespace {
 using controls::Menu;
 
 template <class Rows>
-constexpr bool AreInOrder(const Rows& rows, int first = 0) {
-  int next = first;
+constexpr bool AreInOrder(const Rows& rows) {
+  int next = 0;
   for (const MenuRow& row : rows)
     if (row.item != next++) return false;
   return true;

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // What capture, the rebuild and the tree cost, each beside the least that the disk itself costs for the same files.
 
 #include <benchmark/benchmark.h>

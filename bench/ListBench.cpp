@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // What a click on a column of a long list costs, beside sorting the bare texts.
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "app/CAssert.h"
 
 #include "app/EventLogWriter.h"

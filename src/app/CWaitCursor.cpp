@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "app/CWaitCursor.h"
 
 #include "app/IgnoreErrors.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "app/Date.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "app/EventLogWriter.h"
 
 #include <utility>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "app/LogLine.h"
 
 #include "app/Date.h"

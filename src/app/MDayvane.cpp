@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "app/MDayvane.h"
 
 #include "base/Error.h"

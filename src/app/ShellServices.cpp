@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "app/ShellServices.h"
 
 #include <utility>

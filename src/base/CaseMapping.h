@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 /// Unicode's simple case mappings, in which one character becomes one: the same answer on every system and for every

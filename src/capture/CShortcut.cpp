@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "capture/CShortcut.h"
 
 #include "app/IgnoreErrors.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "capture/DocumentClass.h"
 
 #include "app/IgnoreErrors.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Capture: on every tick the Recent folder's new and rewritten shortcuts are filed under their days.
 
 #include "app/IgnoreErrors.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "capture/Filing.h"
 
 #include "app/IgnoreErrors.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "capture/ProgramShortcut.h"
 
 #include "app/IgnoreErrors.h"

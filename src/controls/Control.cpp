@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "controls/Control.h"
 
 #include <algorithm>

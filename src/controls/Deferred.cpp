@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "controls/Deferred.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "controls/ImageList.h"
 
 #include <utility>

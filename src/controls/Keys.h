@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 /// Key codes (those of VK_RETURN, VK_F1 …), modifiers and mouse buttons as the events of the controls carry them.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "fs/DirectoryWalker.h"
 
 #include "app/ShellServices.h"

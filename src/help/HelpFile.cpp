@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "help/HelpFile.h"
 
 #include <algorithm>

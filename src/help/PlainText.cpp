@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "help/PlainText.h"
 
 #include <array>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "links/LinkText.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "links/ShellLinkFormat.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "linux/LinuxDateConventions.h"
 
 #include <QString>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "linux/LinuxShellIcons.h"
 
 #include <gio/gio.h>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The program on a Linux desktop: its parts are put together here, and the message loop runs.
 
 #include <QApplication>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "repository/CRepository.h"
 
 #include <algorithm>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The purge: old days, a single day, and the sweep of the folders that it empties.
 
 #include <utility>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "settings/COptions.h"
 
 #include "app/IgnoreErrors.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "settings/FOptions.h"
 
 #include "app/ReportErrors.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // What the menus, the toolbar and the tray do.
 
 #include "app/IgnoreErrors.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The window's life: shown and hidden, activated, resized, closed; its views and its settings.
 
 #include "app/ReportErrors.h"

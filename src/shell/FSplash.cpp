@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "shell/FSplash.h"
 
 #include "resources/MResourceConstants.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "shell/MDayvaneMain.h"
 
 #include "app/IgnoreErrors.h"

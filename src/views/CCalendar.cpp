@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "views/CCalendar.h"
 
 #include "app/ReportErrors.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "views/CFavorites.h"
 
 #include <algorithm>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The favorites on the disk: the data file, and the journal of what it does not count yet.
 
 #include <utility>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The Favorites list: its columns' settings and its place on the pane.
 
 #include "base/Text.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "views/DailyTree.h"
 
 #include <algorithm>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The Daily view: the repository as a tree, the selected day's documents as a list.
 
 #include "app/IgnoreErrors.h"

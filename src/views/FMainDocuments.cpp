@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The document behind a row of either list: opened, its link removed, its folder shown, its day purged.
 
 #include <limits>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The Favorites view: the documents that were filed on enough days.
 
 #include "app/IgnoreErrors.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "views/FavoritesJournal.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "views/FavoritesTable.h"
 
 #include "base/Error.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/architecture/SourceTree.h"
 
 #include <algorithm>

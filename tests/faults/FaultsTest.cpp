@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The disk fails at any moment while the program files, saves, purges and stores its settings.
 
 #include <cstdlib>

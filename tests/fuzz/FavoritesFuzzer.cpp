@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // "Favorites.dat": whatever it holds, the list shows it, one more day is counted, and what is saved stays the same.
 
 #include <string>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The journal of what "Favorites.dat" does not count yet, as kills and broken disks leave it.
 
 #include <algorithm>

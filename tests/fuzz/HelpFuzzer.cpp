@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // A help file: it is whole, or it is refused.
 
 #include <algorithm>

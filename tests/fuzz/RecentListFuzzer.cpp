@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The desktop's list of recent documents, which careless programs write.
 
 #include <algorithm>

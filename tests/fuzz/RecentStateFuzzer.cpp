@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The state that is kept of the list of recent documents.
 
 #include <string>

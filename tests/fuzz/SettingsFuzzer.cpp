@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The user's settings file, which may be edited by hand.
 
 #include <string>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Bytes of a shortcut: what can be read of them can be written and read again.
 
 #include "links/ShellLinkFormat.h"

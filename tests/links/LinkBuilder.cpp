@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/links/LinkBuilder.h"
 
 #include <ostream>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // What another reader of the format, lnkinfo of liblnk-utils, finds in the links that are written here.
 
 #include <algorithm>

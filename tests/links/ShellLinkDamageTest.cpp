@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Links that are damaged, by accident or on purpose. These tests find more under the sanitizers.
 
 #include <gtest/gtest.h>

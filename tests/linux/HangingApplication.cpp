@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/linux/HangingApplication.h"
 
 #include <memory>

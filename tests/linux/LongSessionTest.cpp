@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // A working day with the fastest timer: what the program takes must not grow with the time that it runs.
 
 #include <QCoreApplication>

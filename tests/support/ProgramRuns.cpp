@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/support/ProgramRuns.h"
 
 namespace dayvane::testing {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/support/TemporaryFolder.h"
 
 #include <fcntl.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/support/TestFiles.h"
 
 namespace dayvane::testing {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "linux/files/ProgramFolder.h"
 
 #include <fcntl.h>

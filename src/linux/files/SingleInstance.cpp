@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "linux/files/SingleInstance.h"
 
 #include <cerrno>

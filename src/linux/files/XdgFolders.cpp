@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "linux/files/XdgFolders.h"
 
 #include <cerrno>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "linux/forms/FormPresenter.h"
 
 #include <QApplication>

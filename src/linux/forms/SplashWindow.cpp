@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "linux/forms/SplashWindow.h"
 
 #include "linux/forms/ScreenFit.h"

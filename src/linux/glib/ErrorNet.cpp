@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "linux/glib/ErrorNet.h"
 
 #include <QEvent>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "linux/help/HelpFindBar.h"
 
 #include <QHBoxLayout>

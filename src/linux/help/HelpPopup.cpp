@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "linux/help/HelpPopup.h"
 
 #include <QGuiApplication>

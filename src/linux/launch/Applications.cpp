@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "linux/launch/Applications.h"
 
 #include <cstring>

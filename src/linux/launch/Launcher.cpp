@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "linux/launch/Launcher.h"
 
 #include <algorithm>

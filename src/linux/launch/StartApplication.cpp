@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "linux/launch/StartApplication.h"
 
 #include <gio/gdesktopappinfo.h>

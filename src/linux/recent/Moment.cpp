@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "linux/recent/Moment.h"
 
 #include <QDateTime>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "linux/recent/RecentDisk.h"
 
 #include "linux/files/NativeFile.h"

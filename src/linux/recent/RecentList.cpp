@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "linux/recent/RecentList.h"
 
 #include <QString>

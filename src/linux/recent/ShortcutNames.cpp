@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "linux/recent/ShortcutNames.h"
 
 #include <algorithm>

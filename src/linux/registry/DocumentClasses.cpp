@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "linux/registry/DocumentClasses.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "linux/registry/SettingsFile.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "linux/registry/SettingsText.h"
 
 #include <charconv>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "linux/tray/BusObject.h"
 
 #include <utility>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "linux/tray/DesktopTrayWatch.h"
 
 #include <QByteArray>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "linux/tray/StatusNotifierWatch.h"
 
 #include <utility>

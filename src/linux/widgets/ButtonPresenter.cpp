@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "linux/widgets/ButtonPresenter.h"
 
 namespace dayvane::widgets {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "linux/widgets/CalendarPresenter.h"
 
 #include <QEvent>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "linux/widgets/Icons.h"
 
 #include "linux/widgets/Pictures.h"

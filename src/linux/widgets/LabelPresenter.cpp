@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "linux/widgets/LabelPresenter.h"
 
 namespace dayvane::widgets {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "linux/widgets/MenuPresenter.h"
 
 namespace dayvane::widgets {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "linux/widgets/PanePresenter.h"
 
 namespace dayvane::widgets {

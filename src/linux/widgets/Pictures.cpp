@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "linux/widgets/Pictures.h"
 
 #include <QCoreApplication>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "linux/widgets/StatusBarPresenter.h"
 
 #include "linux/files/NativePath.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "linux/widgets/ToolbarPresenter.h"
 
 #include <QStyle>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "linux/widgets/TreeModel.h"
 
 #include "linux/files/NativePath.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <csignal>
 #include <filesystem>
 #include <gtest/gtest.h>

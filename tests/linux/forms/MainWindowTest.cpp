@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <QCalendarWidget>
 #include <QStatusBar>
 #include <QStyle>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <QTextDocument>
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <gio/gdesktopappinfo.h>
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/linux/recent/RecentDesk.h"
 
 #include <QDateTime>

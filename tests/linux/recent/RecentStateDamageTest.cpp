@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // A state that is damaged, by accident or on purpose. These tests find more under the sanitizers.
 
 #include <filesystem>

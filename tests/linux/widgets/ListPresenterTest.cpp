@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <QAbstractItemModelTester>
 #include <QAccessible>
 #include <QHeaderView>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <QImage>
 #include <QSet>
 #include <gtest/gtest.h>

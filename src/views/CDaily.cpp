@@ -8,10 +8,10 @@ namespace dayvane {
 
 namespace {
 
-constexpr const char* kSubtree = "Daily";
+constexpr const char* kDailySubtree = "Daily";
 constexpr double kPastEdge = 30;  ///< twips that tree and list reach past the pane's inner edge
 
-const std::vector<settings::NamedText>& Defaults() {
+const std::vector<settings::NamedText>& DailyDefaults() {
   static const std::vector<settings::NamedText> defaults{{"Name Width", "1440"}, {"Type Width", "1440"},
                                                          {"Path Width", "1440"}, {"Modified Width", "1440"},
                                                          {"Sort Column", "1"},   {"Sort Order", "0"}};
@@ -76,12 +76,12 @@ void CDaily::RemoveDocument(const std::string& key) {
 }
 
 void CDaily::CreateRegistryKeys() {
-  settings::CreateSubtree(m_application.desktop.registry, kSubtree, Defaults());
+  settings::CreateSubtree(m_application.desktop.registry, kDailySubtree, DailyDefaults());
 }
 
 void CDaily::RestoreSettings() {
   controls::ListView& list = List("RestoreSettings");
-  const Sort sort = RestoreColumns(kSubtree, Defaults());
+  const Sort sort = RestoreColumns(kDailySubtree, DailyDefaults());
   list.SetSortKey(sort.column);
   list.SetSortOrder(sort.order);
   list.SetSorted(true);
@@ -89,7 +89,7 @@ void CDaily::RestoreSettings() {
 
 void CDaily::SaveSettings() const {
   const controls::ListView& list = List("SaveSettings");
-  SaveColumns(kSubtree, Defaults(), {list.SortKey(), list.Order()});
+  SaveColumns(kDailySubtree, DailyDefaults(), {list.SortKey(), list.Order()});
 }
 
 }  // namespace dayvane

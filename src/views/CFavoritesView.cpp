@@ -10,9 +10,9 @@ namespace dayvane {
 
 namespace {
 
-constexpr const char* kSubtree = "Favorites";
+constexpr const char* kFavoritesSubtree = "Favorites";
 
-const std::vector<settings::NamedText>& Defaults() {
+const std::vector<settings::NamedText>& FavoritesDefaults() {
   static const std::vector<settings::NamedText> defaults{
       {"Name Width", "1440"},          {"Type Width", "1440"}, {"Path Width", "1440"}, {"Days Accessed Width", "1440"},
       {"Last Accessed Width", "1440"}, {"Sort Column", "1"},   {"Sort Order", "0"}};
@@ -44,17 +44,17 @@ bool CFavorites::RemoveDocument(const std::string& key) {
 }
 
 void CFavorites::CreateRegistryKeys() {
-  settings::CreateSubtree(m_application.desktop.registry, kSubtree, Defaults());
+  settings::CreateSubtree(m_application.desktop.registry, kFavoritesSubtree, FavoritesDefaults());
 }
 
 void CFavorites::RestoreSettings() {
-  const Sort sort = RestoreColumns(kSubtree, Defaults());
+  const Sort sort = RestoreColumns(kFavoritesSubtree, FavoritesDefaults());
   m_sortColumn = sort.column;
   m_sortOrder = sort.order;
 }
 
 void CFavorites::SaveSettings() const {
-  SaveColumns(kSubtree, Defaults(), {m_sortColumn, m_sortOrder});
+  SaveColumns(kFavoritesSubtree, FavoritesDefaults(), {m_sortColumn, m_sortOrder});
 }
 
 void CFavorites::SortAgain() {

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "tests/linux/FakeFileManager.h"
+#include <vector>
+
+#include "tests/linux/BusService.h"
 
 namespace dayvane::testing {
 
@@ -9,21 +11,20 @@ namespace dayvane::testing {
 /// answers.
 class HangingApplication {
  public:
-  explicit HangingApplication(const PrivateBus& bus);
-  HangingApplication(const HangingApplication&) = delete;
-  HangingApplication& operator=(const HangingApplication&) = delete;
-  ~HangingApplication();
+  explicit HangingApplication(const PrivateBus& bus)
+      : m_service(bus, "org.example.Silent", "/org/example/Silent",
+                  "<node><interface name='org.freedesktop.Application'>"
+                  "<method name='Activate'><arg type='a{sv}' direction='in'/></method>"
+                  "<method name='Open'><arg type='as' direction='in'/><arg type='a{sv}' direction='in'/></method>"
+                  "</interface></node>",
+                  [this](const std::string&, GVariant*, GDBusMethodInvocation* call) { m_calls.emplace_back(call); }) {}
 
   /// How often it was asked to open something.
   int Asked() const { return static_cast<int>(m_calls.size()); }
 
  private:
-  static void MethodCalled(GDBusConnection* bus, const char* sender, const char* path, const char* interface,
-                           const char* method, GVariant* arguments, GDBusMethodInvocation* call, gpointer self);
-
-  glib::Object<GDBusConnection> m_connection;
-  guint m_registration = 0;
   std::vector<glib::Object<GDBusMethodInvocation>> m_calls;  ///< kept, because letting one go answers it
+  BusService m_service;
 };
 
 }  // namespace dayvane::testing

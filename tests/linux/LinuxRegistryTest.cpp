@@ -16,7 +16,7 @@ using platform::kHkeyCurrentUser;
 using platform::kKeyExists;
 using platform::kRegistryString;
 
-constexpr const char* kOptions = "\\HKEY_CURRENT_USER\\Software\\Korvath\\Dayvane\\Options";
+constexpr const char* kOptionsPath = "\\HKEY_CURRENT_USER\\Software\\Korvath\\Dayvane\\Options";
 
 class LinuxRegistryTest : public ::testing::Test {
  protected:
@@ -47,12 +47,12 @@ int NumberOfError(Action action) {
 
 TEST_F(LinuxRegistryTest, AFirstRunFindsSoftwareAndNothingElse) {
   EXPECT_NO_THROW(m_registry.KeyFromRoot(kHkeyCurrentUser)->OpenSubKey("Software"));
-  EXPECT_EQ(NumberOfError([&] { m_registry.KeyFromPath(kOptions); }), kKeyMissing);
+  EXPECT_EQ(NumberOfError([&] { m_registry.KeyFromPath(kOptionsPath); }), kKeyMissing);
 }
 
 TEST_F(LinuxRegistryTest, AKeyJustAddedCanBeOpenedWhileItIsEmpty) {
   MakeOptions();
-  EXPECT_NO_THROW(m_registry.KeyFromPath(kOptions));
+  EXPECT_NO_THROW(m_registry.KeyFromPath(kOptionsPath));
 }
 
 TEST_F(LinuxRegistryTest, AddingAKeyThatIsThereSaysSo) {
@@ -70,22 +70,22 @@ TEST_F(LinuxRegistryTest, AKeyNameIsOneLevel) {
 
 TEST_F(LinuxRegistryTest, ValuesAreStoredAsTheyAreGiven) {
   MakeOptions();
-  m_registry.KeyFromPath(kOptions)->AddValue("Favorites Threshold", "3", kRegistryString);
-  EXPECT_EQ(m_registry.KeyFromPath(kOptions)->Value("Favorites Threshold"), "3");
+  m_registry.KeyFromPath(kOptionsPath)->AddValue("Favorites Threshold", "3", kRegistryString);
+  EXPECT_EQ(m_registry.KeyFromPath(kOptionsPath)->Value("Favorites Threshold"), "3");
   EXPECT_EQ(ReadFile(m_folder / "dayvane.ini"), "[Software\\Korvath\\Dayvane\\Options]\nFavorites Threshold=3\n");
 }
 
 TEST_F(LinuxRegistryTest, AValueThatExistsTakesANewText) {
   MakeOptions();
-  auto key = m_registry.KeyFromPath(kOptions);
+  auto key = m_registry.KeyFromPath(kOptionsPath);
   key->AddValue("Purge Age", "30", kRegistryString);
   key->SetValue("Purge Age", "31");
-  EXPECT_EQ(m_registry.KeyFromPath(kOptions)->Value("Purge Age"), "31");
+  EXPECT_EQ(m_registry.KeyFromPath(kOptionsPath)->Value("Purge Age"), "31");
 }
 
 TEST_F(LinuxRegistryTest, AddingAValueAgainGivesItTheText) {
   MakeOptions();
-  auto key = m_registry.KeyFromPath(kOptions);
+  auto key = m_registry.KeyFromPath(kOptionsPath);
   key->AddValue("Purge Age", "abc", kRegistryString);
   key->AddValue("Purge Age", "30", kRegistryString);
   EXPECT_EQ(key->Value("Purge Age"), "30");
@@ -93,7 +93,7 @@ TEST_F(LinuxRegistryTest, AddingAValueAgainGivesItTheText) {
 
 TEST_F(LinuxRegistryTest, AMissingValueIsNeitherReadNorSet) {
   MakeOptions();
-  auto key = m_registry.KeyFromPath(kOptions);
+  auto key = m_registry.KeyFromPath(kOptionsPath);
   EXPECT_EQ(NumberOfError([&] { key->Value("Purge Age"); }), kKeyMissing);
   EXPECT_EQ(NumberOfError([&] { key->SetValue("Purge Age", "30"); }), kKeyMissing);
   EXPECT_FALSE(std::filesystem::exists(m_folder / "dayvane.ini"));
@@ -101,9 +101,9 @@ TEST_F(LinuxRegistryTest, AMissingValueIsNeitherReadNorSet) {
 
 TEST_F(LinuxRegistryTest, SettingsSurviveARestart) {
   MakeOptions();
-  m_registry.KeyFromPath(kOptions)->AddValue("Purge Age", "30", kRegistryString);
+  m_registry.KeyFromPath(kOptionsPath)->AddValue("Purge Age", "30", kRegistryString);
   LinuxRegistry later(m_folder / "dayvane.ini", [](const std::string&) {});
-  EXPECT_EQ(later.KeyFromPath(kOptions)->Value("Purge Age"), "30");
+  EXPECT_EQ(later.KeyFromPath(kOptionsPath)->Value("Purge Age"), "30");
 }
 
 TEST_F(LinuxRegistryTest, PathsAreTheSameWhateverTheirCase) {

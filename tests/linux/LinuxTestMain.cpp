@@ -10,6 +10,6 @@ int main(int argc, char** argv) {
   if (qgetenv("QT_QPA_PLATFORM") == "offscreen") qunsetenv("DISPLAY");
   const dayvane::NetApplication application(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
-  testing::InitGoogleMock(&argc, argv);
+  ::testing::InitGoogleMock(&argc, argv);
   return RUN_ALL_TESTS();
 }

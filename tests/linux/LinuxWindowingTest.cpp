@@ -19,9 +19,9 @@ using platform::Message;
 using platform::MessageAnswer;
 using platform::MessageButtons;
 using platform::MessageIcon;
-using testing::ElementsAre;
+using ::testing::ElementsAre;
 
-class LinuxWindowingTest : public testing::Test {
+class LinuxWindowingTest : public ::testing::Test {
  protected:
   LinuxWindowingTest() { m_windowing.Register(m_presenter); }
   ~LinuxWindowingTest() override { m_windowing.Forget(m_presenter); }

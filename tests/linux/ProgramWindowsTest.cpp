@@ -26,8 +26,7 @@ using ::testing::IsEmpty;
 class ProgramWindowsTest : public ::testing::Test {
  protected:
   ProgramWindowsTest() {
-    m_test.registry.keys["\\HKEY_CURRENT_USER\\Software\\Korvath\\Dayvane\\Options"] = {
-        {"Favorites Threshold", "3"}, {"Purge Age", "30"}, {"Timer Interval", "60"}};
+    m_test.registry.Settings("Options") = {{"Favorites Threshold", "3"}, {"Purge Age", "30"}, {"Timer Interval", "60"}};
   }
   ~ProgramWindowsTest() override {
     // Qt remembers that it was told to exit until its main loop has run.

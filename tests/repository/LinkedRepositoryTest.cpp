@@ -31,7 +31,7 @@ class LinkedDesktop {
 class LinkedRepositoryTest : public ::testing::Test, protected LinkedDesktop {
  protected:
   LinkedRepositoryTest() {
-    desktop.registry.keys["\\HKEY_CURRENT_USER\\Software\\Korvath\\Dayvane\\Options"] = {
+    desktop.registry.Settings("Options") = {
         {"Favorites Threshold", "2"}, {"Purge Age", "30"}, {"Timer Interval", "60"}};
   }
 

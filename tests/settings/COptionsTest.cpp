@@ -10,11 +10,9 @@
 namespace dayvane {
 namespace {
 
-const std::string kProduct = "\\HKEY_CURRENT_USER\\Software\\Korvath\\Dayvane";
-
 class COptionsTest : public ::testing::Test {
  protected:
-  std::map<std::string, std::string>& Stored() { return desktop.registry.keys[kProduct + "\\Options"]; }
+  std::map<std::string, std::string>& Stored() { return desktop.registry.Settings("Options"); }
 
   /// Changes the options with a user who does this in the dialog.
   bool Change(const std::function<void(FOptions&)>& user) {
@@ -153,7 +151,7 @@ TEST_F(COptionsTest, TheDialogIsUnloadedHoweverItEnded) {
 TEST_F(COptionsTest, OptionsThatCannotBeStoredAreAnErrorForTheCaller) {
   EXPECT_THROW(Change([this](FOptions& dialog) {
                  dialog.cmdOptions[FOptions::kOk].Press();
-                 desktop.registry.keys.erase(kProduct + "\\Options");
+                 desktop.registry.EraseSettings("Options");
                }),
                Error);
 }
@@ -192,17 +190,17 @@ TEST(SettingsStore, TheSubtreesPathIsTheProductKeys) {
 
 TEST(SettingsStore, AValueThatDoesNotConvertIsSetBackToItsDefault) {
   testing::TestRegistry registry;
-  registry.keys[kProduct + "\\View"] = {{"Data", "x"}};
+  registry.Settings("View") = {{"Data", "x"}};
   const settings::Subtree view(registry, "View", {{"Data", "0"}, {"ListViews", "3"}});
   EXPECT_EQ(view.Number(0), 0);
   EXPECT_EQ(view.Number(1), 3);
   const std::map<std::string, std::string> expected{{"Data", "0"}, {"ListViews", "3"}};
-  EXPECT_EQ(registry.keys[kProduct + "\\View"], expected);
+  EXPECT_EQ(registry.Settings("View"), expected);
 }
 
 TEST(SettingsStore, AValueThatCannotBeSetBackReadsAsItsDefaultAllTheSame) {
   testing::TestRegistry registry;
-  registry.keys[kProduct + "\\View"] = {{"Data", "1"}};
+  registry.Settings("View") = {{"Data", "1"}};
   registry.refusesValues = true;
   const settings::Subtree view(registry, "View", {{"Data", "0"}, {"ListViews", "3"}});
   EXPECT_EQ(view.Number(0), 1);

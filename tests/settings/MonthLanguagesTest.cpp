@@ -22,9 +22,7 @@ constexpr const char* kGermanText =
 
 class MonthLanguagesTest : public ::testing::Test {
  protected:
-  std::map<std::string, std::string>& Stored() {
-    return registry.keys["\\HKEY_CURRENT_USER\\Software\\Korvath\\Dayvane\\Month Names"];
-  }
+  std::map<std::string, std::string>& Stored() { return registry.Settings("Month Names"); }
   testing::TestRegistry registry;
 };
 

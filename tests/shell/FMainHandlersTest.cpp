@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "base/Error.h"
+#include "controls/Keys.h"
 #include "tests/support/MainWindow.h"
 
 namespace dayvane {
@@ -69,12 +70,10 @@ TEST_F(HandlersTest, ADocumentListsOwnHandlersReportToo) {
   view.DblClick.Connect([](controls::ListItem&) { Fail(); });
   view.ItemClick.Connect(Fail);
   view.PopupMenu.Connect([](double, double) { Fail(); });
-  constexpr int kEnter = 13;
-  constexpr int kRightButton = 2;
   list.DblClick.Raise();
   list.Click(*list.SelectedItem());
-  list.KeyUp.Raise(kEnter, 0);
-  list.MouseUp.Raise(kRightButton, 0, 0);
+  list.KeyUp.Raise(controls::kKeyReturn, 0);
+  list.MouseUp.Raise(controls::kRightButton, 0, 0);
   EXPECT_THAT(
       desktop.LogLines("ErrorLog.txt"),
       ElementsAre("CFavorites.ListView_DblClick\t57\tBroken\tAn error occurred opening a document.",

@@ -13,8 +13,6 @@ using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using ::testing::StartsWith;
 
-const std::string kOptionsKey = "\\HKEY_CURRENT_USER\\Software\\Korvath\\Dayvane\\Options";
-
 /// The main window with a document of two days, at a threshold of 2 days, and one of a single day.
 class MainOptionsTest : public ::testing::Test, protected testing::MainWindow {
  protected:
@@ -71,7 +69,7 @@ TEST_F(MainOptionsTest, ANewPurgeAgeAloneNeitherRefillsTheListNorTouchesTheTimer
   int touched = 0;
   window.tmrMain.Changed.Connect([&] { ++touched; });
   Change(1, "60");
-  EXPECT_EQ(desktop.registry.keys[kOptionsKey]["Purge Age"], "60");
+  EXPECT_EQ(desktop.registry.Settings("Options")["Purge Age"], "60");
   EXPECT_EQ(refills, 0);
   EXPECT_EQ(touched, 0);
 }
@@ -87,13 +85,13 @@ TEST_F(MainOptionsTest, ANewPurgeAgeHoldsFromTheNextPollOn) {
 }
 
 TEST_F(MainOptionsTest, ACancelledDialogChangesNothing) {
-  const auto before = desktop.registry.keys[kOptionsKey];
+  const auto before = desktop.registry.Settings("Options");
   Change([](FOptions& dialog) {
     dialog.txtOptions[0].SetText("1");
     dialog.txtOptions[2].SetText("7");
     dialog.cmdOptions[FOptions::kCancel].Press();
   });
-  EXPECT_EQ(desktop.registry.keys[kOptionsKey], before);
+  EXPECT_EQ(desktop.registry.Settings("Options"), before);
   EXPECT_EQ(window.lvwFavorites.Count(), 1U);
   EXPECT_EQ(window.tmrMain.Interval(), 60000);
 }
@@ -129,7 +127,7 @@ TEST_F(MainOptionsTest, OptionsThatCannotBeStoredAreReported) {
   Change([this](FOptions& dialog) {
     dialog.txtOptions[0].SetText("1");
     dialog.cmdOptions[FOptions::kOk].Press();
-    desktop.registry.keys.erase(kOptionsKey);
+    desktop.registry.EraseSettings("Options");
   });
   EXPECT_THAT(desktop.windowing.Texts(), ElementsAre("An error occurred setting options."));
   EXPECT_THAT(desktop.LogLines("ErrorLog.txt"), ElementsAre(StartsWith("FMain.SetOptions\t35001\t")));

@@ -14,14 +14,10 @@ using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using ::testing::Pair;
 
-const std::string kProduct = "\\HKEY_CURRENT_USER\\Software\\Korvath\\Dayvane\\";
-
 /// What the main window leaves in the settings, and what a start makes of them.
 class SettingsTest : public ::testing::Test, protected testing::MainWindow {
  protected:
-  std::map<std::string, std::string>& Stored(const std::string& subtree) {
-    return desktop.registry.keys[kProduct + subtree];
-  }
+  std::map<std::string, std::string>& Stored(const std::string& subtree) { return desktop.registry.Settings(subtree); }
   void End() { window.form.RequestUnload(UnloadMode::SystemSession); }
 };
 
@@ -84,7 +80,7 @@ TEST_F(SettingsTest, TheEndStopsCaptureAndLetsTheViewsGo) {
 
 TEST_F(SettingsTest, SettingsThatCannotBeSavedAreReportedAndTheProgramEnds) {
   Load();
-  desktop.registry.keys.erase(kProduct + "Window");
+  desktop.registry.EraseSettings("Window");
   End();
   EXPECT_TRUE(window.form.IsUnloaded());
   EXPECT_THAT(desktop.windowing.Texts(), ElementsAre("An error occurred saving the current settings."));

@@ -14,7 +14,6 @@ using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using ::testing::StartsWith;
 
-const std::string kOptionsKey = "\\HKEY_CURRENT_USER\\Software\\Korvath\\Dayvane\\Options";
 const std::string kWelcomeText =
     "Welcome to Dayvane.\r\n"
     "\r\n"
@@ -25,8 +24,8 @@ const std::string kWelcomeText =
 
 class StartTest : public ::testing::Test, protected testing::MainWindow {
  protected:
-  std::string& Option(const std::string& name) { return desktop.registry.keys[kOptionsKey][name]; }
-  void MakeFirstRun() { desktop.registry.keys.erase(kOptionsKey); }
+  std::string& Option(const std::string& name) { return desktop.registry.Settings("Options")[name]; }
+  void MakeFirstRun() { desktop.registry.EraseSettings("Options"); }
 };
 
 TEST_F(StartTest, AFirstRunIsWelcomedWithAQuestion) {

@@ -30,7 +30,7 @@ struct ProgramRun {
 class LanguageChangeTest : public ::testing::Test {
  protected:
   LanguageChangeTest() {
-    desktop.registry.keys["\\HKEY_CURRENT_USER\\Software\\Korvath\\Dayvane\\Options"] = {
+    desktop.registry.Settings("Options") = {
         {"Favorites Threshold", "2"}, {"Purge Age", "30"}, {"Timer Interval", "60"}};
     desktop.dates.monthNames = {"Januar", "Februar", "März",      "April",   "Mai",      "Juni",
                                 "Juli",   "August",  "September", "Oktober", "November", "Dezember"};

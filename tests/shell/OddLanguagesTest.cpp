@@ -48,7 +48,7 @@ class OddLanguagesTest : public ::testing::TestWithParam<Language>, protected te
   OddLanguagesTest() {
     desktop.dates.monthNames = GetParam().months;
     desktop.dates.shortDate = GetParam().shortDate;
-    desktop.registry.keys["\\HKEY_CURRENT_USER\\Software\\Korvath\\Dayvane\\Options"]["Purge Age"] = "400";
+    desktop.registry.Settings("Options")["Purge Age"] = "400";
   }
 
   /// Opens a document on the fifth of each month of the year.

@@ -17,8 +17,7 @@ void AddTexts(const controls::TreeNode& node, const std::string& indent, std::ve
 }  // namespace
 
 MainWindow::MainWindow() {
-  desktop.registry.keys["\\HKEY_CURRENT_USER\\Software\\Korvath\\Dayvane\\Options"] = {
-      {"Favorites Threshold", "2"}, {"Purge Age", "30"}, {"Timer Interval", "60"}};
+  desktop.registry.Settings("Options") = {{"Favorites Threshold", "2"}, {"Purge Age", "30"}, {"Timer Interval", "60"}};
 }
 
 void MainWindow::File(const std::string& day, const std::string& target, const std::string& localTime) const {

@@ -4,8 +4,7 @@
 namespace dayvane::testing {
 
 ProgramRuns::ProgramRuns() {
-  desktop.registry.keys["\\HKEY_CURRENT_USER\\Software\\Korvath\\Dayvane\\Options"] = {
-      {"Favorites Threshold", "1"}, {"Purge Age", "30"}, {"Timer Interval", "60"}};
+  desktop.registry.Settings("Options") = {{"Favorites Threshold", "1"}, {"Purge Age", "30"}, {"Timer Interval", "60"}};
 }
 
 void ProgramRuns::Start() {

@@ -31,6 +31,10 @@ class TestRegistry : public platform::Registry {
   std::unique_ptr<platform::RegistryKey> KeyFromRoot(std::uint32_t root) override;
   std::unique_ptr<platform::RegistryKey> KeyFromPath(const std::string& path) override;
 
+  /// The values of the program's own settings below a name such as "Options"; made when they are not there.
+  std::map<std::string, std::string>& Settings(const std::string& name) { return keys[kProduct + name]; }
+  void EraseSettings(const std::string& name) { keys.erase(kProduct + name); }
+
   /// Describes a document class: extension (".ODT"), description, default icon and open command; empty ones are left
   /// out.
   void AddClass(const std::string& extension, const std::string& description, const std::string& icon = {},
@@ -39,6 +43,9 @@ class TestRegistry : public platform::Registry {
   std::map<std::string, std::map<std::string, std::string>> keys;
   std::string unwritable;  ///< adding below this path fails
   bool refusesValues = false;
+
+ private:
+  static inline const std::string kProduct = "\\HKEY_CURRENT_USER\\Software\\Korvath\\Dayvane\\";
 };
 
 /// Message boxes that answer as told and keep what they were asked; nothing else is shown.

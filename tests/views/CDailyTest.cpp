@@ -29,7 +29,7 @@ class CDailyTest : public ::testing::Test {
     return item;
   }
   std::vector<std::string> Names() const { return testing::ColumnOf(list, 0); }
-  Texts& Stored() { return desktop.registry.keys["\\HKEY_CURRENT_USER\\Software\\Korvath\\Dayvane\\Daily"]; }
+  Texts& Stored() { return desktop.registry.Settings("Daily"); }
   std::vector<std::string> Events() const { return desktop.LogLines("EventLog.txt"); }
 
   testing::TestDesktop desktop;
@@ -40,17 +40,17 @@ class CDailyTest : public ::testing::Test {
   CDaily daily{application};
 };
 
-const Texts kDefaults{{"Name Width", "1440"},     {"Type Width", "1440"}, {"Path Width", "1440"},
-                      {"Modified Width", "1440"}, {"Sort Column", "1"},   {"Sort Order", "0"}};
+const Texts kDailyDefaults{{"Name Width", "1440"},     {"Type Width", "1440"}, {"Path Width", "1440"},
+                           {"Modified Width", "1440"}, {"Sort Column", "1"},   {"Sort Order", "0"}};
 
 TEST_F(CDailyTest, AFreshInstallationStoresTheDefaultSettings) {
   daily.RestoreSettings();
-  EXPECT_EQ(Stored(), kDefaults);
+  EXPECT_EQ(Stored(), kDailyDefaults);
 }
 
 TEST_F(CDailyTest, CreatingTheKeysWritesTheDefaultSettings) {
   daily.CreateRegistryKeys();
-  EXPECT_EQ(Stored(), kDefaults);
+  EXPECT_EQ(Stored(), kDailyDefaults);
 }
 
 TEST_F(CDailyTest, AFreshInstallationSortsByTypeAscending) {
@@ -85,7 +85,7 @@ TEST_F(CDailyTest, WidthsAndSortAreSavedAsDecimalTexts) {
 
 TEST_F(CDailyTest, AStoredSortColumnThatIsNoneIsSavedAsItWas) {
   for (const char* column : {"-1", "9"}) {
-    Stored() = kDefaults;
+    Stored() = kDailyDefaults;
     Stored()["Sort Column"] = column;
     daily.RestoreSettings();
     daily.SaveSettings();
@@ -94,7 +94,7 @@ TEST_F(CDailyTest, AStoredSortColumnThatIsNoneIsSavedAsItWas) {
 }
 
 TEST_F(CDailyTest, TheFirstClickOnAnyColumnSortsAscending) {
-  Stored() = kDefaults;
+  Stored() = kDailyDefaults;
   Stored()["Sort Order"] = "1";
   daily.RestoreSettings();
   Add("b", "", "");

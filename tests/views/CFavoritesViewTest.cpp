@@ -22,7 +22,7 @@ class CFavoritesViewTest : public ::testing::Test {
   }
 
   void Add(const std::string& name, const std::string& type) { list.Add("K" + name, name, 1).subItems = {type}; }
-  Texts& Stored() { return desktop.registry.keys["\\HKEY_CURRENT_USER\\Software\\Korvath\\Dayvane\\Favorites"]; }
+  Texts& Stored() { return desktop.registry.Settings("Favorites"); }
   std::vector<std::string> Events() const { return desktop.LogLines("EventLog.txt"); }
 
   testing::TestDesktop desktop;
@@ -32,18 +32,18 @@ class CFavoritesViewTest : public ::testing::Test {
   CFavorites favorites{application};
 };
 
-const Texts kDefaults{
+const Texts kFavoritesDefaults{
     {"Name Width", "1440"},          {"Type Width", "1440"}, {"Path Width", "1440"}, {"Days Accessed Width", "1440"},
     {"Last Accessed Width", "1440"}, {"Sort Column", "1"},   {"Sort Order", "0"}};
 
 TEST_F(CFavoritesViewTest, AFreshInstallationStoresTheDefaultSettings) {
   favorites.RestoreSettings();
-  EXPECT_EQ(Stored(), kDefaults);
+  EXPECT_EQ(Stored(), kFavoritesDefaults);
 }
 
 TEST_F(CFavoritesViewTest, CreatingTheKeysWritesTheDefaultSettings) {
   favorites.CreateRegistryKeys();
-  EXPECT_EQ(Stored(), kDefaults);
+  EXPECT_EQ(Stored(), kFavoritesDefaults);
 }
 
 TEST_F(CFavoritesViewTest, StoredWidthsAndSortComeBack) {
@@ -75,7 +75,7 @@ TEST_F(CFavoritesViewTest, WidthsAndTheSortOfTheColumnClicksAreSaved) {
 
 TEST_F(CFavoritesViewTest, AStoredSortColumnThatIsNoneIsSavedAsItWas) {
   for (const char* column : {"-1", "0", "9"}) {
-    Stored() = kDefaults;
+    Stored() = kFavoritesDefaults;
     Stored()["Sort Column"] = column;
     favorites.RestoreSettings();
     favorites.SortAgain();

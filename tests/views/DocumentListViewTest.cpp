@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "base/Error.h"
+#include "controls/Keys.h"
 #include "tests/support/TestDesktop.h"
 #include "views/CDaily.h"
 #include "views/CFavorites.h"
@@ -13,14 +14,6 @@ namespace {
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
-
-constexpr int kEnter = 13;
-constexpr int kF10 = 121;
-constexpr int kShift = 1;
-constexpr int kCtrl = 2;
-constexpr int kAlt = 4;
-constexpr int kLeftButton = 1;
-constexpr int kRightButton = 2;
 
 /// What the user does in either list, and what its owner hears of it.
 class DocumentListViewTest : public ::testing::Test {
@@ -60,42 +53,42 @@ TEST_F(DocumentListViewTest, ADoubleClickOpensTheSelectedDocument) {
 
 TEST_F(DocumentListViewTest, EnterOpensTheSelectedDocument) {
   Select();
-  list.KeyUp.Raise(kEnter, 0);
+  list.KeyUp.Raise(controls::kKeyReturn, 0);
   EXPECT_THAT(heard, ElementsAre("double click a"));
 }
 
 TEST_F(DocumentListViewTest, AltF10ShowsTheMenuAtTheSelectedRow) {
   Select();
-  list.KeyUp.Raise(kF10, kAlt);
-  list.KeyUp.Raise(kF10, kAlt + kShift);
+  list.KeyUp.Raise(controls::kKeyF10, controls::kAltMask);
+  list.KeyUp.Raise(controls::kKeyF10, controls::kAltMask + controls::kShiftMask);
   EXPECT_THAT(heard, ElementsAre("menu 110 220", "menu 110 220"));
 }
 
 TEST_F(DocumentListViewTest, F10WithoutAltDoesNothing) {
   Select();
-  list.KeyUp.Raise(kF10, 0);
-  list.KeyUp.Raise(kF10, kShift);
-  list.KeyUp.Raise(kF10, kCtrl);
+  list.KeyUp.Raise(controls::kKeyF10, 0);
+  list.KeyUp.Raise(controls::kKeyF10, controls::kShiftMask);
+  list.KeyUp.Raise(controls::kKeyF10, controls::kCtrlMask);
   EXPECT_THAT(heard, IsEmpty());
 }
 
 TEST_F(DocumentListViewTest, TheRightButtonShowsTheMenuWhereItWasReleased) {
   Select();
-  list.MouseUp.Raise(kRightButton, 5, 7);
+  list.MouseUp.Raise(controls::kRightButton, 5, 7);
   EXPECT_THAT(heard, ElementsAre("menu 105 207"));
 }
 
 TEST_F(DocumentListViewTest, TheLeftButtonShowsNoMenu) {
   Select();
-  list.MouseUp.Raise(kLeftButton, 5, 7);
+  list.MouseUp.Raise(controls::kLeftButton, 5, 7);
   EXPECT_THAT(heard, IsEmpty());
 }
 
 TEST_F(DocumentListViewTest, WithoutASelectedRowNothingIsOpenedAndNoMenuShown) {
   list.DblClick.Raise();
-  list.KeyUp.Raise(kEnter, 0);
-  list.KeyUp.Raise(kF10, kAlt);
-  list.MouseUp.Raise(kRightButton, 5, 7);
+  list.KeyUp.Raise(controls::kKeyReturn, 0);
+  list.KeyUp.Raise(controls::kKeyF10, controls::kAltMask);
+  list.MouseUp.Raise(controls::kRightButton, 5, 7);
   EXPECT_THAT(heard, IsEmpty());
 }
 
@@ -104,8 +97,8 @@ TEST_F(DocumentListViewTest, AMissingPaneIsLoggedUnderTheNameOfTheViewAndReporte
   for (DocumentListView* either : {static_cast<DocumentListView*>(&view), static_cast<DocumentListView*>(&daily)}) {
     view.SetListControls(nullptr, nullptr);
     either->SetListControls(&list, nullptr);
-    list.KeyUp.Raise(kF10, kAlt);
-    list.MouseUp.Raise(kRightButton, 5, 7);
+    list.KeyUp.Raise(controls::kKeyF10, controls::kAltMask);
+    list.MouseUp.Raise(controls::kRightButton, 5, 7);
   }
   const std::string key = "An error occurred processing a document selection.";
   const std::string mouse = "An error occurred displaying a context menu.";

@@ -18,9 +18,7 @@ using testing::TextsOf;
 
 class DailyViewTest : public ::testing::Test, protected testing::MainWindow {
  protected:
-  DailyViewTest() {
-    desktop.registry.keys["\\HKEY_CURRENT_USER\\Software\\Korvath\\Dayvane\\Options"]["Purge Age"] = "3650";
-  }
+  DailyViewTest() { desktop.registry.Settings("Options")["Purge Age"] = "3650"; }
 };
 
 TEST_F(DailyViewTest, TheTreeShowsYearsMonthsAndDaysWithAPicturePerLevel) {

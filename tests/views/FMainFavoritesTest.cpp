@@ -24,9 +24,7 @@ class FavoritesListTest : public ::testing::Test, protected testing::MainWindow 
     desktop.folder.Write("program/Favorites.dat", data);
     Load();
   }
-  void SetThreshold(const std::string& days) {
-    desktop.registry.keys["\\HKEY_CURRENT_USER\\Software\\Korvath\\Dayvane\\Options"]["Favorites Threshold"] = days;
-  }
+  void SetThreshold(const std::string& days) { desktop.registry.Settings("Options")["Favorites Threshold"] = days; }
   std::vector<std::string> Names() const { return ColumnOf(window.lvwFavorites, 0); }
   std::vector<std::string> Events() const { return desktop.LogLines("EventLog.txt"); }
   controls::ListItem& Row(const std::string& name) { return window.lvwFavorites.Item("KZ:\\d\\" + name + ".lnk"); }

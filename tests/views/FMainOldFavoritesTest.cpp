@@ -60,7 +60,7 @@ TEST_F(OldFavoriteTest, OpensWhenTheStartPurgesItsFirstDay) {
 
 TEST_F(OldFavoriteTest, TheNewestLinkIsTheCalendarsWhateverTheNamesOfTheMonths) {
   desktop.clock.Set(2026, 4, 20);
-  desktop.registry.keys["\\HKEY_CURRENT_USER\\Software\\Korvath\\Dayvane\\Options"]["Purge Age"] = "3650";
+  desktop.registry.Settings("Options")["Purge Age"] = "3650";
   FileReport("2025/December/31", "2025-12-31 10:00:00");
   FileReport("2026/March/30", "2026-03-30 10:00:00");
   platform::ShellLink newest;

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "controls/Keys.h"
 #include "tests/support/MainWindow.h"
 
 namespace dayvane {
@@ -16,8 +17,6 @@ using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using testing::TextsOf;
 
-constexpr int kRightButton = 2;
-
 /// The purge as the window's user meets it: at the start, and from the tree's menu.
 class PurgeTest : public ::testing::Test, protected testing::MainWindow {
  protected:
@@ -29,7 +28,7 @@ class PurgeTest : public ::testing::Test, protected testing::MainWindow {
   /// Right-clicks a node, which selects it.
   void RightClick(controls::TreeNode& node) {
     window.tvwMain.Click(node);
-    window.tvwMain.MouseUp.Raise(kRightButton, 30, 40);
+    window.tvwMain.MouseUp.Raise(controls::kRightButton, 30, 40);
   }
 };
 
@@ -140,7 +139,7 @@ TEST_F(PurgeTest, OnlyADayHasAMenu) {
   Load();
   fs::create_directories(Daily("2026/December"));
   window.RefreshDaily();
-  window.tvwMain.MouseUp.Raise(kRightButton, 30, 40);
+  window.tvwMain.MouseUp.Raise(controls::kRightButton, 30, 40);
   RightClick(*window.tvwMain.Roots()[0]);
   for (const char* path : {"2026", "2026\\November", "2026\\December"}) RightClick(Node(path));
   window.tvwMain.Click(Node("2026\\November\\19"));

@@ -19,7 +19,7 @@ namespace {
 
 // Logical pixels.
 constexpr int kMargin = 1;
-constexpr int kGap = 4;
+constexpr int kSplitterWidth = 4;
 constexpr int kLeastTreeHeight = 80;
 constexpr int kLeastListWidth = 220;
 constexpr QSize kUsualSize{900, 600};
@@ -100,8 +100,8 @@ void MainWindow::Design() {
   DesignDailyPane();
   PutControl(m_main.picFavorites, {kMargin, kMargin}, *this);
   const QSize calendar = m_calendar.sizeHint();
-  m_client.setMinimumSize(calendar.width() + kGap + kLeastListWidth,
-                          calendar.height() + kGap + kLeastTreeHeight + statusHeight);
+  m_client.setMinimumSize(calendar.width() + kSplitterWidth + kLeastListWidth,
+                          calendar.height() + kSplitterWidth + kLeastTreeHeight + statusHeight);
 }
 
 void MainWindow::DesignDailyPane() {
@@ -109,13 +109,14 @@ void MainWindow::DesignDailyPane() {
   const int left = std::max(calendar.width(), m_split);
   PutControl(m_main.picDaily, {kMargin, kMargin}, *this);
   MoveControl(m_main.calMain, {0, 0, left, calendar.height()}, *this);
-  m_main.tvwMain.Move(0, ToTwips(calendar.height() + kGap, *this), ToTwips(left, *this), m_main.tvwMain.Height());
-  PutControl(m_main.lvwDaily, {left + kGap, 0}, *this);
+  m_main.tvwMain.Move(0, ToTwips(calendar.height() + kSplitterWidth, *this), ToTwips(left, *this),
+                      m_main.tvwMain.Height());
+  PutControl(m_main.lvwDaily, {left + kSplitterWidth, 0}, *this);
 }
 
 void MainWindow::SplitDailyPane(int left) {
   const int least = m_calendar.sizeHint().width();
-  const int most = std::max(m_daily.width() - kGap - kLeastListWidth, least);
+  const int most = std::max(m_daily.width() - kSplitterWidth - kLeastListWidth, least);
   m_split = std::clamp(left, least, most);
   DesignDailyPane();
   FillDailyPane();
@@ -137,7 +138,7 @@ void MainWindow::LayOut() {
   const int statusHeight = m_statusBar.sizeHint().height();
   m_placement.PlaceAll();
   MoveControl(m_main.sbrMain, {0, m_client.height() - statusHeight, m_client.width(), statusHeight}, *this);
-  m_splitter.setGeometry(ToPixels(m_main.lvwDaily.Left(), *this) - kGap, 0, kGap, m_daily.height());
+  m_splitter.setGeometry(ToPixels(m_main.lvwDaily.Left(), *this) - kSplitterWidth, 0, kSplitterWidth, m_daily.height());
 }
 
 void MainWindow::FocusWhenViewChanges() {

@@ -32,7 +32,7 @@ class ClassicView : public View {
     View::setDragDropMode(QAbstractItemView::NoDragDrop);
   }
 
-  void SetEvents(ViewEvents events) { m_events = std::move(events); }
+  void SetEvents(ViewEvents&& events) { m_events = std::move(events); }
 
   /// A change of the selection now is the mouse's, which `press` tells of.
   bool IsPressing() const { return m_pressing; }

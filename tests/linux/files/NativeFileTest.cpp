@@ -12,7 +12,7 @@ TEST(NativeFile, AFileWhoseNameTheProgramCannotSpellIsReached) {
   const testing::TemporaryFolder folder;
   const std::string file = folder / "a\xFF\\\"b";
   ReplaceFile(file, "text");
-  EXPECT_EQ(ReadFile(file, 100).bytes, "text");
+  EXPECT_EQ(files::ReadFile(file, 100).bytes, "text");
   EXPECT_EQ(StatusOf(file)->size, 4U);
   const auto entries = ListFolder(folder.Native());
   ASSERT_EQ(entries.size(), 1U);

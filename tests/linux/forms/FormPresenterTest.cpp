@@ -18,10 +18,10 @@ namespace {
 
 using controls::UnloadMode;
 using controls::WindowState;
-using testing::ElementsAre;
-using testing::Pair;
+using ::testing::ElementsAre;
+using ::testing::Pair;
 
-class FormPresenterTest : public testing::Test {
+class FormPresenterTest : public ::testing::Test {
  protected:
   FormPresenterTest() : m_inside(new QWidget(&m_window)), m_presenter(m_form, m_window, *m_inside) {
     m_window.setCentralWidget(m_inside);

@@ -13,6 +13,10 @@
 
 namespace dayvane::testing {
 
+inline constexpr const char* kReport = "/home/ana/Report.odt";
+inline constexpr const char* kMorning = "2026-11-20T08:00:00Z";
+inline constexpr const char* kNoon = "2026-11-20T12:00:00Z";
+
 /// What the user's session ends with in a test of kills. No Error: nobody catches it.
 struct SessionEnds {};
 

@@ -13,10 +13,9 @@ namespace fs = std::filesystem;
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
+using testing::kReport;
 using ::testing::Pair;
 using testing::RecentDesk;
-
-constexpr const char* kReport = "/home/ana/Report.odt";
 
 TEST(RecentFolderCapture, AnOpeningOnAnotherDayWaitsUntilTheShortcutIsCaptured) {
   RecentDesk desk;

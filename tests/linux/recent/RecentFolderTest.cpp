@@ -20,12 +20,12 @@ using ::testing::IsEmpty;
 using ::testing::Pair;
 using testing::RecentDesk;
 
-constexpr const char* kMorning = "2026-11-20T08:00:00.110427Z";
-constexpr const char* kNoon = "2026-11-20T12:00:00.5Z";
+constexpr const char* kExactMorning = "2026-11-20T08:00:00.110427Z";
+constexpr const char* kExactNoon = "2026-11-20T12:00:00.5Z";
 
 TEST(RecentFolder, AShortcutIsWrittenAtTheMomentOfTheOpening) {
   RecentDesk desk;
-  desk.PutDocuments({{"/home/ana/Report.odt", kMorning}});
+  desk.PutDocuments({{"/home/ana/Report.odt", kExactMorning}});
   desk.Start().Refresh();
   EXPECT_THAT(desk.Shortcuts(), ElementsAre(Pair("Report.odt.lnk", "2026-11-20T08:00:00.110427000Z")));
   EXPECT_THAT(desk.m_events, IsEmpty());
@@ -33,7 +33,7 @@ TEST(RecentFolder, AShortcutIsWrittenAtTheMomentOfTheOpening) {
 
 TEST(RecentFolder, TheLinkLeadsToTheDocument) {
   RecentDesk desk;
-  desk.PutDocuments({{"/home/ana/Report.odt", kMorning}, {"/top", kMorning}});
+  desk.PutDocuments({{"/home/ana/Report.odt", kExactMorning}, {"/top", kExactMorning}});
   desk.Start().Refresh();
   EXPECT_EQ(testing::ReadFile(desk.Shortcut("Report.odt.lnk")), "Z:\\home\\ana\\Report.odt\t\t1\twhole");
   EXPECT_EQ(testing::ReadFile(desk.Shortcut("top.lnk")), "Z:\\top\t\t1\twhole");
@@ -43,7 +43,7 @@ TEST(RecentFolder, TheShellReadsItsLinksBack) {
   RecentDesk desk;
   RecentFolder folder([&] { return desk.m_now; }, {desk.m_list, desk.m_recent, desk.m_state}, links::WriteShellLink,
                       [](const std::string&) {});
-  desk.PutDocuments({{"/home/ana/\xD0\x9E\xD1\x82 \"1\".odt", kMorning}});
+  desk.PutDocuments({{"/home/ana/\xD0\x9E\xD1\x82 \"1\".odt", kExactMorning}});
   folder.Refresh();
   const auto link = links::ParseShellLink(testing::ReadFile(desk.Shortcut("\xD0\x9E\xD1\x82 \"1\".odt.lnk")));
   ASSERT_TRUE(link.has_value());
@@ -54,7 +54,7 @@ TEST(RecentFolder, TheShellReadsItsLinksBack) {
 
 TEST(RecentFolder, BeforeTheFirstRefreshNothingHappens) {
   RecentDesk desk;
-  desk.PutDocuments({{"/home/ana/Report.odt", kMorning}});
+  desk.PutDocuments({{"/home/ana/Report.odt", kExactMorning}});
   const std::string before = desk.Traces();
   RecentFolder& folder = desk.Start();
   folder.RememberOpenings();
@@ -64,7 +64,7 @@ TEST(RecentFolder, BeforeTheFirstRefreshNothingHappens) {
 
 TEST(RecentFolder, TheFolderIsMadeWithThoseAboveItForTheUserAlone) {
   RecentDesk desk;
-  desk.PutDocuments({{"/home/ana/Report.odt", kMorning}});
+  desk.PutDocuments({{"/home/ana/Report.odt", kExactMorning}});
   RecentFolder folder([&] { return desk.m_now; },
                       {desk.m_list, desk.m_folder / "new/Recent", desk.m_folder / "also/new/state"},
                       [](const platform::ShellLink& link) { return link.target; }, [](const std::string&) {});
@@ -76,7 +76,7 @@ TEST(RecentFolder, TheFolderIsMadeWithThoseAboveItForTheUserAlone) {
 
 TEST(RecentFolder, WhileNothingChangesNothingIsWritten) {
   RecentDesk desk;
-  desk.PutDocuments({{"/home/ana/Report.odt", kMorning}, {"/home/ana/x.txt", kNoon}});
+  desk.PutDocuments({{"/home/ana/Report.odt", kExactMorning}, {"/home/ana/x.txt", kExactNoon}});
   desk.Poll();
   const std::string before = desk.Traces();
   for (int poll = 0; poll < 3; ++poll) desk.Poll();
@@ -87,10 +87,10 @@ TEST(RecentFolder, WhileNothingChangesNothingIsWritten) {
 
 TEST(RecentFolder, AListWrittenAnewWithTheSameOpeningsWritesNothing) {
   RecentDesk desk;
-  desk.PutDocuments({{"/home/ana/Report.odt", kMorning}});
+  desk.PutDocuments({{"/home/ana/Report.odt", kExactMorning}});
   desk.Poll();
   const auto changes = desk.m_disk.changes;
-  desk.PutDocuments({{"/home/ana/Report.odt", kMorning}});
+  desk.PutDocuments({{"/home/ana/Report.odt", kExactMorning}});
   desk.Poll();
   EXPECT_EQ(desk.m_disk.changes, changes);
 }
@@ -100,25 +100,25 @@ TEST(RecentFolder, AnUnchangedListIsNotReadAgain) {
   int clockReadings = 0;
   RecentFolder folder([&] { return ++clockReadings, desk.m_now; }, {desk.m_list, desk.m_recent, desk.m_state},
                       [](const platform::ShellLink& link) { return link.target; }, [](const std::string&) {});
-  desk.PutDocuments({{"/home/ana/Report.odt", kMorning}});
+  desk.PutDocuments({{"/home/ana/Report.odt", kExactMorning}});
   for (int poll = 0; poll < 5; ++poll) folder.Refresh();
   EXPECT_EQ(clockReadings, 1) << "openings are judged once for each reading of the list";
 }
 
 TEST(RecentFolder, ADocumentOpenedAgainMovesItsShortcut) {
   RecentDesk desk;
-  desk.PutDocuments({{"/home/ana/Report.odt", kMorning}});
+  desk.PutDocuments({{"/home/ana/Report.odt", kExactMorning}});
   desk.Poll();
-  desk.PutDocuments({{"/home/ana/Report.odt", kNoon}});
+  desk.PutDocuments({{"/home/ana/Report.odt", kExactNoon}});
   desk.Poll();
   EXPECT_THAT(desk.Shortcuts(), ElementsAre(Pair("Report.odt.lnk", "2026-11-20T12:00:00.500000000Z")));
 }
 
 TEST(RecentFolder, AMissingEntryRemovesNothing) {
   RecentDesk desk;
-  desk.PutDocuments({{"/home/ana/Report.odt", kMorning}, {"/home/ana/x.txt", kMorning}});
+  desk.PutDocuments({{"/home/ana/Report.odt", kExactMorning}, {"/home/ana/x.txt", kExactMorning}});
   desk.Poll();
-  desk.PutDocuments({{"/home/ana/x.txt", kMorning}});
+  desk.PutDocuments({{"/home/ana/x.txt", kExactMorning}});
   desk.Poll();
   fs::remove(desk.m_list);
   desk.Poll();
@@ -127,40 +127,40 @@ TEST(RecentFolder, AMissingEntryRemovesNothing) {
 
 TEST(RecentFolder, ARemovedLinkStaysRemovedUntilItsDocumentIsOpenedAgain) {
   RecentDesk desk;
-  desk.PutDocuments({{"/home/ana/Report.odt", kMorning}});
+  desk.PutDocuments({{"/home/ana/Report.odt", kExactMorning}});
   desk.Poll();
   fs::remove(desk.Shortcut("Report.odt.lnk"));
-  desk.PutDocuments({{"/home/ana/Report.odt", kMorning}, {"/home/ana/x.txt", kMorning}});
+  desk.PutDocuments({{"/home/ana/Report.odt", kExactMorning}, {"/home/ana/x.txt", kExactMorning}});
   desk.Poll();
   desk.Start();
   desk.Poll();
   EXPECT_THAT(desk.Shortcuts(), ElementsAre(Pair("x.txt.lnk", ::testing::_)));
-  desk.PutDocuments({{"/home/ana/Report.odt", kNoon}});
+  desk.PutDocuments({{"/home/ana/Report.odt", kExactNoon}});
   desk.Poll();
   EXPECT_EQ(desk.Shortcuts().count("Report.odt.lnk"), 1U);
 }
 
 TEST(RecentFolder, AnEntryThatIsLostAndComesBackIsNoOpening) {
   RecentDesk desk;
-  desk.PutDocuments({{"/home/ana/Report.odt", kMorning}, {"/home/ana/x.txt", kMorning}});
+  desk.PutDocuments({{"/home/ana/Report.odt", kExactMorning}, {"/home/ana/x.txt", kExactMorning}});
   desk.Poll();
   fs::remove(desk.Shortcut("Report.odt.lnk"));
-  desk.PutDocuments({{"/home/ana/x.txt", kMorning}});
+  desk.PutDocuments({{"/home/ana/x.txt", kExactMorning}});
   desk.Poll();
-  desk.PutDocuments({{"/home/ana/Report.odt", kMorning}, {"/home/ana/x.txt", kMorning}});
+  desk.PutDocuments({{"/home/ana/Report.odt", kExactMorning}, {"/home/ana/x.txt", kExactMorning}});
   desk.Poll();
   EXPECT_EQ(desk.Shortcuts().count("Report.odt.lnk"), 0U);
 }
 
 TEST(RecentFolder, ALinkThatTheProgramPutsBackIsLeftAlone) {
   RecentDesk desk;
-  desk.PutDocuments({{"/home/ana/Report.odt", kMorning}});
+  desk.PutDocuments({{"/home/ana/Report.odt", kExactMorning}});
   desk.Poll();
   const std::string link = testing::ReadFile(desk.Shortcut("Report.odt.lnk"));
   fs::remove(desk.Shortcut("Report.odt.lnk"));
   desk.m_folder.Write("Recent/Report.odt.lnk", link);
   testing::SetWritten(desk.Shortcut("Report.odt.lnk"), "2026-11-28 09:00:00");
-  desk.PutDocuments({{"/home/ana/Report.odt", kMorning}, {"/home/ana/x.txt", kMorning}});
+  desk.PutDocuments({{"/home/ana/Report.odt", kExactMorning}, {"/home/ana/x.txt", kExactMorning}});
   desk.Poll();
   EXPECT_THAT(desk.Shortcuts(),
               ElementsAre(Pair("Report.odt.lnk", "2026-11-28T09:00:00.000000000Z"), Pair("x.txt.lnk", ::testing::_)));
@@ -168,7 +168,7 @@ TEST(RecentFolder, ALinkThatTheProgramPutsBackIsLeftAlone) {
 
 TEST(RecentFolder, TheOpeningBehindALinkPutBackMovesTheSameShortcut) {
   RecentDesk desk;
-  desk.PutDocuments({{"/home/ana/Report.odt", kMorning}});
+  desk.PutDocuments({{"/home/ana/Report.odt", kExactMorning}});
   desk.Poll();
   testing::SetWritten(desk.Shortcut("Report.odt.lnk"), "2026-11-28 09:00:00");
   desk.PutDocuments({{"/home/ana/Report.odt", "2026-11-28T09:00:02.25Z"}});
@@ -202,8 +202,8 @@ TEST(RecentFolder, ATimeInTheFutureIsTheMomentItWasFirstSeenForEver) {
 
 TEST(RecentFolder, ADocumentSpelledByGtkAndByKdeHasOneShortcut) {
   RecentDesk desk;
-  desk.PutBookmarks(RecentDesk::Bookmark("file:///home/a%3Bb%5Bc%5D.txt", kNoon) +
-                    RecentDesk::Bookmark("file:///home/a;b[c].txt", kMorning));
+  desk.PutBookmarks(RecentDesk::Bookmark("file:///home/a%3Bb%5Bc%5D.txt", kExactNoon) +
+                    RecentDesk::Bookmark("file:///home/a;b[c].txt", kExactMorning));
   desk.Poll();
   EXPECT_THAT(desk.Shortcuts(), ElementsAre(Pair("a;b[c].txt.lnk", "2026-11-20T12:00:00.500000000Z")));
 }
@@ -229,7 +229,7 @@ TEST(RecentFolder, AnyNameThatLinuxAllowsWorks) {
       " a b ", "100%25", "a;b[c]", "back\\slash", "quo\"te", "line\nbreak", "\xC3\xA9\xE6\x96\x87",
       "?x=1",  "#1",     "~",      "%zz",         "\x01"};
   std::map<std::string, std::string> documents;
-  for (const std::string& name : names) documents["/home/ana/" + name] = kMorning;
+  for (const std::string& name : names) documents["/home/ana/" + name] = kExactMorning;
   desk.PutDocuments(documents);
   desk.Poll();
   for (const std::string& name : names) {
@@ -241,8 +241,8 @@ TEST(RecentFolder, AnyNameThatLinuxAllowsWorks) {
 
 TEST(RecentFolder, ANameThatCannotBeSpelledIsLeftOutAndReportedOnce) {
   RecentDesk desk;
-  const std::string bookmarks =
-      RecentDesk::Bookmark("file:///a%FF%FEb", kMorning) + RecentDesk::Bookmark("file:///c%EF%80%A2", kMorning);
+  const std::string bookmarks = RecentDesk::Bookmark("file:///a%FF%FEb", kExactMorning) +
+                                RecentDesk::Bookmark("file:///c%EF%80%A2", kExactMorning);
   desk.PutBookmarks(bookmarks);
   desk.Poll();
   desk.PutBookmarks(bookmarks + "\n");
@@ -262,7 +262,7 @@ TEST(RecentFolder, ADocumentWhoseLinkCannotBeWrittenIsLeftOutAndReportedOnce) {
                         return link.target;
                       },
                       [&](const std::string& event) { events.push_back(event); });
-  desk.PutDocuments({{"/home/bad", kMorning}, {"/home/good", kMorning}});
+  desk.PutDocuments({{"/home/bad", kExactMorning}, {"/home/good", kExactMorning}});
   for (int poll = 0; poll < 3; ++poll) folder.Refresh();
   EXPECT_THAT(desk.Shortcuts(), ElementsAre(Pair("good.lnk", ::testing::_)));
   EXPECT_THAT(events, ElementsAre(HasSubstr("/home/bad")));

@@ -16,12 +16,12 @@ namespace fs = std::filesystem;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
+using testing::kMorning;
+using testing::kNoon;
+using testing::kReport;
 using ::testing::Pair;
 using testing::RecentDesk;
 
-constexpr const char* kReport = "/home/ana/Report.odt";
-constexpr const char* kMorning = "2026-11-20T08:00:00Z";
-constexpr const char* kNoon = "2026-11-20T12:00:00Z";
 constexpr fs::perms kReadOnly =
     fs::perms::owner_read | fs::perms::owner_exec | fs::perms::others_read | fs::perms::others_exec;
 

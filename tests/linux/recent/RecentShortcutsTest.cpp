@@ -11,11 +11,10 @@ namespace {
 namespace fs = std::filesystem;
 
 using ::testing::ElementsAre;
+using testing::kMorning;
+using testing::kNoon;
 using ::testing::Pair;
 using testing::RecentDesk;
-
-constexpr const char* kMorning = "2026-11-20T08:00:00Z";
-constexpr const char* kNoon = "2026-11-20T12:00:00Z";
 
 std::string Target(const RecentDesk& desk, const std::string& name) {
   const std::string link = testing::ReadFile(desk.Shortcut(name));

@@ -21,8 +21,9 @@ using testing::TestDesktop;
 constexpr const char* kOptions = "Software\\Korvath\\Dayvane\\Options";
 constexpr const char* kWindow = "Software\\Korvath\\Dayvane\\Window";
 
-const SettingsKeys kStored{{kOptions, {{"Favorites Threshold", "12"}, {"Purge Age", "345"}, {"Timer Interval", "10"}}},
-                           {kWindow, {{"Left", "-120"}, {"Visible", "True"}}}};
+const SettingsKeys kWholeSettings{
+    {kOptions, {{"Favorites Threshold", "12"}, {"Purge Age", "345"}, {"Timer Interval", "10"}}},
+    {kWindow, {{"Left", "-120"}, {"Visible", "True"}}}};
 
 /// The program's options, read from a settings file with this text.
 class OptionsOver {
@@ -62,13 +63,13 @@ void ExpectSurvives(const std::string& text) {
 }
 
 TEST(SettingsDamage, AFileCutAtAnyByteHasNoSettingThatWasNotThere) {
-  const std::string text = WriteSettings(kStored);
+  const std::string text = WriteSettings(kWholeSettings);
   for (std::size_t length = 0; length <= text.size(); ++length)
-    ExpectPartOf(ParseSettings(text.substr(0, length)).value_or(SettingsKeys()), kStored, length);
+    ExpectPartOf(ParseSettings(text.substr(0, length)).value_or(SettingsKeys()), kWholeSettings, length);
 }
 
 TEST(SettingsDamage, AfterACutAtAnyByteTheOptionsAreReadAsTheyStandOrSetBack) {
-  const std::string text = WriteSettings(kStored);
+  const std::string text = WriteSettings(kWholeSettings);
   for (std::size_t length = 0; length <= text.size(); ++length) {
     const OptionsOver program(text.substr(0, length));
     const COptions& options = program.Options();
@@ -85,18 +86,18 @@ TEST(SettingsDamage, AfterACutAtAnyByteTheOptionsAreReadAsTheyStandOrSetBack) {
 }
 
 TEST(SettingsDamage, AfterACutAtAnyByteTheFileIsWholeAgain) {
-  const std::string text = WriteSettings(kStored);
+  const std::string text = WriteSettings(kWholeSettings);
   for (std::size_t length = 0; length <= text.size(); ++length) {
     const OptionsOver program(text.substr(0, length));
     const auto keys = ParseSettings(program.FileText());
     ASSERT_TRUE(keys && keys->contains(kOptions)) << length;
-    EXPECT_EQ(keys->at(kOptions).size(), kStored.at(kOptions).size()) << length;
+    EXPECT_EQ(keys->at(kOptions).size(), kWholeSettings.at(kOptions).size()) << length;
     ExpectSurvives(program.FileText());
   }
 }
 
 TEST(SettingsDamage, FlippedBitsAreSurvived) {
-  const std::string whole = WriteSettings(kStored);
+  const std::string whole = WriteSettings(kWholeSettings);
   std::mt19937 random(4711);
   for (int i = 0; i < 10'000; ++i) {
     std::string text = whole;
@@ -120,7 +121,7 @@ TEST(SettingsDamage, RandomBytesAreSurvived) {
 
 TEST(SettingsDamage, AFileOfWhichTheDiskTellsNothingIsNotReplaced) {
   const testing::TemporaryFolder folder;
-  const std::string stored = WriteSettings(kStored);
+  const std::string stored = WriteSettings(kWholeSettings);
   const std::string path = folder.Write("dayvane.ini", stored);
   EXPECT_TRUE(testing::OnABrokenDisk([&] {
     SettingsFile file(path, [](const std::string&) {});

@@ -6,14 +6,14 @@
 namespace dayvane::registry {
 namespace {
 
-constexpr const char* kOptions = "Software\\Korvath\\Dayvane\\Options";
+constexpr const char* kOptionsKey = "Software\\Korvath\\Dayvane\\Options";
 
 SettingsKeys WithValue(const std::string& name, const std::string& text) {
-  return {{kOptions, {{name, text}}}};
+  return {{kOptionsKey, {{name, text}}}};
 }
 
 TEST(SettingsText, IsReadableAsItStands) {
-  const SettingsKeys keys{{kOptions, {{"Favorites Threshold", "3"}, {"Purge Age", "30"}}},
+  const SettingsKeys keys{{kOptionsKey, {{"Favorites Threshold", "3"}, {"Purge Age", "30"}}},
                           {"Software\\Korvath\\Dayvane\\Window", {{"Visible", "True"}}}};
   EXPECT_EQ(WriteSettings(keys),
             "[Software\\Korvath\\Dayvane\\Options]\n"
@@ -76,7 +76,7 @@ TEST(SettingsText, CommentsEmptyLinesAndOrderStayWhenAValueChanges) {
       "# the end\n";
   SettingsKeys keys = ParseSettings(text).value();
   EXPECT_EQ(WriteSettings(keys, text), text);
-  keys[kOptions]["Timer Interval"] = "60";
+  keys[kOptionsKey]["Timer Interval"] = "60";
   EXPECT_EQ(WriteSettings(keys, text), std::string(text).replace(text.find('5'), 1, "60"));
 }
 

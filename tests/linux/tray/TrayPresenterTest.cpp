@@ -13,8 +13,8 @@
 namespace dayvane::widgets {
 namespace {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
 
 /// A desktop that has a tray when the test says so.
 class TestTray : public TrayWatch {
@@ -39,7 +39,7 @@ class IconChanges : public QObject {
   int changes = 0;
 };
 
-class TrayPresenterTest : public testing::Test {
+class TrayPresenterTest : public ::testing::Test {
  protected:
   TrayPresenterTest() {
     m_control.SetTipText("Dayvane");

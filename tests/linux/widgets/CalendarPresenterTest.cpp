@@ -12,17 +12,17 @@ namespace dayvane::widgets {
 namespace {
 
 using controls::Calendar;
-using testing::Each;
-using testing::ElementsAre;
-using testing::Ge;
-using testing::IsEmpty;
-using testing::Le;
+using ::testing::Each;
+using ::testing::ElementsAre;
+using ::testing::Ge;
+using ::testing::IsEmpty;
+using ::testing::Le;
 
 Calendar::Day Day(int year, unsigned month, unsigned day) {
   return std::chrono::local_days{std::chrono::year{year} / static_cast<int>(month) / static_cast<int>(day)};
 }
 
-class CalendarPresenterTest : public testing::Test {
+class CalendarPresenterTest : public ::testing::Test {
  protected:
   CalendarPresenterTest() {
     m_control.SetCurrentDate(Day(2026, 5, 20));
@@ -37,7 +37,7 @@ class CalendarPresenterTest : public testing::Test {
   }
 
   Calendar m_control;
-  std::vector<Calendar::Day> m_changes;
+  std::vector<Calendar::Day> m_changes{};
 };
 
 TEST_F(CalendarPresenterTest, ShowsTheCurrentDateWithoutChangingIt) {

@@ -9,10 +9,10 @@
 namespace dayvane::widgets {
 namespace {
 
-using testing::ElementsAre;
+using ::testing::ElementsAre;
 
 /// The columns of a list of documents, in a window of its own.
-class ListHeaderTest : public testing::Test {
+class ListHeaderTest : public ::testing::Test {
  protected:
   ListHeaderTest() {
     m_control.SetColumns({{"Name"}, {"Type"}, {"Path"}, {"Modified"}});

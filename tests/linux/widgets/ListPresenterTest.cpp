@@ -14,11 +14,11 @@ namespace {
 
 using controls::ListItem;
 using controls::ListStyle;
-using testing::ElementsAre;
-using testing::Pair;
+using ::testing::ElementsAre;
+using ::testing::Pair;
 
 /// A list of documents in a window of its own.
-class ListPresenterTest : public testing::Test {
+class ListPresenterTest : public ::testing::Test {
  protected:
   ListPresenterTest() {
     m_control.SetColumns({{"Name"}, {"Type"}, {"Path"}, {"Modified"}});

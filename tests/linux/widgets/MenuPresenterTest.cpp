@@ -7,10 +7,10 @@
 namespace dayvane::widgets {
 namespace {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
 
-class MenuPresenterTest : public testing::Test {
+class MenuPresenterTest : public ::testing::Test {
  protected:
   MenuPresenterTest() {
     m_menu.Click.Connect([this](int index) { m_chosen.push_back(index); });

@@ -7,9 +7,9 @@
 namespace dayvane::widgets {
 namespace {
 
-class PanePresenterTest : public testing::Test {
+class PanePresenterTest : public ::testing::Test {
  protected:
-  PanePresenterTest() : m_window(), m_pane(m_control, &m_window), m_widget() {
+  PanePresenterTest() : m_pane(m_control, &m_window) {
     m_pane.resize(200, 100);
     m_pane.Add(m_child, m_widget);
   }

@@ -10,7 +10,7 @@
 namespace dayvane::widgets {
 namespace {
 
-class ToolbarPresenterTest : public testing::Test {
+class ToolbarPresenterTest : public ::testing::Test {
  protected:
   ToolbarPresenterTest() {
     m_buttons[kDailyButton].SetToolTipText("Daily View");

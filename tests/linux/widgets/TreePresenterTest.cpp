@@ -12,11 +12,11 @@ namespace dayvane::widgets {
 namespace {
 
 using controls::TreeNode;
-using testing::ElementsAre;
-using testing::Pair;
+using ::testing::ElementsAre;
+using ::testing::Pair;
 
 /// A tree of years, months and days in a window of its own.
-class TreePresenterTest : public testing::Test {
+class TreePresenterTest : public ::testing::Test {
  protected:
   TreePresenterTest() { m_pane.resize(300, 200); }
 

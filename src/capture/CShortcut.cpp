@@ -40,6 +40,13 @@ void CShortcut::SetFile(const std::string& path) {
   ReadTargetClass();
 }
 
+void CShortcut::SetCopy(const std::string& path) {
+  const auto copy = m_application.desktop.files.Status(path);
+  if (!copy || copy->written != m_lastWritten) return SetFile(path);
+  m_file = path;
+  m_fileName = m_application.shellServices.SplitPath(path).fileName;
+}
+
 void CShortcut::SetMissingFile(const std::string& path, const std::string& target) {
   m_file = path;
   m_fileName = m_application.shellServices.SplitPath(path).fileName;
@@ -90,14 +97,17 @@ void CShortcut::ReadTargetClass() {
   m_iconIndex = m_class->icon->index;
 }
 
-void CShortcut::CreateExecutableShortcut() const {
+void CShortcut::CreateExecutableShortcut() {
   if (m_class == nullptr || m_class->executable.empty()) return;
-  if (!ProgramExists(m_application.desktop.files, m_class->executable)) return;
-  // Creating replaces what is there, so nothing needs deleting first.
   const ShellServices& shell = m_application.shellServices;
   const std::string folder = shell.SplitPath(m_file).folder;
+  const std::string placed = folder + "|" + m_class->executable;
+  if (m_programShortcuts.contains(placed)) return;
+  if (!ProgramExists(m_application.desktop.files, m_class->executable)) return;
+  // Creating replaces what is there, so nothing needs deleting first.
   shell.CreateShortcut(programshortcut::PathFor(m_application, folder, m_class->executableFileName),
                        m_class->executable, m_class->executable);
+  m_programShortcuts.insert(placed);
 }
 
 std::int32_t CShortcut::OpenDocument() const {

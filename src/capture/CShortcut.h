@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <string>
+#include <unordered_set>
 
 #include "app/Application.h"
 #include "app/Asserting.h"
@@ -23,6 +24,10 @@ class CShortcut : private Asserting {
   /// Reads the shortcut at a full path. Fails with the disk's error when it cannot be opened; a file that is no
   /// shortcut has empty fields.
   void SetFile(const std::string& path);
+
+  /// Describes the copy of its file that was made at that full path: the same in all but its place. The copy is read
+  /// where the file was rewritten before it was copied. Fails as SetFile does.
+  void SetCopy(const std::string& path);
 
   /// Describes a document whose shortcut at that path is gone; what the shortcut alone knew is empty.
   void SetMissingFile(const std::string& path, const std::string& target);
@@ -52,8 +57,8 @@ class CShortcut : private Asserting {
   const std::string& TargetClass() const { return m_targetClass; }
 
   /// Places beside the shortcut one to the program that opens the target's class, when that program exists. It never
-  /// takes a document's place, see programshortcut::PathFor.
-  void CreateExecutableShortcut() const;
+  /// takes a document's place, see programshortcut::PathFor. One object places each program's in a folder once.
+  void CreateExecutableShortcut();
 
   /// Opens the target. Returns the shell's result: above 32 opened (platform::Shell::Open names the others).
   std::int32_t OpenDocument() const;
@@ -82,7 +87,8 @@ class CShortcut : private Asserting {
   std::int32_t m_showCommand = 1;
   std::string m_targetClass;
   DocumentClassReader m_classes;
-  const DocumentClass* m_class = nullptr;  ///< of the target; one of m_classes
+  const DocumentClass* m_class = nullptr;              ///< of the target; one of m_classes
+  std::unordered_set<std::string> m_programShortcuts;  ///< placed already: folder and program
 };
 
 }  // namespace dayvane

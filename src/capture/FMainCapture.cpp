@@ -88,7 +88,7 @@ void FMain::ProcessShortcut(CShortcut* shortcut) {
 
 void FMain::File(CShortcut& shortcut, const std::string& destination) {
   m_application.desktop.files.Copy(shortcut.File(), destination);
-  shortcut.SetFile(destination);
+  shortcut.SetCopy(destination);
   shortcut.CreateExecutableShortcut();
 }
 

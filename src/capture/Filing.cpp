@@ -16,11 +16,10 @@ Decision Decide(platform::FileSystem& files, const CShortcut& shortcut, const st
 }
 
 bool IsFiledNearby(platform::FileSystem& files, const CRepository& repository, const CShortcut& shortcut) {
-  constexpr int kMostDays = 2;  // time zones lie up to 26 hours apart
-  for (int days = -kMostDays; days <= kMostDays; ++days) {
+  for (const int days : {-2, -1, 1, 2}) {  // time zones lie up to 26 hours apart
     const auto copy =
         files.Status(repository.DayFolder(shortcut.Modified().AddDays(days)) + "\\" + shortcut.FileName());
-    if (days != 0 && copy && copy->written == shortcut.LastWritten()) return true;
+    if (copy && copy->written == shortcut.LastWritten()) return true;
   }
   return false;
 }
@@ -30,6 +29,7 @@ std::string DayFolder(const std::string& dailyPath, const CShortcut& shortcut) {
 }
 
 void CreateDayFolder(platform::FileSystem& files, const std::string& dailyPath, const CShortcut& shortcut) {
+  if (FolderExists(files, DayFolder(dailyPath, shortcut))) return;
   std::string folder = dailyPath;
   for (const std::string* part : {&shortcut.Year(), &shortcut.Month(), &shortcut.Day()}) {
     folder += "\\" + *part;

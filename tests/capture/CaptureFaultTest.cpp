@@ -28,10 +28,16 @@ class CaptureFaultTest : public ::testing::Test {
     };
   }
 
-  /// From now on the copy in the folder of the last day cannot be read.
-  void SpoilFiledShortcut() { m_computer.desktop.files.beforeRead = FailingAt("\\21\\a.odt.lnk"); }
+  /// From now on the copy in the folder of the last day cannot be looked at once it is there, nor be read.
+  void SpoilFiledShortcut() {
+    m_computer.desktop.files.beforeRead = FailingAt("\\21\\a.odt.lnk");
+    m_computer.desktop.files.beforeStatus = [fail = FailingAt("\\21\\a.odt.lnk"), this](const std::string& path) {
+      if (std::filesystem::exists(m_computer.NativeFile("Daily/2026/November/21/a.odt.lnk"))) fail(path);
+    };
+  }
   void MendFiledShortcut() {
     m_computer.desktop.files.beforeRead = [](const std::string&) {};
+    m_computer.desktop.files.beforeStatus = [](const std::string&) {};
   }
 
   void Tick() { m_computer.Window().tmrMain.Fire(); }
@@ -191,6 +197,7 @@ TEST_F(CaptureFaultTest, AJournalThatCanNeverBeReadKeepsNothingFromBeingFiledAnd
   SpoilFiledShortcut();
   Tick();
   m_computer.Kill();
+  MendFiledShortcut();
   m_computer.desktop.files.beforeRead = FailingAt("\\Favorites.pending");
   m_computer.Start();
   Open("2026-11-22 09:00:00");

@@ -2,6 +2,7 @@
 #include <filesystem>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <utility>
 
 #include "tests/support/MainWindow.h"
 
@@ -13,13 +14,12 @@ using testing::ColumnOf;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using testing::ReadFile;
+using ::testing::UnorderedElementsAre;
 
 /// What the main window files and counts, with every document a favorite from its first day on.
 class FilingTest : public ::testing::Test, protected testing::MainWindow {
  protected:
-  FilingTest() {
-    desktop.registry.keys["\\HKEY_CURRENT_USER\\Software\\Korvath\\Dayvane\\Options"]["Favorites Threshold"] = "1";
-  }
+  FilingTest() { desktop.registry.Settings("Options")["Favorites Threshold"] = "1"; }
 
   void Open(const std::string& time, const std::string& name = "Report.odt") {
     desktop.OpenDocument("Z:\\home\\ana\\" + name, time);
@@ -99,6 +99,44 @@ TEST_F(FilingTest, ADocumentOpenedAgainOnItsDayBringsItsProgramsShortcutBack) {
   Open("2026-11-21 11:30:00");
   Tick();
   EXPECT_TRUE(fs::exists(Daily("2026/November/21/Writer.lnk")));
+}
+
+TEST_F(FilingTest, AProgramsShortcutIsWrittenOnceForAllDocumentsOfAPollAndDay) {
+  desktop.folder.Write("bin/writer", "");
+  desktop.registry.AddClass(".ODT", "Text", "", "\"" + desktop.folder.Path() + "\\bin\\writer\" \"%1\"");
+  Load();
+  Open("2026-11-21 09:15:00", "a.odt");
+  Open("2026-11-21 09:16:00", "b.odt");
+  Open("2026-11-20 09:17:00", "c.odt");
+  std::vector<std::string> written;
+  desktop.files.beforeChange = [&](const std::string& path) {
+    if (path.ends_with("\\Writer.lnk")) written.push_back(path);
+  };
+  Tick();
+  const std::string november = desktop.Folder() + "\\Daily\\2026\\November\\";
+  EXPECT_THAT(written, UnorderedElementsAre(november + "20\\Writer.lnk", november + "21\\Writer.lnk"));
+}
+
+TEST_F(FilingTest, AFiledShortcutIsNotReadASecondTime) {
+  Load();
+  Open("2026-11-21 09:15:00");
+  int reads = 0;
+  desktop.files.beforeRead = [&](const std::string& path) { reads += path.ends_with("Report.odt.lnk") ? 1 : 0; };
+  Tick();
+  EXPECT_EQ(reads, 1);
+}
+
+TEST_F(FilingTest, AShortcutThatIsRewrittenWhileItIsFiledCountsAsItWasFiled) {
+  Load();
+  Open("2026-11-21 09:15:00");
+  bool isRewritten = false;
+  desktop.files.beforeChange = [&](const std::string& path) {
+    if (!path.ends_with("Report.odt.lnk") || std::exchange(isRewritten, true)) return;
+    Open("2026-11-21 11:30:00");
+  };
+  Tick();
+  EXPECT_THAT(ReadFile(FavoritesFile()), HasSubstr("11:30:00"));
+  EXPECT_THAT(Counts(), ElementsAre("    1"));
 }
 
 TEST_F(FilingTest, AFavoriteIsKnownByItsFiledShortcutNotByTheRecentFolders) {

@@ -7,7 +7,7 @@
 
 namespace dayvane::links {
 
-ShellLinkReader::ShellLinkReader(platform::FileSystem& files, std::function<void(const std::string&)> reportEvent)
+ShellLinkReader::ShellLinkReader(platform::FileSystem& files, ReportEvent reportEvent)
     : m_files(files), m_reportEvent(std::move(reportEvent)) {}
 
 platform::ReadLink ShellLinkReader::Read(const std::string& path) {

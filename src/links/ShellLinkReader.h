@@ -2,10 +2,10 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
 #include <string>
 #include <unordered_map>
 
+#include "base/ReportEvent.h"
 #include "platform/FileSystem.h"
 #include "platform/Shell.h"
 
@@ -22,8 +22,7 @@ class ShellLinkReader {
   /// are passed over in silence: forgetting older ones instead would report all of them again at every poll.
   static constexpr std::size_t kMostReported = 1024;
 
-  /// `reportEvent` takes a text for the event log.
-  ShellLinkReader(platform::FileSystem& files, std::function<void(const std::string&)> reportEvent);
+  ShellLinkReader(platform::FileSystem& files, ReportEvent reportEvent);
 
   /// The link in a file, with the moment that the file was written. A file that is no shell link has empty fields; it
   /// is reported once, and again when it is written anew. A file that cannot be opened is the file system's Error.
@@ -33,7 +32,7 @@ class ShellLinkReader {
   void ReportOnce(const std::string& path, const platform::FileMoment& written);
 
   platform::FileSystem& m_files;
-  std::function<void(const std::string&)> m_reportEvent;
+  ReportEvent m_reportEvent;
   std::unordered_map<std::string, std::int64_t> m_reported;  ///< path, moment it was written (nanoseconds)
 };
 

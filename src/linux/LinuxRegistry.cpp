@@ -125,8 +125,8 @@ std::optional<std::string_view> PathBelow(std::string_view root, std::string_vie
 
 }  // namespace
 
-LinuxRegistry::LinuxRegistry(std::string settingsFile, SettingsFile::Reporter report, DocumentClasses::Clock clock)
-    : m_settings(std::move(settingsFile), std::move(report)), m_classes(std::move(clock)) {}
+LinuxRegistry::LinuxRegistry(std::string settingsFile, ReportEvent reportEvent, DocumentClasses::Clock clock)
+    : m_settings(std::move(settingsFile), std::move(reportEvent)), m_classes(std::move(clock)) {}
 
 std::unique_ptr<RegistryKey> LinuxRegistry::KeyFromRoot(std::uint32_t root) {
   if (root != platform::kHkeyCurrentUser) FailMissing("The registry root", std::to_string(root));

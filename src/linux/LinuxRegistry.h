@@ -15,8 +15,7 @@ namespace dayvane {
 /// Names of settings are the same whatever their letter case; the spelling of the first one to be written stays.
 class LinuxRegistry : public platform::Registry {
  public:
-  /// `report` is told what the event log should say about a damaged settings file.
-  LinuxRegistry(std::string settingsFile, registry::SettingsFile::Reporter report,
+  LinuxRegistry(std::string settingsFile, ReportEvent reportEvent,
                 registry::DocumentClasses::Clock clock = registry::DocumentClasses::CoarseTime);
 
   std::unique_ptr<platform::RegistryKey> KeyFromRoot(std::uint32_t root) override;

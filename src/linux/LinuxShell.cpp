@@ -19,8 +19,7 @@ std::int64_t NanosecondsNow() {
 
 }  // namespace
 
-LinuxShell::LinuxShell(platform::FileSystem& files, const std::string& dataFolder,
-                       const std::function<void(const std::string&)>& reportEvent)
+LinuxShell::LinuxShell(platform::FileSystem& files, const std::string& dataFolder, const ReportEvent& reportEvent)
     : m_files(files),
       m_recentPath(dataFolder + "/Recent"),
       m_links(files, reportEvent),

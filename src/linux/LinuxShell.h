@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <functional>
 #include <string>
 
+#include "base/ReportEvent.h"
 #include "controls/Deferred.h"
 #include "links/ShellLinkReader.h"
 #include "linux/launch/Launcher.h"
@@ -17,9 +17,8 @@ namespace dayvane {
 /// kept in step with the desktop's list of recent documents.
 class LinuxShell : public platform::Shell {
  public:
-  /// `dataFolder` is native; the Recent folder lies in it. `reportEvent` takes texts for the event log.
-  LinuxShell(platform::FileSystem& files, const std::string& dataFolder,
-             const std::function<void(const std::string&)>& reportEvent);
+  /// `dataFolder` is native; the Recent folder lies in it.
+  LinuxShell(platform::FileSystem& files, const std::string& dataFolder, const ReportEvent& reportEvent);
 
   std::string SpecialFolderPath(int number) override;
   void RefreshRecentFolder() override { m_recentFolder.Refresh(); }

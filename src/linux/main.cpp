@@ -93,12 +93,12 @@ int Run() {
   if (!programFolder) return Refuse("The folder for its data has a name that cannot be used: " + folders.data);
 
   EventSink events;
-  const auto report = [&events](const std::string& text) { events.Report(text); };
+  const ReportEvent reportEvent = [&events](const std::string& text) { events.Report(text); };
   const std::optional<SingleInstance> instance = SingleInstance::Acquire(SingleInstance::Folder(environment));
   files::LinuxFileSystem files;
-  LinuxShell shell(files, folders.data, report);
+  LinuxShell shell(files, folders.data, reportEvent);
   LinuxShellIcons shellIcons(shell);
-  LinuxRegistry registry(DefaultSettingsFile(), report);
+  LinuxRegistry registry(DefaultSettingsFile(), reportEvent);
   const widgets::Appearance appearance;
   widgets::LinuxWindowing windowing;
   help::LinuxHelp help(folders.resources);

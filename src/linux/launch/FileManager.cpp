@@ -60,7 +60,7 @@ struct PendingFolder {
   std::string folder;
   std::string uri;
   glib::Object<GCancellable> pending;
-  Reporter report;
+  ReportEvent reportEvent;
 };
 
 void ShowFoldersAnswered(GObject* bus, GAsyncResult* result, gpointer data) {
@@ -70,8 +70,9 @@ void ShowFoldersAnswered(GObject* bus, GAsyncResult* result, gpointer data) {
   if (answer || failure.Is(G_IO_ERROR, G_IO_ERROR_CANCELLED)) return;
   CatchErrors(kOpeningFolder, [&] {
     const auto application = ApplicationForFolders();
-    if (application && StartApplication(application.get(), asked->uri, {}, asked->pending.get(), asked->report)) return;
-    asked->report("The folder could not be shown: " + asked->folder + ": " + failure.Message());
+    if (application && StartApplication(application.get(), asked->uri, {}, asked->pending.get(), asked->reportEvent))
+      return;
+    asked->reportEvent("The folder could not be shown: " + asked->folder + ": " + failure.Message());
   });
 }
 
@@ -83,11 +84,11 @@ bool FileManager::Show(const std::string& nativeFolder) const {
   const auto bus = SessionBus();
   if (!bus || !IsOnBus(bus.get())) {
     const auto application = ApplicationForFolders();
-    return application && StartApplication(application.get(), uri.get(), {}, m_pending, m_report);
+    return application && StartApplication(application.get(), uri.get(), {}, m_pending, m_reportEvent);
   }
   const char* const folders[] = {uri.get(), nullptr};
   auto asked = std::make_unique<PendingFolder>(PendingFolder{
-      nativeFolder, uri.get(), glib::Object<GCancellable>(G_CANCELLABLE(g_object_ref(m_pending))), m_report});
+      nativeFolder, uri.get(), glib::Object<GCancellable>(G_CANCELLABLE(g_object_ref(m_pending))), m_reportEvent});
   g_dbus_connection_call(bus.get(), kFileManager, kFileManagerPath, kFileManager, "ShowFolders",
                          g_variant_new("(^ass)", folders, ""), nullptr, G_DBUS_CALL_FLAGS_NONE, kFileManagerPatience,
                          m_pending, ShowFoldersAnswered, asked.release());

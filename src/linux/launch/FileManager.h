@@ -11,8 +11,9 @@ namespace dayvane::launch {
 /// The desktop's file manager.
 class FileManager {
  public:
-  /// `pending` stands for the life of what the reporter belongs to: cancelled, nothing is reported any more.
-  FileManager(GCancellable* pending, Reporter report) : m_pending(pending), m_report(std::move(report)) {}
+  /// `pending` stands for the life of what `reportEvent` belongs to: cancelled, nothing is reported any more.
+  FileManager(GCancellable* pending, ReportEvent reportEvent)
+      : m_pending(pending), m_reportEvent(std::move(reportEvent)) {}
 
   /// Shows a folder in a window without waiting for it. The folder is asked of the file manager that answers to
   /// "org.freedesktop.FileManager1" on the message bus, else of an application for folders. Returns false when there
@@ -21,7 +22,7 @@ class FileManager {
 
  private:
   GCancellable* m_pending;
-  Reporter m_report;
+  ReportEvent m_reportEvent;
 };
 
 }  // namespace dayvane::launch

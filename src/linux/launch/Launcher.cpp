@@ -79,8 +79,10 @@ std::string PathOf(const std::string& commandLine) {
 
 }  // namespace
 
-Launcher::Launcher(Reporter report)
-    : m_report(std::move(report)), m_pending(g_cancellable_new()), m_fileManager(m_pending.get(), m_report) {}
+Launcher::Launcher(ReportEvent reportEvent)
+    : m_reportEvent(std::move(reportEvent)),
+      m_pending(g_cancellable_new()),
+      m_fileManager(m_pending.get(), m_reportEvent) {}
 
 Launcher::~Launcher() {
   g_cancellable_cancel(m_pending.get());
@@ -115,7 +117,7 @@ int Launcher::OpenAddress(const std::string& address, const std::string& scheme,
 }
 
 int Launcher::Start(GAppInfo* application, const std::string& uri, const std::string& workingFolder) {
-  const bool started = StartApplication(application, uri, workingFolder, m_pending.get(), m_report);
+  const bool started = StartApplication(application, uri, workingFolder, m_pending.get(), m_reportEvent);
   return started ? kSeOpened : kSeAssociationIncomplete;
 }
 

@@ -16,8 +16,8 @@ using enum platform::OpenResult;
 /// for an application. Needs the GLib main loop for what happens later.
 class Launcher {
  public:
-  /// `report` takes failures that come to light after a call has returned.
-  explicit Launcher(Reporter report);
+  /// `reportEvent` takes failures that come to light after a call has returned.
+  explicit Launcher(ReportEvent reportEvent);
   Launcher(const Launcher&) = delete;
   Launcher& operator=(const Launcher&) = delete;
   ~Launcher();
@@ -42,7 +42,7 @@ class Launcher {
   int OpenAddress(const std::string& address, const std::string& scheme, const std::string& workingFolder);
   int Start(GAppInfo* application, const std::string& uri, const std::string& workingFolder);
 
-  Reporter m_report;
+  ReportEvent m_reportEvent;
   glib::Object<GCancellable> m_pending;
   FileManager m_fileManager;
 };

@@ -19,7 +19,7 @@ void EnterFolder(gpointer folder) {
 struct PendingStart {
   std::string name;
   glib::Object<GCancellable> pending;
-  Reporter report;
+  ReportEvent reportEvent;
 };
 
 void StartAnswered(GObject* application, GAsyncResult* result, gpointer data) {
@@ -28,7 +28,7 @@ void StartAnswered(GObject* application, GAsyncResult* result, gpointer data) {
   if (g_app_info_launch_uris_finish(G_APP_INFO(application), result, failure.Slot())) return;
   CatchErrors(kOpeningDocument, [&] {
     if (!g_cancellable_is_cancelled(start->pending.get()))
-      start->report("\"" + start->name + "\" could not be started: " + failure.Message());
+      start->reportEvent("\"" + start->name + "\" could not be started: " + failure.Message());
   });
 }
 
@@ -48,7 +48,7 @@ glib::Object<GDBusConnection> SessionBus() {
 }
 
 bool StartApplication(GAppInfo* application, const std::string& uri, const std::string& workingFolder,
-                      GCancellable* pending, const Reporter& report) {
+                      GCancellable* pending, const ReportEvent& reportEvent) {
   // GIO connects to the bus when it starts an application, and shares the connection.
   const auto bus = SessionBus();
   std::string address = uri;
@@ -56,7 +56,8 @@ bool StartApplication(GAppInfo* application, const std::string& uri, const std::
   auto* desktop = G_DESKTOP_APP_INFO(application);
   if (bus && g_desktop_app_info_get_boolean(desktop, "DBusActivatable")) {
     glib::Object<GCancellable> own(G_CANCELLABLE(g_object_ref(pending)));
-    auto start = std::make_unique<PendingStart>(PendingStart{g_app_info_get_name(application), std::move(own), report});
+    auto start =
+        std::make_unique<PendingStart>(PendingStart{g_app_info_get_name(application), std::move(own), reportEvent});
     g_app_info_launch_uris_async(application, uris.get(), nullptr, nullptr, StartAnswered, start.release());
     return true;
   }

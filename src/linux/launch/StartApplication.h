@@ -1,16 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <functional>
 #include <gio/gio.h>
 #include <string>
 
+#include "base/ReportEvent.h"
 #include "linux/glib/GlibHandles.h"
 
 namespace dayvane::launch {
-
-/// Told of a failure that comes to light after the call that caused it has returned.
-using Reporter = std::function<void(const std::string& event)>;
 
 /// The user's message bus, or nothing. Losing it does not end the program, as GIO would otherwise have it.
 glib::Object<GDBusConnection> SessionBus();
@@ -21,6 +18,6 @@ glib::Object<GDBusConnection> SessionBus();
 /// An application that is started over the message bus answers later: its failure is reported, unless `pending` has
 /// been cancelled by then. Returns whether the start succeeded as far as that is known.
 bool StartApplication(GAppInfo* application, const std::string& uri, const std::string& workingFolder,
-                      GCancellable* pending, const Reporter& report);
+                      GCancellable* pending, const ReportEvent& reportEvent);
 
 }  // namespace dayvane::launch

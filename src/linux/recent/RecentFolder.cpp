@@ -47,12 +47,12 @@ Listing::Entries EntriesOf(const RecentList& list) {
 
 }  // namespace
 
-RecentFolder::RecentFolder(Clock now, const Paths& paths, LinkWriter writeLink, EventLog reportEvent)
+RecentFolder::RecentFolder(Clock now, const Paths& paths, LinkWriter writeLink, ReportEvent reportEvent)
     : RecentFolder(std::move(now), paths.list, std::make_unique<RecentDisk>(paths.folder, paths.state),
                    std::move(writeLink), std::move(reportEvent), RecentShortcuts::Limits()) {}
 
 RecentFolder::RecentFolder(Clock now, const std::string& list, std::unique_ptr<RecentDisk> disk, LinkWriter writeLink,
-                           EventLog reportEvent, RecentShortcuts::Limits limits)
+                           ReportEvent reportEvent, RecentShortcuts::Limits limits)
     : m_now(std::move(now)),
       m_reportEvent(std::move(reportEvent)),
       m_list(list),

@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 
+#include "base/ReportEvent.h"
 #include "linux/recent/RecentListFile.h"
 #include "linux/recent/RecentShortcuts.h"
 
@@ -27,7 +28,6 @@ class RecentFolder {
  public:
   /// The present moment in nanoseconds since 1970, UTC.
   using Clock = std::function<std::int64_t()>;
-  using EventLog = std::function<void(const std::string&)>;
 
   /// Native paths. A missing Recent folder or state file is created, with the folders above it.
   struct Paths {
@@ -36,9 +36,9 @@ class RecentFolder {
     std::string state;   ///< see RecentState
   };
 
-  RecentFolder(Clock now, const Paths& paths, LinkWriter writeLink, EventLog reportEvent);
+  RecentFolder(Clock now, const Paths& paths, LinkWriter writeLink, ReportEvent reportEvent);
   RecentFolder(Clock now, const std::string& list, std::unique_ptr<RecentDisk> disk, LinkWriter writeLink,
-               EventLog reportEvent, RecentShortcuts::Limits limits);
+               ReportEvent reportEvent, RecentShortcuts::Limits limits);
 
   /// Brings the folder up to date; to be called before the folder is listed. While the list is unchanged and nothing
   /// waits, this costs one look at the list's status. Never fails: a problem is reported once, and the next call tries
@@ -61,7 +61,7 @@ class RecentFolder {
   void ReportFailure(const Failure& failure);
 
   Clock m_now;
-  EventLog m_reportEvent;
+  ReportEvent m_reportEvent;
   RecentListFile m_list;
   std::string m_dataHome;
   std::unique_ptr<RecentDisk> m_disk;

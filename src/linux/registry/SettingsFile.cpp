@@ -40,8 +40,8 @@ void Merge(SettingsKeys& keys, const SettingsKeys& newer) {
 
 }  // namespace
 
-SettingsFile::SettingsFile(std::string nativePath, Reporter report)
-    : m_nativePath(std::move(nativePath)), m_report(std::move(report)) {}
+SettingsFile::SettingsFile(std::string nativePath, ReportEvent reportEvent)
+    : m_nativePath(std::move(nativePath)), m_reportEvent(std::move(reportEvent)) {}
 
 bool SettingsFile::HasKey(std::string_view path) {
   Refresh();
@@ -120,7 +120,7 @@ void SettingsFile::Replace(const SettingsKeys& changes) {
 void SettingsFile::KeepForThisRun(const SettingsKeys& added, const std::string& reason) {
   Merge(m_thisRuns, added);
   if (std::exchange(m_reportedUnstored, true)) return;
-  m_report("The settings cannot be stored; those that are missing have their defaults: " + reason);
+  m_reportEvent("The settings cannot be stored; those that are missing have their defaults: " + reason);
 }
 
 /// The file's path in the program's form. A symbolic link, which people use to keep their settings elsewhere, is
@@ -145,7 +145,7 @@ void SettingsFile::Refresh() {
   m_damaged = !isKnown;
   if (!found) return;
   Read(path);
-  if (m_damaged) m_report("The settings file is damaged and counts as empty: " + m_nativePath);
+  if (m_damaged) m_reportEvent("The settings file is damaged and counts as empty: " + m_nativePath);
 }
 
 void SettingsFile::Read(const std::string& path) {

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <functional>
 #include <optional>
 #include <set>
 #include <string>
 #include <string_view>
 
+#include "base/ReportEvent.h"
 #include "linux/registry/SettingsText.h"
 #include "platform/FileSystem.h"
 
@@ -19,11 +19,9 @@ namespace dayvane::registry {
 /// edits or removes by hand while the program runs is seen, and kept when another one is written.
 class SettingsFile {
  public:
-  using Reporter = std::function<void(const std::string& event)>;
-
   /// The file and its folders need not exist: the first value written makes them. A file that cannot be read whole is
   /// reported, counts as empty, and is kept under another name (".damaged" added) before it is first replaced.
-  SettingsFile(std::string nativePath, Reporter report);
+  SettingsFile(std::string nativePath, ReportEvent reportEvent);
 
   /// A key exists when it or one below it has a value, or when it was added in this run: a key reaches the disk with
   /// its first value, so that a kill in between leaves no half-made key behind.
@@ -63,7 +61,7 @@ class SettingsFile {
   void KeepForThisRun(const SettingsKeys& added, const std::string& reason);
 
   std::string m_nativePath;
-  Reporter m_report;
+  ReportEvent m_reportEvent;
   std::string m_text;  ///< of the file, empty when it is damaged
   SettingsKeys m_keys;
   SettingsKeys m_changes;        ///< held, not yet on the disk

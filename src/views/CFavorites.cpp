@@ -2,10 +2,8 @@
 #include "views/CFavorites.h"
 
 #include <algorithm>
-#include <cmath>
 
 #include "app/ReportErrors.h"
-#include "base/Error.h"
 #include "base/Text.h"
 #include "fs/DirectoryWalker.h"
 
@@ -23,15 +21,6 @@ std::string UpperCase(const std::string& path) {
 
 std::string Identity(const Record& record) {
   return UpperCase(TextOf(record[kFolder]) + "\\" + TextOf(record[kTargetFileName]));
-}
-
-Value OneMore(const Value& count) {
-  if (const auto* whole = std::get_if<std::int64_t>(&count); whole != nullptr && *whole < INT64_MAX) return *whole + 1;
-  // A count that was written as a text or with a fraction goes on as a number.
-  const double more = NumberOf(count) + 1;
-  constexpr double kExact = 9007199254740992.0;  // 2 to the 53rd: whole numbers up to here are exact
-  if (more == std::floor(more) && std::fabs(more) < kExact) return static_cast<std::int64_t>(more);
-  return more;
 }
 
 /// A text of the desktop's that the data file can hold: nothing in it ends a text or separates two.

@@ -121,13 +121,13 @@ TEST(FavoritesFile, ReadingPastTheEndFails) {
   EXPECT_THROW(reader.Next(), Error);
 }
 
-TEST(FavoritesTable, TextsThatAreNumbersCountAsNumbers) {
+TEST(FavoritesValue, TextsThatAreNumbersCountAsNumbers) {
   EXPECT_EQ(NumberOf(std::string(" 12 ")), 12);
   EXPECT_EQ(NumberOf(Value{}), 0);
   EXPECT_THROW(NumberOf(std::string("many")), Error);
 }
 
-TEST(FavoritesTable, ADateIsLaterThanNothingAndThanAnEarlierDateButNotThanAText) {
+TEST(FavoritesValue, ADateIsLaterThanNothingAndThanAnEarlierDateButNotThanAText) {
   const Date date = Date::Of(2026, 11, 21);
   EXPECT_TRUE(IsLater(date, Value{}));
   EXPECT_TRUE(IsLater(date, Date::Of(2026, 11, 20)));

@@ -25,8 +25,8 @@ QString TopicName(const QUrl& url) {
 
 }  // namespace
 
-HelpBrowser::HelpBrowser(QWidget* parent) : QTextBrowser(parent) {
-  setAccessibleName(tr("Help page"));
+HelpBrowser::HelpBrowser() {
+  setAccessibleName(QStringLiteral("Help page"));
   setFrameShape(QFrame::NoFrame);
   document()->setDocumentMargin(kPageMargin);
   // source() still gives the page before while this signal is raised.
@@ -47,18 +47,10 @@ void HelpBrowser::ShowTopic(const QString& name) {
   setSource(QUrl(kPagePrefix + name), QTextDocument::HtmlResource);
 }
 
-void HelpBrowser::ShowUnknownContext(int contextId) {
-  ShowTopic(QStringLiteral("?context=%1").arg(contextId));
-}
-
 void HelpBrowser::Zoom(int steps) {
   const int zoom = std::clamp(m_zoom + steps, kSmallestZoom, kLargestZoom);
   zoomIn(zoom - m_zoom);
   m_zoom = zoom;
-}
-
-void HelpBrowser::ResetZoom() {
-  Zoom(-m_zoom);
 }
 
 QVariant HelpBrowser::loadResource(int type, const QUrl& url) {
@@ -68,13 +60,13 @@ QVariant HelpBrowser::loadResource(int type, const QUrl& url) {
 }
 
 QString HelpBrowser::Page(const QUrl& url) const {
-  if (!m_file) return NoticePage(tr("Help cannot be shown"), m_problem, {}, {}, palette());
+  if (!m_file) return NoticePage(QStringLiteral("Help cannot be shown"), m_problem, {}, {}, palette());
   if (const Topic* topic = m_file->Find(TopicName(url).toStdString())) return TopicPage(*topic, palette());
   const QString home = QString::fromStdString(m_file->Contents().front().topic);
-  return NoticePage(tr("No help on this yet"),
-                    tr("There is no page on what you asked for. The table of contents may lead "
-                       "you to what you are looking for."),
-                    home, tr("Go to the first page"), palette());
+  return NoticePage(QStringLiteral("No help on this yet"),
+                    QStringLiteral("There is no page on what you asked for. The table of contents may lead "
+                                   "you to what you are looking for."),
+                    home, QStringLiteral("Go to the first page"), palette());
 }
 
 /// A link to anything but a page is not followed: help shows what came with the program, and nothing else.

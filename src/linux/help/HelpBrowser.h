@@ -8,12 +8,12 @@
 namespace dayvane::help {
 
 /// Shows the pages of a help file, with a history to go back and forward in. It loads nothing from anywhere else: an
-/// address that is no topic gives a page that says so.
+/// address that names no topic gives a page that says so.
 class HelpBrowser : public QTextBrowser {
   Q_OBJECT
 
  public:
-  explicit HelpBrowser(QWidget* parent = nullptr);
+  HelpBrowser();
 
   /// Shows pages of this file from now on. It must outlive the browser or the next call.
   void SetHelpFile(const HelpFile& file);
@@ -22,14 +22,14 @@ class HelpBrowser : public QTextBrowser {
   void SetProblem(const QString& problem);
 
   void ShowTopic(const QString& name);
-  void ShowUnknownContext(int contextId);
+  void ShowUnknownContext(int contextId) { ShowTopic(QStringLiteral("?context=%1").arg(contextId)); }
 
   /// Steps of text size, 0 being the desktop's own; within the range that can still be read.
   void Zoom(int steps);
-  void ResetZoom();
+  void ResetZoom() { Zoom(-m_zoom); }
 
  Q_SIGNALS:
-  /// Another page is shown. Its topic's name; of no meaning for a page of the browser's own.
+  /// Another page is shown. The name is its topic's, and means nothing for a page that the browser made itself.
   void TopicShown(const QString& name);
 
  protected:

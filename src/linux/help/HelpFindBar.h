@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
 #include <QTextDocument>
-#include <QWidget>
+#include <QToolButton>
 
-class QLabel;
-class QLineEdit;
 class QTextBrowser;
 
 namespace dayvane::help {
@@ -16,22 +17,28 @@ class HelpFindBar : public QWidget {
 
  public:
   /// The page must outlive the bar.
-  explicit HelpFindBar(QTextBrowser& page, QWidget* parent = nullptr);
+  explicit HelpFindBar(QTextBrowser& page);
 
   /// Shows the bar, ready to type.
   void Open();
 
-  void FindNext();
-  void FindPrevious();
+  void FindNext() { Find({}); }
+  void FindPrevious() { Find(QTextDocument::FindBackward); }
 
  private:
+  void LayOut();
   void FindWhileTyping();
   void Find(QTextDocument::FindFlags flags);
   bool FindOrWrap(QTextDocument::FindFlags flags);
 
   QTextBrowser& m_page;
-  QLineEdit* m_words;
-  QLabel* m_notFound;
+  QHBoxLayout m_layout{this};
+  QLabel m_caption{QStringLiteral("Find in &page:")};
+  QLineEdit m_words;
+  QToolButton m_next;
+  QToolButton m_previous;
+  QLabel m_notFound{QStringLiteral("Not found")};
+  QToolButton m_close;
 };
 
 }  // namespace dayvane::help

@@ -2,15 +2,13 @@
 #pragma once
 
 #include <QHash>
-#include <QWidget>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QStackedWidget>
+#include <QTreeWidget>
+#include <QVBoxLayout>
 
 #include "help/HelpFile.h"
-
-class QLineEdit;
-class QListWidget;
-class QStackedWidget;
-class QTreeWidget;
-class QTreeWidgetItem;
 
 namespace dayvane::help {
 
@@ -20,7 +18,7 @@ class HelpNavigation : public QWidget {
   Q_OBJECT
 
  public:
-  explicit HelpNavigation(QWidget* parent = nullptr);
+  HelpNavigation();
 
   /// Shows the contents of a file, which must outlive the next call or this object.
   void SetHelpFile(const HelpFile& file);
@@ -41,10 +39,11 @@ class HelpNavigation : public QWidget {
 
   const HelpFile* m_file = nullptr;
   QHash<QString, QTreeWidgetItem*> m_items;
-  QLineEdit* m_search;
-  QStackedWidget* m_pages;
-  QTreeWidget* m_tree;
-  QListWidget* m_found;
+  QVBoxLayout m_layout{this};
+  QLineEdit m_search;
+  QStackedWidget m_pages;  // before what is shown in it, which it would delete
+  QTreeWidget m_tree;
+  QListWidget m_found;
 };
 
 }  // namespace dayvane::help

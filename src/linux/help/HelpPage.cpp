@@ -4,7 +4,6 @@
 #include <QFileInfo>
 #include <QPainter>
 #include <QSvgRenderer>
-#include <algorithm>
 #include <cmath>
 
 #include "linux/forms/Appearance.h"

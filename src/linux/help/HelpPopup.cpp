@@ -2,10 +2,8 @@
 #include "linux/help/HelpPopup.h"
 
 #include <QGuiApplication>
-#include <QLabel>
 #include <QScreen>
 #include <QToolTip>
-#include <QVBoxLayout>
 #include <algorithm>
 
 #include "linux/help/HelpPage.h"
@@ -26,7 +24,6 @@ QRect RoomAt(const QPoint& point) {
 }  // namespace
 
 HelpPopup::HelpPopup(const HelpFile& file, const Topic& topic, QWidget* parent) : QFrame(parent, Qt::Popup) {
-  setAttribute(Qt::WA_DeleteOnClose);
   setAccessibleName(QString::fromStdString(topic.title));
   setAccessibleDescription(QString::fromStdString(topic.text));
   setFrameStyle(QFrame::Box | QFrame::Plain);
@@ -35,23 +32,21 @@ HelpPopup::HelpPopup(const HelpFile& file, const Topic& topic, QWidget* parent) 
   setBackgroundRole(QPalette::ToolTipBase);
   setAutoFillBackground(true);
 
-  auto* text = new QLabel(this);
-  text->setForegroundRole(QPalette::ToolTipText);
-  text->setTextFormat(Qt::RichText);
-  text->setResourceProvider([this, &file](const QUrl& url) { return PagePicture(file, url, devicePixelRatioF()); });
-  text->setText(PopupPage(topic, palette()));
-  text->setWordWrap(true);
-  text->setMinimumWidth(kTextWidth);
-  text->setMaximumWidth(kTextWidth);
-  text->setMargin(6);
-  connect(text, &QLabel::linkActivated, this, [this](const QString& name) {
+  m_text.setForegroundRole(QPalette::ToolTipText);
+  m_text.setTextFormat(Qt::RichText);
+  m_text.setResourceProvider([this, &file](const QUrl& url) { return PagePicture(file, url, devicePixelRatioF()); });
+  m_text.setText(PopupPage(topic, palette()));
+  m_text.setWordWrap(true);
+  m_text.setMinimumWidth(kTextWidth);
+  m_text.setMaximumWidth(kTextWidth);
+  m_text.setMargin(6);
+  connect(&m_text, &QLabel::linkActivated, this, [this](const QString& name) {
     Q_EMIT TopicChosen(name);
     close();
   });
 
-  auto* layout = new QVBoxLayout(this);
-  layout->setContentsMargins(0, 0, 0, 0);
-  layout->addWidget(text);
+  m_layout.setContentsMargins(0, 0, 0, 0);
+  m_layout.addWidget(&m_text);
 }
 
 void HelpPopup::OpenAt(const QPoint& point) {
@@ -64,14 +59,6 @@ void HelpPopup::OpenAt(const QPoint& point) {
   corner.setY(std::max(room.top(), std::min(corner.y(), room.bottom() - height())));
   move(corner);
   show();
-}
-
-void HelpPopup::keyPressEvent(QKeyEvent*) {
-  close();
-}
-
-void HelpPopup::mousePressEvent(QMouseEvent*) {
-  close();
 }
 
 }  // namespace dayvane::help

@@ -2,15 +2,18 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QSplitter>
+#include <QVBoxLayout>
+#include <memory>
 #include <optional>
 
 #include "help/HelpFile.h"
+#include "linux/help/HelpBrowser.h"
+#include "linux/help/HelpFindBar.h"
+#include "linux/help/HelpNavigation.h"
+#include "linux/help/HelpPopup.h"
 
 namespace dayvane::help {
-
-class HelpBrowser;
-class HelpFindBar;
-class HelpNavigation;
 
 /// The help window: contents and search on the left, a page on the right. It reads the help file when it is first asked
 /// for something, and tells the user, in its own pages, when that cannot be read. Closing hides it.
@@ -18,7 +21,7 @@ class HelpViewer : public QMainWindow {
   Q_OBJECT
 
  public:
-  explicit HelpViewer(QString nativeHelpFile, QWidget* parent = nullptr);
+  explicit HelpViewer(QString nativeHelpFile);
 
   /// Opens the window on its first page.
   void ShowContents();
@@ -43,9 +46,13 @@ class HelpViewer : public QMainWindow {
 
   QString m_path;
   std::optional<HelpFile> m_file;
-  HelpNavigation* m_navigation;
-  HelpBrowser* m_browser;
-  HelpFindBar* m_findBar;
+  QSplitter m_splitter;  // before what is shown in it, which it would delete
+  HelpNavigation m_navigation;
+  QWidget m_page;
+  QVBoxLayout m_pageLayout{&m_page};
+  HelpBrowser m_browser;
+  HelpFindBar m_findBar{m_browser};
+  std::unique_ptr<HelpPopup> m_popup;
 };
 
 }  // namespace dayvane::help

@@ -39,4 +39,13 @@ Application::Application(const platform::Desktop& theDesktop, std::string progra
       asserts(eventLog),
       shellServices(desktop, folder) {}
 
+void Application::Tell(const std::string& text) const {
+  desktop.windowing.ShowMessage({text, info.title, platform::MessageButtons::Ok, platform::MessageIcon::Information});
+}
+
+bool Application::Ask(const std::string& question, platform::MessageIcon icon) const {
+  const auto answer = desktop.windowing.ShowMessage({question, info.title, platform::MessageButtons::YesNo, icon});
+  return answer == platform::MessageAnswer::Yes;
+}
+
 }  // namespace dayvane

@@ -58,6 +58,10 @@ class Application {
   controls::Form* activeForm = nullptr;
 
   Date Now() const { return desktop.clock.Now(); }
+
+  /// Message boxes with the program's title: one that tells something, and one whose answer is whether it was Yes.
+  void Tell(const std::string& text) const;
+  bool Ask(const std::string& question, platform::MessageIcon icon) const;
 };
 
 }  // namespace dayvane

@@ -3,9 +3,9 @@
 
 #include <string>
 
-namespace dayvane {
+#include "app/EventLogWriter.h"
 
-class EventLogWriter;
+namespace dayvane {
 
 /// Logs preconditions that do not hold. One for the whole process; a failed assertion never stops its caller.
 class CAssert {
@@ -15,7 +15,9 @@ class CAssert {
   /// The log must outlive this object.
   explicit CAssert(EventLogWriter& eventLog) : m_eventLog(eventLog) {}
 
-  void Assert(bool condition, const std::string& message) const;
+  void Assert(bool condition, const std::string& message) const {
+    if (!condition) m_eventLog.Append(message, EventKind::Assertion);
+  }
 
  private:
   EventLogWriter& m_eventLog;

@@ -5,7 +5,6 @@
 #include <array>
 #include <optional>
 #include <set>
-#include <vector>
 
 #include "base/Error.h"
 #include "base/Text.h"
@@ -54,16 +53,6 @@ std::optional<int> Number(std::string_view text) {
 int FullYear(int year, std::string_view text) {
   if (text.size() > 2) return year;
   return year < 30 ? 2000 + year : 1900 + year;
-}
-
-std::vector<std::string_view> SplitAt(std::string_view text, char separator) {
-  std::vector<std::string_view> parts;
-  for (;;) {
-    const auto end = text.find(separator);
-    parts.push_back(text::Trim(text.substr(0, end)));
-    if (end == std::string_view::npos) return parts;
-    text.remove_prefix(end + 1);
-  }
 }
 
 /// One field of a pattern and how to write it; the longest token that fits is taken first.
@@ -151,15 +140,6 @@ std::chrono::year_month_day Date::Calendar() const {
   return std::chrono::year_month_day{kDayZero + days{DayNumber()}};
 }
 
-int Date::Year() const {
-  return static_cast<int>(Calendar().year());
-}
-unsigned Date::Month() const {
-  return static_cast<unsigned>(Calendar().month());
-}
-unsigned Date::Day() const {
-  return static_cast<unsigned>(Calendar().day());
-}
 Date Date::AddDays(std::int64_t count) const {
   return Date(m_seconds + count * kSecondsPerDay);
 }
@@ -189,7 +169,8 @@ std::string Format(const Date& date, std::string_view pattern, const platform::D
 
 Date ParseMonthFirst(std::string_view text, const platform::DateConventions& conventions,
                      std::span<const platform::MonthNames> otherLanguages) {
-  const auto parts = SplitAt(text, '/');
+  auto parts = text::Split(text, '/');
+  for (std::string_view& part : parts) part = text::Trim(part);
   if (parts.size() != 2 && parts.size() != 3) FailNoDate(text);
   const auto month = MonthNumber(parts.front(), conventions, otherLanguages);
   const auto day = parts.size() == 3 ? Number(parts[1]) : 1;

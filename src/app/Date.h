@@ -26,9 +26,9 @@ class Date {
   bool HasDatePart() const { return DayNumber() != 0; }
   bool HasTimePart() const { return SecondOfDay() != 0; }
 
-  int Year() const;
-  unsigned Month() const;  ///< 1 … 12
-  unsigned Day() const;    ///< 1 … 31
+  int Year() const { return static_cast<int>(Calendar().year()); }
+  unsigned Month() const { return static_cast<unsigned>(Calendar().month()); }  ///< 1 … 12
+  unsigned Day() const { return static_cast<unsigned>(Calendar().day()); }      ///< 1 … 31
   int Hour() const { return SecondOfDay() / 3600; }
   int Minute() const { return SecondOfDay() / 60 % 60; }
   int Second() const { return SecondOfDay() % 60; }
@@ -71,8 +71,8 @@ struct DateParts {
 DateParts SplitShortDate(std::string_view text, const platform::DateConventions& conventions);
 
 /// A desktop's conventions as the program can use them: month names that can name no folder, or of which two are the
-/// same, are the English ones; a short date that would not be read back as it was written is "yyyy-mm-dd"; a short
-/// time without hours or minutes is "hh:nn".
+/// same, are the English ones; a short date that would not be read back as it was written is "yyyy-mm-dd"; a
+/// short time without hours or minutes is "hh:nn".
 platform::DateConventions Usable(platform::DateConventions conventions);
 
 }  // namespace dayvane

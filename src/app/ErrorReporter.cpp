@@ -1,21 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "app/ErrorReporter.h"
 
-#include <utility>
-
 #include "app/IgnoreErrors.h"
 #include "app/LogLine.h"
 
 namespace dayvane {
-
-ErrorReporter::ErrorReporter(platform::FileSystem& files, platform::Clock& clock, platform::Windowing& windowing,
-                             std::string path)
-    : m_files(files), m_clock(clock), m_windowing(windowing), m_path(std::move(path)) {}
-
-void ErrorReporter::SetError(int number, std::string description) {
-  m_number = number;
-  m_description = std::move(description);
-}
 
 void ErrorReporter::Report() {
   const std::string message = m_userMessage + m_text;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <utility>
 
 #include "platform/Clock.h"
 #include "platform/FileSystem.h"
@@ -15,9 +16,13 @@ namespace dayvane {
 /// separated by tabs. A failure to write it is ignored.
 class ErrorReporter {
  public:
-  ErrorReporter(platform::FileSystem& files, platform::Clock& clock, platform::Windowing& windowing, std::string path);
+  ErrorReporter(platform::FileSystem& files, platform::Clock& clock, platform::Windowing& windowing, std::string path)
+      : m_files(files), m_clock(clock), m_windowing(windowing), m_path(std::move(path)) {}
 
-  void SetError(int number, std::string description);
+  void SetError(int number, std::string description) {
+    m_number = number;
+    m_description = std::move(description);
+  }
   void SetText(std::string text) { m_text = std::move(text); }  ///< added to the user message; usually empty
   void SetUserMessage(std::string message) { m_userMessage = std::move(message); }
   void SetSource(std::string source) { m_source = std::move(source); }

@@ -1,15 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "app/EventLogWriter.h"
 
-#include <utility>
-
 #include "app/IgnoreErrors.h"
 #include "app/LogLine.h"
 
 namespace dayvane {
-
-EventLogWriter::EventLogWriter(platform::FileSystem& files, platform::Clock& clock, std::string path)
-    : m_files(files), m_clock(clock), m_path(std::move(path)) {}
 
 void EventLogWriter::Append(const std::string& text, EventKind kind) {
   const std::string line = LogTime(m_clock) + "\t" + std::to_string(static_cast<int>(kind)) + "\t" + LogField(text);

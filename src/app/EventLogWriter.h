@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <utility>
 
 #include "platform/Clock.h"
 #include "platform/FileSystem.h"
@@ -23,7 +24,8 @@ enum class EventKind : int {
 /// A failure to write is ignored: there is no one left to tell.
 class EventLogWriter {
  public:
-  EventLogWriter(platform::FileSystem& files, platform::Clock& clock, std::string path);
+  EventLogWriter(platform::FileSystem& files, platform::Clock& clock, std::string path)
+      : m_files(files), m_clock(clock), m_path(std::move(path)) {}
 
   void Append(const std::string& text, EventKind kind);
 

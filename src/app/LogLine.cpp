@@ -10,23 +10,16 @@ std::string LogTime(platform::Clock& clock) {
 }
 
 std::string LogField(const std::string& text) {
+  constexpr std::string_view kSpecial = "\r\n\t\\";
+  constexpr std::string_view kLetters = "rnt\\";
   std::string field;
-  for (const char c : text) switch (c) {
-      case '\r':
-        field += "\\r";
-        break;
-      case '\n':
-        field += "\\n";
-        break;
-      case '\t':
-        field += "\\t";
-        break;
-      case '\\':
-        field += "\\\\";
-        break;
-      default:
-        field += c;
-    }
+  for (const char c : text) {
+    const auto special = kSpecial.find(c);
+    if (special == kSpecial.npos)
+      field += c;
+    else
+      field += {'\\', kLetters[special]};
+  }
   return field;
 }
 

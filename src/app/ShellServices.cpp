@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "app/ShellServices.h"
 
-#include <utility>
-
 namespace dayvane {
 
 PathParts SplitPath(std::string_view path) {
@@ -20,39 +18,12 @@ bool LeadsToProgram(const platform::ShellLink& link) {
   return !link.target.empty() && !link.targetIsFolder && link.workingDirectory == link.target;
 }
 
-ShellServices::ShellServices(const platform::Desktop& desktop, std::string programFolder)
-    : m_desktop(desktop), m_programFolder(std::move(programFolder)) {}
-
-std::string ShellServices::SpecialFolderPath(int number) const {
-  return m_desktop.shell.SpecialFolderPath(number);
-}
-
-void ShellServices::RefreshRecentFolder() const {
-  m_desktop.shell.RefreshRecentFolder();
-}
-
-void ShellServices::RecentFolderCaptured() const {
-  m_desktop.shell.RecentFolderCaptured();
-}
-
-platform::ReadLink ShellServices::ReadShortcut(const std::string& path) const {
-  return m_desktop.shell.ReadShellLink(path);
-}
-
 void ShellServices::CreateShortcut(const std::string& path, const std::string& target,
                                    const std::string& workingFolder) const {
   platform::ShellLink link;
   link.target = target;
   link.workingDirectory = workingFolder;
   m_desktop.shell.CreateShellLink(path, link);
-}
-
-DateParts ShellServices::SplitDate(std::string_view shortDate) const {
-  return SplitShortDate(shortDate, m_desktop.dates);
-}
-
-std::string ShellServices::WindowsFolder() const {
-  return m_desktop.shell.WindowsFolder();
 }
 
 bool ShellServices::IsNumericKey(int character) {
@@ -65,18 +36,6 @@ bool ShellServices::IsNumericKey(int character) {
   if (character >= '0' && character <= '9') return true;
   return character == kBackspace || character == kSelectAll || character == kCopy || character == kPaste ||
          character == kCut || character == kUndo;
-}
-
-int ShellServices::Open(const std::string& target, const std::string& workingFolder, std::int32_t showCommand) const {
-  return m_desktop.shell.Open(target, workingFolder, showCommand);
-}
-
-void ShellServices::RunExplorer(const std::string& arguments) const {
-  m_desktop.shell.Run(WindowsFolder() + "\\EXPLORER.EXE " + arguments);
-}
-
-std::string ShellServices::DisplayPath(const std::string& path) const {
-  return m_desktop.shell.DisplayPath(path);
 }
 
 }  // namespace dayvane

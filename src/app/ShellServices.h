@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "app/Date.h"
 #include "platform/Desktop.h"
@@ -31,25 +32,26 @@ class ShellServices {
   static constexpr const char* ClassName = "ShellServices";
 
   /// `programFolder` serves as the default working folder.
-  ShellServices(const platform::Desktop& desktop, std::string programFolder);
+  ShellServices(const platform::Desktop& desktop, std::string programFolder)
+      : m_desktop(desktop), m_programFolder(std::move(programFolder)) {}
 
   /// Full path of a special folder; platform::kRecentFolder is the user's Recent folder.
-  std::string SpecialFolderPath(int number) const;
+  std::string SpecialFolderPath(int number) const { return m_desktop.shell.SpecialFolderPath(number); }
 
   /// Brings the Recent folder up to date where the desktop keeps none of its own.
-  void RefreshRecentFolder() const;
+  void RefreshRecentFolder() const { m_desktop.shell.RefreshRecentFolder(); }
 
   /// All that the Recent folder held when last listed has been filed.
-  void RecentFolderCaptured() const;
+  void RecentFolderCaptured() const { m_desktop.shell.RecentFolderCaptured(); }
 
-  platform::ReadLink ReadShortcut(const std::string& path) const;
+  platform::ReadLink ReadShortcut(const std::string& path) const { return m_desktop.shell.ReadShellLink(path); }
 
   /// A shortcut with empty arguments and a normal window.
   void CreateShortcut(const std::string& path, const std::string& target, const std::string& workingFolder) const;
 
   PathParts SplitPath(std::string_view path) const { return dayvane::SplitPath(path); }
-  DateParts SplitDate(std::string_view shortDate) const;
-  std::string WindowsFolder() const;
+  DateParts SplitDate(std::string_view shortDate) const { return SplitShortDate(shortDate, m_desktop.dates); }
+  std::string WindowsFolder() const { return m_desktop.shell.WindowsFolder(); }
 
   template <class Number>
   static Number LargerOf(Number a, Number b) {
@@ -62,12 +64,16 @@ class ShellServices {
   const std::string& DefaultWorkingFolder() const { return m_programFolder; }
 
   /// The shell's result code, see platform::Shell::Open.
-  int Open(const std::string& target, const std::string& workingFolder, std::int32_t showCommand) const;
+  int Open(const std::string& target, const std::string& workingFolder, std::int32_t showCommand) const {
+    return m_desktop.shell.Open(target, workingFolder, showCommand);
+  }
 
   /// Starts the desktop's explorer with these arguments.
-  void RunExplorer(const std::string& arguments) const;
+  void RunExplorer(const std::string& arguments) const {
+    m_desktop.shell.Run(WindowsFolder() + "\\EXPLORER.EXE " + arguments);
+  }
 
-  std::string DisplayPath(const std::string& path) const;
+  std::string DisplayPath(const std::string& path) const { return m_desktop.shell.DisplayPath(path); }
 
  private:
   const platform::Desktop& m_desktop;

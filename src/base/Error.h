@@ -3,7 +3,7 @@
 
 #include <stdexcept>
 #include <string>
-#include <string_view>
+#include <utility>
 
 namespace dayvane {
 
@@ -33,7 +33,11 @@ enum ErrorNumber : int {
 /// path that it is about. Its text is never parsed.
 class Error : public std::runtime_error {
  public:
-  Error(int number, std::string description, std::string path = {});
+  Error(int number, std::string description, std::string path = {})
+      : std::runtime_error(path.empty() ? description : description + ": " + path),
+        m_number(number),
+        m_description(std::move(description)),
+        m_path(std::move(path)) {}
 
   int Number() const { return m_number; }
   const std::string& Description() const { return m_description; }

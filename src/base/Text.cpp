@@ -45,10 +45,32 @@ bool IsAscii(std::string_view text) {
   return std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
 }
 
+bool IsControl(char c) {
+  return static_cast<unsigned char>(c) < 0x20 || c == 0x7F;
+}
+
 std::string_view Trim(std::string_view text) {
   const auto first = text.find_first_not_of(' ');
   if (first == std::string_view::npos) return {};
   return text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+std::vector<std::string_view> Split(std::string_view text, char separator) {
+  std::vector<std::string_view> parts;
+  for (auto end = text.find(separator); end != std::string_view::npos; end = text.find(separator)) {
+    parts.push_back(text.substr(0, end));
+    text.remove_prefix(end + 1);
+  }
+  parts.push_back(text);
+  return parts;
+}
+
+std::optional<std::string_view> TakeLine(std::string_view& text) {
+  const auto end = text.find('\n');
+  if (end == std::string_view::npos) return std::nullopt;
+  const std::string_view line = text.substr(0, end);
+  text.remove_prefix(end + 1);
+  return line;
 }
 
 std::string ToUpper(std::string_view text) {
@@ -85,6 +107,12 @@ std::optional<std::int32_t> ToInt32(std::string_view text) {
 
 bool IsNumeric(std::string_view text) {
   return !text.empty() && std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
+}
+
+std::string NumberText(double number) {
+  char buffer[32];
+  const auto end = std::to_chars(buffer, buffer + sizeof buffer, number).ptr;
+  return {buffer, end};
 }
 
 std::string Padded(std::int64_t number, int digits) {

@@ -48,14 +48,6 @@ void CFileInfo::SetItem(const std::string& path) {
   if (m_application.desktop.icons.FileInfo(path, m_attributes, kDisplayAndTypeName | m_attributeFlag)) m_item = path;
 }
 
-std::optional<platform::Picture> CFileInfo::SmallIcon(std::uint32_t afOverlay) const {
-  return Icon("SmallIcon", afOverlay, platform::kInfoSmallIcon);
-}
-
-std::optional<platform::Picture> CFileInfo::ShellIcon(std::uint32_t afOverlay) const {
-  return Icon("ShellIcon", afOverlay, platform::kInfoShellIconSize);
-}
-
 std::optional<platform::Picture> CFileInfo::Icon(const char* procedure, std::uint32_t afOverlay,
                                                  std::uint32_t sizeFlag) const {
   std::optional<platform::Picture> picture;

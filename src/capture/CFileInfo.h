@@ -25,8 +25,12 @@ class CFileInfo {
 
   /// Of the flags only open state (2), link overlay (0x8000) and selected state (0x10000) pass through. Nothing when
   /// there is no icon; an error is reported.
-  std::optional<platform::Picture> SmallIcon(std::uint32_t afOverlay = 0) const;
-  std::optional<platform::Picture> ShellIcon(std::uint32_t afOverlay = 0) const;
+  std::optional<platform::Picture> SmallIcon(std::uint32_t afOverlay = 0) const {
+    return Icon("SmallIcon", afOverlay, platform::kInfoSmallIcon);
+  }
+  std::optional<platform::Picture> ShellIcon(std::uint32_t afOverlay = 0) const {
+    return Icon("ShellIcon", afOverlay, platform::kInfoShellIconSize);
+  }
 
  private:
   std::optional<platform::Picture> Icon(const char* procedure, std::uint32_t afOverlay, std::uint32_t sizeFlag) const;

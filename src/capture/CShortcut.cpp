@@ -110,8 +110,4 @@ void CShortcut::CreateExecutableShortcut() {
   m_programShortcuts.insert(placed);
 }
 
-std::int32_t CShortcut::OpenDocument() const {
-  return m_application.shellServices.Open(m_targetFile, m_workingDirectory, m_showCommand);
-}
-
 }  // namespace dayvane

@@ -61,7 +61,9 @@ class CShortcut : private Asserting {
   void CreateExecutableShortcut();
 
   /// Opens the target. Returns the shell's result: above 32 opened (platform::Shell::Open names the others).
-  std::int32_t OpenDocument() const;
+  std::int32_t OpenDocument() const {
+    return m_application.shellServices.Open(m_targetFile, m_workingDirectory, m_showCommand);
+  }
 
  private:
   void ReadLinkFields();

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <algorithm>
 #include <string>
+#include <utility>
 
 #include "controls/Signal.h"
 
@@ -31,7 +33,18 @@ class Control {
   double Height() const { return m_height; }
 
   /// Moves and sizes at once. A size below 0 becomes 0.
-  void Move(double left, double top, double width, double height);
+  void Move(double left, double top, double width, double height) {
+    width = std::max(width, 0.0);
+    height = std::max(height, 0.0);
+    const bool sized = width != m_width || height != m_height;
+    if (!sized && left == m_left && top == m_top) return;
+    m_left = left;
+    m_top = top;
+    m_width = width;
+    m_height = height;
+    Changed.Raise();
+    if (sized) SizeChanged();
+  }
 
   int WhatsThisHelpID() const { return m_whatsThisHelpId; }  ///< help context of the control, 0 for none
   void SetWhatsThisHelpID(int id) { Assign(m_whatsThisHelpId, id); }

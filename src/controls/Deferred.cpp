@@ -2,6 +2,7 @@
 #include "controls/Deferred.h"
 
 #include <algorithm>
+#include <array>
 #include <deque>
 #include <utility>
 
@@ -18,17 +19,19 @@ struct Waiting {
 };
 
 /// One for the process, as is the event loop. Only the thread of the windows has a part in it.
-struct Situation {
-  int work = 0;  ///< open scopes
-  int questions = 0;
-  int background = 0;
+struct Process {
+  std::array<int, 3> scopes{};  ///< open ones, by situation
   std::deque<Waiting> waiting;
   std::function<void()> wake;
 };
 
-Situation& Now() {
-  static Situation situation;
-  return situation;
+Process& Now() {
+  static Process process;
+  return process;
+}
+
+int& ScopesOf(Situation situation) {
+  return Now().scopes.at(static_cast<std::size_t>(situation));
 }
 
 bool IsUserBusy() {
@@ -39,10 +42,6 @@ void WakeIfNeeded() {
   if (!Now().waiting.empty() && Now().wake) Now().wake();
 }
 
-void Leave(int& scopes) {
-  if (--scopes == 0) WakeIfNeeded();
-}
-
 void Defer(const std::shared_ptr<const bool>& owner, MustWait mustWait, std::function<void()> act) {
   if (!mustWait()) return act();
   Now().waiting.push_back({owner, mustWait, std::move(act)});
@@ -50,35 +49,29 @@ void Defer(const std::shared_ptr<const bool>& owner, MustWait mustWait, std::fun
 
 }  // namespace
 
-WorkScope::WorkScope() {
-  ++Now().work;
-}
-WorkScope::~WorkScope() {
-  Leave(Now().work);
+template <Situation situation>
+SituationScope<situation>::SituationScope() {
+  ++ScopesOf(situation);
 }
 
-QuestionScope::QuestionScope() {
-  ++Now().questions;
-}
-QuestionScope::~QuestionScope() {
-  Leave(Now().questions);
+template <Situation situation>
+SituationScope<situation>::~SituationScope() {
+  // Nothing waits for the end of what a timer began.
+  if (--ScopesOf(situation) == 0 && situation != Situation::Background) WakeIfNeeded();
 }
 
-BackgroundScope::BackgroundScope() {
-  ++Now().background;
-}
-BackgroundScope::~BackgroundScope() {
-  --Now().background;
-}
+template class SituationScope<Situation::Work>;
+template class SituationScope<Situation::Question>;
+template class SituationScope<Situation::Background>;
 
 bool IsAtWork() {
-  return Now().work > 0;
+  return ScopesOf(Situation::Work) > 0;
 }
 bool IsAsking() {
-  return Now().questions > 0;
+  return ScopesOf(Situation::Question) > 0;
 }
 bool IsInBackground() {
-  return Now().background > 0;
+  return ScopesOf(Situation::Background) > 0;
 }
 
 void Deferred::AfterWork(std::function<void()> act) {

@@ -9,33 +9,26 @@
 /// in the second, and commands from outside the dialog not in the third. Capture goes on in the third.
 namespace dayvane::controls {
 
-/// The program is in the middle of its work for as long as this lives.
-class WorkScope {
+enum class Situation { Work, Question, Background };
+
+/// The program is in this situation for as long as this lives.
+template <Situation situation>
+class SituationScope {
  public:
-  WorkScope();
-  WorkScope(const WorkScope&) = delete;
-  WorkScope& operator=(const WorkScope&) = delete;
-  ~WorkScope();
+  SituationScope();
+  SituationScope(const SituationScope&) = delete;
+  SituationScope& operator=(const SituationScope&) = delete;
+  ~SituationScope();
 };
 
-/// The user is being asked something for as long as this lives.
-class QuestionScope {
- public:
-  QuestionScope();
-  QuestionScope(const QuestionScope&) = delete;
-  QuestionScope& operator=(const QuestionScope&) = delete;
-  ~QuestionScope();
-};
+/// In the middle of the program's work.
+using WorkScope = SituationScope<Situation::Work>;
 
-/// What runs for as long as this lives was begun by a timer and not by the user: how it goes reaches the screen only
-/// when it lasts.
-class BackgroundScope {
- public:
-  BackgroundScope();
-  BackgroundScope(const BackgroundScope&) = delete;
-  BackgroundScope& operator=(const BackgroundScope&) = delete;
-  ~BackgroundScope();
-};
+/// While the user is being asked something.
+using QuestionScope = SituationScope<Situation::Question>;
+
+/// For what a timer began and not the user: how it goes reaches the screen only when it lasts.
+using BackgroundScope = SituationScope<Situation::Background>;
 
 bool IsAtWork();
 bool IsAsking();

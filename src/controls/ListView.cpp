@@ -33,10 +33,6 @@ void ListView::SetColumns(std::vector<ColumnHeader> columns) {
   m_columns = std::move(columns);
 }
 
-void ListView::SetColumnWidth(std::size_t column, double twips) {
-  Assign(m_columns.at(column).width, twips);
-}
-
 ListItem& ListView::Add(const std::string& key, std::string text, int icon) {
   auto item = std::make_unique<ListItem>(ListItem{key, std::move(text), icon, {}});
   if (!m_items.emplace(key, item.get()).second) throw Error(kKeyNotUnique, "Key is not unique in the list: " + key);
@@ -88,11 +84,6 @@ void ListView::Click(ListItem& item) {
   ItemClick.Raise(item);
 }
 
-void ListView::SetSelectedPosition(double left, double top) {
-  m_selectedLeft = left;
-  m_selectedTop = top;
-}
-
 void ListView::SetImages(const ImageList* large, const ImageList* small) {
   m_largeImages = large;
   Assign(m_smallImages, small);
@@ -111,10 +102,6 @@ void ListView::SetSortOrder(SortOrder order) {
 void ListView::SetSorted(bool sorted) {
   Assign(m_sorted, sorted);
   SortIfOn();
-}
-
-void ListView::SortIfOn() {
-  if (m_sorted) Sort();
 }
 
 void ListView::Sort() {

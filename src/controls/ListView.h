@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <cstdint>
 #include <map>
 #include <memory>
 #include <string>
@@ -48,7 +47,7 @@ class ListView : public Control, public UpdateTarget {
   std::vector<ColumnHeader>& Columns() { return m_columns; }
   const std::vector<ColumnHeader>& Columns() const { return m_columns; }
   void SetColumns(std::vector<ColumnHeader> columns);
-  void SetColumnWidth(std::size_t column, double twips);
+  void SetColumnWidth(std::size_t column, double twips) { Assign(m_columns.at(column).width, twips); }
 
   std::size_t Count() const { return m_rows.size(); }
   const ListItem& Row(std::size_t row) const { return *m_rows[row]; }  ///< in the order shown
@@ -65,6 +64,7 @@ class ListView : public Control, public UpdateTarget {
   std::size_t RowOf(const ListItem& item) const;
 
   ListItem* SelectedItem() const { return m_selected; }
+  std::string SelectedKey() const { return m_selected == nullptr ? "" : m_selected->key; }
   void SetSelectedItem(ListItem* item);  ///< without raising ItemClick; nullptr selects nothing
 
   std::size_t SortKey() const { return m_sortKey; }  ///< column counted from 0
@@ -89,7 +89,10 @@ class ListView : public Control, public UpdateTarget {
   /// Where a row is drawn, in twips from the list's left and top. Presenters set it when the selection is drawn.
   double SelectedLeft() const { return m_selectedLeft; }
   double SelectedTop() const { return m_selectedTop; }
-  void SetSelectedPosition(double left, double top);
+  void SetSelectedPosition(double left, double top) {
+    m_selectedLeft = left;
+    m_selectedTop = top;
+  }
 
   /// What the user does: select a row by mouse or keyboard.
   void Click(ListItem& item);
@@ -103,7 +106,9 @@ class ListView : public Control, public UpdateTarget {
 
  private:
   void Sort();
-  void SortIfOn();
+  void SortIfOn() {
+    if (m_sorted) Sort();
+  }
 
   std::vector<ColumnHeader> m_columns;
   std::vector<std::unique_ptr<ListItem>> m_rows;

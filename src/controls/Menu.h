@@ -3,6 +3,7 @@
 
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "controls/Control.h"
@@ -14,7 +15,7 @@ class Menu;
 /// One entry of a menu. "&" in a caption marks the access key; the caption "-" is a separator.
 class MenuItem : public Control {
  public:
-  explicit MenuItem(std::string caption, Menu* submenu = nullptr);
+  explicit MenuItem(std::string caption, Menu* submenu = nullptr) : m_caption(std::move(caption)), m_submenu(submenu) {}
 
   const std::string& Caption() const { return m_caption; }
   bool IsSeparator() const { return m_caption == "-"; }
@@ -36,14 +37,19 @@ class Menu : public Control {
     Menu* submenu = nullptr;
   };
 
-  Menu(std::string caption, const std::vector<Entry>& entries);
+  Menu(std::string caption, const std::vector<Entry>& entries) : m_caption(std::move(caption)) {
+    for (const Entry& entry : entries) m_items.push_back(std::make_unique<MenuItem>(entry.caption, entry.submenu));
+  }
 
   const std::string& Caption() const { return m_caption; }
   int Count() const { return static_cast<int>(m_items.size()); }
   MenuItem& operator[](int index) const { return *m_items.at(static_cast<std::size_t>(index)); }
 
   /// What the user's choice does: nothing for an entry that is disabled or hidden.
-  void Choose(int index);
+  void Choose(int index) {
+    const MenuItem& item = (*this)[index];
+    if (item.Enabled() && item.Visible() && !item.IsSeparator() && item.Submenu() == nullptr) Click.Raise(index);
+  }
 
   Signal<int> Click;  ///< index, separators counted
 

@@ -7,10 +7,6 @@
 
 namespace dayvane::controls {
 
-TreeNode& TreeView::AddRoot(const std::string& key, std::string text, int image) {
-  return Insert(m_roots, nullptr, key, std::move(text), image);
-}
-
 TreeNode& TreeView::AddChild(const std::string& parentKey, const std::string& key, std::string text, int image) {
   TreeNode& parent = Node(parentKey);
   return Insert(parent.children, &parent, key, std::move(text), image);

@@ -25,7 +25,9 @@ struct TreeNode {
 /// A tree of nodes found by key. At most one is selected.
 class TreeView : public Control, public UpdateTarget {
  public:
-  TreeNode& AddRoot(const std::string& key, std::string text, int image);
+  TreeNode& AddRoot(const std::string& key, std::string text, int image) {
+    return Insert(m_roots, nullptr, key, std::move(text), image);
+  }
 
   /// Fails with kElementNotFound for an unknown parent and kKeyNotUnique for a key that is there already.
   TreeNode& AddChild(const std::string& parentKey, const std::string& key, std::string text, int image);
@@ -39,6 +41,7 @@ class TreeView : public Control, public UpdateTarget {
   TreeNode* Find(const std::string& key) const;  ///< nullptr when there is none
 
   TreeNode* SelectedItem() const { return m_selected; }
+  std::string SelectedKey() const { return m_selected == nullptr ? "" : m_selected->key; }
 
   /// Selects without raising NodeClick; presenters bring the node into view. nullptr selects nothing.
   void SetSelectedItem(TreeNode* node);

@@ -29,22 +29,12 @@ std::string Utf8(std::string_view bytes) {
   return std::string(bytes);
 }
 
-std::vector<std::string_view> Split(std::string_view text, char separator) {
-  std::vector<std::string_view> parts;
-  for (auto end = text.find(separator); end != std::string_view::npos; end = text.find(separator)) {
-    parts.push_back(text.substr(0, end));
-    text.remove_prefix(end + 1);
-  }
-  parts.push_back(text);
-  return parts;
-}
-
 }  // namespace
 
 HelpFile HelpFileReader::Read() {
   if (TakeLine() != "Dayvane help 1") FailDamaged("it does not begin as a help file");
   for (std::string_view line = TakeLine(); line != "end"; line = TakeLine()) {
-    const Header header = Split(line, ' ');
+    const Header header = text::Split(line, ' ');
     if (header.size() < 2) FailDamaged("a record has no size");
     if (header[0] == "topic") {
       TakeTopic(header);
@@ -113,7 +103,7 @@ void HelpFileReader::TakeContents(const Header& header) {
   const std::string_view payload = TakePayload(header[1]);
   if (!m_file.m_contents.empty()) FailDamaged("it has two tables of contents");
   std::size_t deepest = 0;
-  for (const std::string_view line : Split(payload, '\n')) {
+  for (const std::string_view line : text::Split(payload, '\n')) {
     const std::size_t depth = std::min(line.find_first_not_of('\t'), line.size());
     if (depth > deepest) FailDamaged("the contents skip a level");
     deepest = depth + 1;

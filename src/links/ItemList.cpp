@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "links/ItemList.h"
 
-#include <algorithm>
 #include <optional>
 
 #include "base/Text.h"

@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdint>
 #include <iterator>
 
 #include "base/Utf8.h"

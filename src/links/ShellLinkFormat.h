@@ -15,8 +15,8 @@
 /// that are whole are used, parts that are not are treated as absent, unknown parts are skipped.
 namespace dayvane::links {
 
-/// Reads a link; nothing when the bytes are none. Never touches the disk; works in time and memory that grow no faster
-/// than the number of bytes.
+/// Reads a link; nothing when the bytes are none. Never touches the disk; works in time and memory that grow no
+/// faster than the number of bytes.
 ///
 /// The target is the first of these that is there: the Unicode path of the link info; the path that the item list
 /// spells (before the next, which often is in a code page that cannot hold the name); the ANSI path of the link info;
@@ -26,8 +26,8 @@ std::optional<platform::ShellLink> ParseShellLink(std::string_view bytes);
 
 /// The bytes of a link that this and other readers of the format accept. The same link always gives the same bytes:
 /// they carry no time, and nothing about the target but its path and whether it is a folder. Texts end at their first
-/// null, and what is no UTF-8 in them becomes U+FFFD. An Error for a text beside the target of more than 65,535 UTF-16
-/// units, the most that fits.
+/// null, and what is no UTF-8 in them becomes U+FFFD. An Error for a text beside the target of more than 65,535
+/// UTF-16 units, the most that fits.
 std::string WriteShellLink(const platform::ShellLink& link);
 
 }  // namespace dayvane::links

@@ -24,8 +24,8 @@ class ShellLinkReader {
 
   ShellLinkReader(platform::FileSystem& files, ReportEvent reportEvent);
 
-  /// The link in a file, with the moment that the file was written. A file that is no shell link has empty fields; it
-  /// is reported once, and again when it is written anew. A file that cannot be opened is the file system's Error.
+  /// The link in a file, with the moment that the file was written. A file that is not a shell link has empty fields;
+  /// it is reported once, and again when it is written anew. A file that cannot be opened is the file system's Error.
   platform::ReadLink Read(const std::string& path);
 
  private:

@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "linux/LinuxClock.h"
 #include "linux/registry/DocumentClasses.h"
 #include "linux/registry/SettingsFile.h"
 #include "platform/Registry.h"
@@ -16,7 +17,7 @@ namespace dayvane {
 class LinuxRegistry : public platform::Registry {
  public:
   LinuxRegistry(std::string settingsFile, ReportEvent reportEvent,
-                registry::DocumentClasses::Clock clock = registry::DocumentClasses::CoarseTime);
+                registry::DocumentClasses::Clock clock = LinuxClock::CoarseTime);
 
   std::unique_ptr<platform::RegistryKey> KeyFromRoot(std::uint32_t root) override;
   std::unique_ptr<platform::RegistryKey> KeyFromPath(const std::string& path) override;

@@ -1,30 +1,20 @@
 // SPDX-License-Identifier: MIT
 #include "linux/LinuxShell.h"
 
-#include <chrono>
-
 #include "base/Error.h"
 #include "base/Text.h"
 #include "links/ShellLinkFormat.h"
+#include "linux/LinuxClock.h"
 #include "linux/files/NativePath.h"
 
 namespace dayvane {
-
-namespace {
-
-std::int64_t NanosecondsNow() {
-  const auto now = std::chrono::system_clock::now().time_since_epoch();
-  return std::chrono::duration_cast<std::chrono::nanoseconds>(now).count();
-}
-
-}  // namespace
 
 LinuxShell::LinuxShell(platform::FileSystem& files, const std::string& dataFolder, const ReportEvent& reportEvent)
     : m_files(files),
       m_recentPath(dataFolder + "/Recent"),
       m_links(files, reportEvent),
       m_launcher(reportEvent),
-      m_recentFolder(NanosecondsNow, {recent::DefaultListPath(), m_recentPath, dataFolder + "/Recent.state"},
+      m_recentFolder(LinuxClock::Nanoseconds, {recent::DefaultListPath(), m_recentPath, dataFolder + "/Recent.state"},
                      links::WriteShellLink, reportEvent),
       m_watch(recent::DefaultListPath(),
               [this] { m_deferred.AfterWork([this] { m_recentFolder.RememberOpenings(); }); }) {}
@@ -45,14 +35,6 @@ void LinuxShell::CreateShellLink(const std::string& path, const platform::ShellL
   if (target && text::CompareIgnoringCase(*target, link.target) == 0) written.target = *target;
   // Not flushed: a first capture writes thousands of links.
   m_files.ReplaceUnflushed(path, links::WriteShellLink(written));
-}
-
-int LinuxShell::Open(const std::string& target, const std::string& workingDirectory, std::int32_t) {
-  return m_launcher.Open(target, workingDirectory);
-}
-
-std::string LinuxShell::WindowsFolder() {
-  return "C:\\WINDOWS";
 }
 
 }  // namespace dayvane

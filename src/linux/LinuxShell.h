@@ -25,9 +25,11 @@ class LinuxShell : public platform::Shell {
   void RecentFolderCaptured() override { m_recentFolder.Captured(); }
   platform::ReadLink ReadShellLink(const std::string& path) override { return m_links.Read(path); }
   void CreateShellLink(const std::string& path, const platform::ShellLink& link) override;
-  int Open(const std::string& target, const std::string& workingDirectory, std::int32_t showCommand) override;
+  int Open(const std::string& target, const std::string& workingDirectory, std::int32_t /*showCommand*/) override {
+    return m_launcher.Open(target, workingDirectory);
+  }
   void Run(const std::string& commandLine) override { m_launcher.Run(commandLine); }
-  std::string WindowsFolder() override;
+  std::string WindowsFolder() override { return "C:\\WINDOWS"; }
   std::string DisplayPath(const std::string& path) override { return launch::Launcher::DisplayPath(path); }
 
  private:

@@ -4,7 +4,6 @@
 #include <QObject>
 #include <functional>
 #include <optional>
-#include <string>
 
 #include "linux/LinuxWindowing.h"
 #include "linux/forms/MainWindow.h"

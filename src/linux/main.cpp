@@ -13,7 +13,6 @@
 
 #include "app/EventSink.h"
 #include "app/ReportErrors.h"
-#include "base/Error.h"
 #include "linux/LinuxClock.h"
 #include "linux/LinuxDateConventions.h"
 #include "linux/LinuxFileSystem.h"

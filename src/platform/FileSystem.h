@@ -26,6 +26,8 @@ struct FileStatus {
   EntryKind kind = EntryKind::Other;
   std::uint64_t size = 0;  ///< bytes
   FileMoment written;
+
+  friend bool operator==(const FileStatus&, const FileStatus&) = default;
 };
 
 struct DirectoryEntry {

@@ -8,7 +8,6 @@
 #include "app/MDayvane.h"
 #include "base/Error.h"
 #include "base/Text.h"
-#include "fs/Dir.h"
 #include "repository/CRepository.h"
 #include "resources/StringTable.h"
 
@@ -77,9 +76,7 @@ bool CRepository::ConfirmPurge() const {
   const std::string question = ResourceString(kPurgeThereAreShortcuts) + "\r\n" + ResourceString(kPurgeBefore) + date +
                                "." + "\r\n\r\n" + ResourceString(kPurgeDoYouWant) + "\r\n" +
                                ResourceString(kPurgeDocumentsStay);
-  const auto answer = m_application.desktop.windowing.ShowMessage(
-      {question, m_application.info.title, platform::MessageButtons::YesNo, platform::MessageIcon::Information});
-  return answer == platform::MessageAnswer::Yes;
+  return m_application.Ask(question, platform::MessageIcon::Information);
 }
 
 void CRepository::PurgeDay(const std::string& folder) const {

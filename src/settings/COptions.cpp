@@ -2,8 +2,6 @@
 #include "settings/COptions.h"
 
 #include "app/IgnoreErrors.h"
-#include "base/Error.h"
-#include "base/Text.h"
 #include "settings/FOptions.h"
 #include "settings/SettingsStore.h"
 
@@ -18,12 +16,6 @@ const std::vector<settings::NamedText>& Defaults() {
   static const std::vector<settings::NamedText> defaults{
       {"Favorites Threshold", "3"}, {"Purge Age", "30"}, {"Timer Interval", "60"}};
   return defaults;
-}
-
-std::int32_t ToNumber(const std::string& text) {
-  const auto number = text::ToInt32(text);
-  if (!number) throw Error(kTypeMismatch, "Type mismatch: \"" + text + "\" is no whole number");
-  return *number;
 }
 
 }  // namespace
@@ -46,10 +38,10 @@ void COptions::ReadValues() {
   std::int32_t* const fields[] = {&m_favoritesThreshold, &m_purgeAge, &m_timerInterval};
   for (std::size_t i = 0; i < Defaults().size(); ++i) {
     const settings::NamedText& standard = Defaults()[i];
-    failed = !IgnoreErrors([&] { *fields[i] = ToNumber(key->Value(standard.name)); }) || failed;
+    failed = !IgnoreErrors([&] { *fields[i] = settings::WholeNumber(key->Value(standard.name)); }) || failed;
     if (!failed) continue;
     IgnoreErrors([&] { key->AddValue(standard.name, standard.text, platform::kRegistryString); });
-    *fields[i] = ToNumber(standard.text);
+    *fields[i] = settings::WholeNumber(standard.text);
   }
 }
 

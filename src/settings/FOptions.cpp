@@ -2,9 +2,10 @@
 #include "settings/FOptions.h"
 
 #include "app/ReportErrors.h"
-#include "base/Error.h"
-#include "base/Text.h"
+#include "base/ScopedValue.h"
 #include "controls/Keys.h"
+#include "resources/MHelpConstants.h"
+#include "settings/SettingsStore.h"
 
 namespace dayvane {
 
@@ -13,35 +14,18 @@ namespace {
 constexpr int kLeast = 1;
 constexpr int kMostSeconds = 60;
 constexpr std::size_t kTimerField = 2;
-constexpr int kOptionsHelp = 11;  ///< help context of the dialog
 
 struct Field {
   const char* caption;
   StringId rangeMessage;
-  int help;  ///< help context of its label, box and arrows
+  HelpContextId help;  ///< of its label, box and arrows
 };
 
 constexpr std::array<Field, FOptions::kFields> kFieldTable{{
-    {"&Favorites Threshold (1 or more days accessed):", kThresholdRange, 2},
-    {"&Purge Age (1 or more days):", kPurgeAgeRange, 22},
-    {"&Timer Interval (1 to 60 seconds):", kTimerIntervalRange, 6},
+    {"&Favorites Threshold (1 or more days accessed):", kThresholdRange, kHelpFavoritesThreshold},
+    {"&Purge Age (1 or more days):", kPurgeAgeRange, kHelpPurgeAge},
+    {"&Timer Interval (1 to 60 seconds):", kTimerIntervalRange, kHelpTimerInterval},
 }};
-
-/// Makes a form the one whose pointer a wait cursor changes, for as long as it lives.
-class ActiveForm {
- public:
-  ActiveForm(Application& application, controls::Form& form)
-      : m_application(application), m_before(application.activeForm) {
-    application.activeForm = &form;
-  }
-  ActiveForm(const ActiveForm&) = delete;
-  ActiveForm& operator=(const ActiveForm&) = delete;
-  ~ActiveForm() { m_application.activeForm = m_before; }
-
- private:
-  Application& m_application;
-  controls::Form* m_before;
-};
 
 }  // namespace
 
@@ -90,32 +74,19 @@ void FOptions::ConnectControls() {
 }
 
 std::int32_t FOptions::Number(std::size_t index) const {
-  const std::string& text = txtOptions[index].Text();
-  const auto number = text::ToInt32(text);
-  if (!number) throw Error(kTypeMismatch, "Type mismatch: \"" + text + "\" is no whole number");
-  return *number;
-}
-
-void FOptions::SetNumber(std::size_t index, std::int32_t number) {
-  txtOptions[index].SetText(std::to_string(number));
+  return settings::WholeNumber(txtOptions[index].Text());
 }
 
 bool FOptions::GetValues() {
   m_accepted = false;
-  const ActiveForm active(m_application, form);
+  const ScopedValue active(m_application.activeForm, &form);
   m_application.desktop.windowing.ShowModal(form);
   return m_accepted;
 }
 
-void FOptions::Beep() const {
-  m_application.desktop.windowing.Beep();
-}
-
 void FOptions::TellRange(std::size_t index) {
   Beep();
-  m_application.desktop.windowing.ShowMessage({ResourceString(kFieldTable[index].rangeMessage),
-                                               m_application.info.title, platform::MessageButtons::Ok,
-                                               platform::MessageIcon::Information});
+  m_application.Tell(ResourceString(kFieldTable[index].rangeMessage));
 }
 
 bool FOptions::Validate() {
@@ -170,7 +141,7 @@ void FOptions::udOptions_DownClick(std::size_t index) {
 
 void FOptions::DisplayHelp() {
   ReportErrors(m_application, kDisplayingHelp, kName, "DisplayHelp", [this] {
-    m_application.desktop.help.ShowHelp(m_application.helpFile, platform::kHelpContext, kOptionsHelp);
+    m_application.desktop.help.ShowHelp(m_application.helpFile, platform::kHelpContext, kHelpOptions);
   });
 }
 

@@ -3,7 +3,6 @@
 
 #include <array>
 #include <cstdint>
-#include <string>
 
 #include "app/Application.h"
 #include "controls/Form.h"
@@ -22,8 +21,6 @@ class FOptions {
   enum Command : std::size_t { kOk = 0, kCancel = 1, kHelp = 2 };
 
   explicit FOptions(Application& application);
-  FOptions(const FOptions&) = delete;
-  FOptions& operator=(const FOptions&) = delete;
   ~FOptions();  ///< unloads the dialog
 
   /// Reading converts the field's text and fails with kTypeMismatch when it is no number.
@@ -58,8 +55,8 @@ class FOptions {
   void DisplayHelp();
 
   std::int32_t Number(std::size_t index) const;
-  void SetNumber(std::size_t index, std::int32_t number);
-  void Beep() const;
+  void SetNumber(std::size_t index, std::int32_t number) { txtOptions[index].SetText(std::to_string(number)); }
+  void Beep() const { m_application.desktop.windowing.Beep(); }
   void TellRange(std::size_t index);
 
   Application& m_application;

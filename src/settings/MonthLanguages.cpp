@@ -6,6 +6,7 @@
 #include <string>
 
 #include "app/IgnoreErrors.h"
+#include "base/Text.h"
 #include "settings/SettingsStore.h"
 
 namespace dayvane::settings {
@@ -25,16 +26,11 @@ std::string ToText(const MonthNames& names) {
 }
 
 std::optional<MonthNames> ToMonthNames(const std::string& text) {
+  const auto parts = text::Split(text, kSeparator);
   MonthNames names;
-  std::size_t start = 0;
-  for (std::string& name : names) {
-    if (start > text.size()) return std::nullopt;
-    const auto end = std::min(text.find(kSeparator, start), text.size());
-    name = text.substr(start, end - start);
-    if (name.empty()) return std::nullopt;
-    start = end + 1;
-  }
-  return start > text.size() ? std::optional(names) : std::nullopt;
+  if (parts.size() != names.size() || std::ranges::find(parts, "") != parts.end()) return std::nullopt;
+  std::ranges::copy(parts, names.begin());
+  return names;
 }
 
 }  // namespace

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "settings/SettingsStore.h"
 
-#include <charconv>
 #include <cmath>
 #include <limits>
 
@@ -51,14 +50,14 @@ void CreateSubtree(platform::Registry& registry, const std::string& subtree, con
   writes.Store();
 }
 
-std::string NumberText(double number) {
-  char buffer[32];
-  const auto end = std::to_chars(buffer, buffer + sizeof buffer, number).ptr;
-  return {buffer, end};
-}
-
 std::string FlagText(bool flag) {
   return flag ? "True" : "False";
+}
+
+std::int32_t WholeNumber(const std::string& text) {
+  const auto number = text::ToInt32(text);
+  if (!number) throw Error(kTypeMismatch, "Type mismatch: \"" + text + "\" is no whole number");
+  return *number;
 }
 
 std::optional<std::int16_t> ToInt16(std::string_view text) {

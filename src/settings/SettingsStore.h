@@ -28,9 +28,11 @@ std::unique_ptr<platform::RegistryKey> OpenSubtree(platform::Registry& registry,
 /// created ends it silently, because the caller opens the subtree next and that failure is the one to report.
 void CreateSubtree(platform::Registry& registry, const std::string& subtree, const std::vector<NamedText>& values);
 
-/// Stored texts. Numbers are plain decimals in their shortest form, flags "True" and "False".
-std::string NumberText(double number);
+/// How a flag is stored: "True" or "False". Numbers are stored as text::NumberText writes them.
 std::string FlagText(bool flag);
+
+/// The number that an option's text is. Fails with kTypeMismatch when it is not a whole number.
+std::int32_t WholeNumber(const std::string& text);
 
 /// The value of a stored text, or nothing when it does not convert; fractions round to the even neighbour.
 std::optional<std::int16_t> ToInt16(std::string_view text);

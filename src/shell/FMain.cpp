@@ -114,9 +114,7 @@ void FMain::SetHelpContextIDs() {
 void FMain::Welcome() {
   const std::string text = ResourceString(kWelcome) + "\r\n\r\n" + ResourceString(kWelcomeReviewSettings) + "\r\n" +
                            ResourceString(kWelcomeByOptions) + "\r\n\r\n" + ResourceString(kWelcomeViewHelp);
-  const auto answer = m_application.desktop.windowing.ShowMessage(
-      {text, m_application.info.title, platform::MessageButtons::YesNo, platform::MessageIcon::Information});
-  if (answer == platform::MessageAnswer::Yes) DisplayHelp(kHelpFirstRun);
+  if (m_application.Ask(text, platform::MessageIcon::Information)) DisplayHelp(kHelpFirstRun);
 }
 
 void FMain::PurgeAtStart() {

@@ -5,7 +5,6 @@
 #include <functional>
 #include <memory>
 #include <string>
-#include <vector>
 
 #include "app/Application.h"
 #include "app/Asserting.h"
@@ -54,6 +53,7 @@ class FMain : public FMainControls, private Asserting {
   int DailyImageListIndex(const std::string& shortcutFileName, const std::string& targetFileName);
 
   // The Favorites view.
+  void RebuildFavorites();  ///< from the repository, saved at once, or a kill would bring removed links back
   void RefreshFavorites();
   int FavoritesImageListIndex(const std::string& shortcutFileName, const std::string& targetFileName);
 
@@ -131,7 +131,6 @@ class FMain : public FMainControls, private Asserting {
   const controls::ListView* ActiveList() const;  ///< nullptr when the settings name no view that exists
   void SelectAgain(const std::string& nodeKey, const std::string& rowKey);
   bool AskToRemove(StringId before, const std::string& what, StringId after);
-  void Tell(const std::string& text);
   void ReadShortcut(CShortcut& shortcut, const std::string& key);
   std::string DocumentOf(const std::string& filedShortcut) const;
   void PutBackIntoRecent(const CShortcut& shortcut);

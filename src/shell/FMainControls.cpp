@@ -10,25 +10,20 @@ namespace {
 
 using controls::Menu;
 
-template <class Rows>
-constexpr bool AreInOrder(const Rows& rows) {
-  int next = 0;
-  for (const MenuRow& row : rows)
-    if (row.item != next++) return false;
-  return true;
-}
-static_assert(AreInOrder(kFileRows) && AreInOrder(kViewRows) && AreInOrder(kArrangeRows) && AreInOrder(kToolsRows) &&
-              AreInOrder(kHelpRows) && AreInOrder(kTreeViewRows) && AreInOrder(kTrayRows) &&
-              AreInOrder(kListViewRows) && AreInOrder(kStyleRows));
+static_assert(kFileCaptions.size() == kFileExit + 1 && kViewCaptions.size() == kViewOptions + 1 &&
+              kArrangeCaptions.size() == kArrangeAuto + 1 && kToolsCaptions.size() == kToolsRebuildFavorites + 1 &&
+              kHelpCaptions.size() == kHelpAbout + 1 && kTreeViewCaptions.size() == kTreeViewPurge + 1 &&
+              kTrayCaptions.size() == kTrayExit + 1 && kListViewCaptions.size() == kListViewArrangeIcons + 1 &&
+              kStyleCaptions.size() == kStyleDetails + 1);
 
 struct Submenu {
   int item;
   Menu* menu;
 };
 
-std::vector<Menu::Entry> Entries(std::span<const MenuRow> rows, std::initializer_list<Submenu> submenus = {}) {
+std::vector<Menu::Entry> Entries(std::span<const char* const> captions, std::initializer_list<Submenu> submenus = {}) {
   std::vector<Menu::Entry> entries;
-  for (const MenuRow& row : rows) entries.push_back({row.caption});
+  for (const char* caption : captions) entries.push_back({caption});
   for (const Submenu& submenu : submenus) entries[static_cast<std::size_t>(submenu.item)].submenu = submenu.menu;
   return entries;
 }
@@ -40,20 +35,20 @@ controls::Picture ResourcePicture(int resource) {
 }  // namespace
 
 FMainControls::FMainControls()
-    : mnuFilePopup("&Dayvane", Entries(kFileRows)),
-      mnuViewArrangePopup("Arrange &Icons", Entries(kArrangeRows)),
-      mnuViewPopup("&View", Entries(kViewRows, {{kViewArrangeIcons, &mnuViewArrangePopup}})),
-      mnuToolsPopup("&Tools", Entries(kToolsRows)),
-      mnuHelpPopup("&Help", Entries(kHelpRows)),
-      mnuTreeViewPopup("Tree View", Entries(kTreeViewRows)),
-      mnuSysTrayPopup("Tray", Entries(kTrayRows)),
-      mnuArrangeViewPopup("&View", Entries(kStyleRows)),
-      mnuArrangeIconsPopup("Arrange &Icons", Entries(kArrangeRows)),
-      mnuListViewPopup("ListView", Entries(kListViewRows, {{kListViewView, &mnuArrangeViewPopup},
-                                                           {kListViewArrangeIcons, &mnuArrangeIconsPopup}})) {
+    : mnuFilePopup("&Dayvane", Entries(kFileCaptions)),
+      mnuViewArrangePopup("Arrange &Icons", Entries(kArrangeCaptions)),
+      mnuViewPopup("&View", Entries(kViewCaptions, {{kViewArrangeIcons, &mnuViewArrangePopup}})),
+      mnuToolsPopup("&Tools", Entries(kToolsCaptions)),
+      mnuHelpPopup("&Help", Entries(kHelpCaptions)),
+      mnuTreeViewPopup("Tree View", Entries(kTreeViewCaptions)),
+      mnuSysTrayPopup("Tray", Entries(kTrayCaptions)),
+      mnuArrangeViewPopup("&View", Entries(kStyleCaptions)),
+      mnuArrangeIconsPopup("Arrange &Icons", Entries(kArrangeCaptions)),
+      mnuListViewPopup("ListView", Entries(kListViewCaptions, {{kListViewView, &mnuArrangeViewPopup},
+                                                               {kListViewArrangeIcons, &mnuArrangeIconsPopup}})) {
   picFavorites.SetVisible(false);  // One pane at a time, also when the settings name no view that exists.
   BuildLists();
-  BuildToolbar();
+  for (const ToolbarRow& row : kToolbarRows) sftToolbar[row.button].SetToolTipText(row.tip);
 }
 
 void FMainControls::BuildLists() {
@@ -67,10 +62,6 @@ void FMainControls::BuildLists() {
     images->Add(ResourcePicture(kDefaultDocumentPicture));
   lvwDaily.SetImages(&imlLarge, &imlSmall);
   lvwFavorites.SetImages(&imlFavoritesLarge, &imlFavoritesSmall);
-}
-
-void FMainControls::BuildToolbar() {
-  for (const ToolbarRow& row : kToolbarRows) sftToolbar[row.button].SetToolTipText(row.tip);
 }
 
 }  // namespace dayvane

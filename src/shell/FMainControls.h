@@ -23,9 +23,6 @@ class FMainControls {
  public:
   static constexpr std::size_t kToolbarStrip = 3;
 
-  FMainControls(const FMainControls&) = delete;
-  FMainControls& operator=(const FMainControls&) = delete;
-
   controls::Signal<FOptions&> OptionsLoaded;  ///< for presenters: the options dialog is shown next
 
   // The window and its controls.
@@ -66,7 +63,6 @@ class FMainControls {
 
  private:
   void BuildLists();
-  void BuildToolbar();
 };
 
 }  // namespace dayvane

@@ -62,9 +62,7 @@ void FMain::mnuToolsPopup_Click(int index) {
     auto waitCursor = ShowWait();
     if (index == kToolsExplore) return m_oDaily->Explore();
     if (index == kToolsOpenFolder) return m_oDaily->OpenFolder();
-    m_oFavorites->RebuildFavorites();
-    m_oFavorites->Save();
-    RefreshFavorites();
+    RebuildFavorites();
     RefreshStatusBar(std::move(waitCursor));
   });
 }
@@ -174,12 +172,7 @@ void FMain::Exit() {
 }
 
 void FMain::Find() {
-  Tell("Display find dialog box here.");
-}
-
-void FMain::Tell(const std::string& text) {
-  m_application.desktop.windowing.ShowMessage(
-      {text, m_application.info.title, platform::MessageButtons::Ok, platform::MessageIcon::Information});
+  m_application.Tell("Display find dialog box here.");
 }
 
 void FMain::DisplayHelp(int context) {

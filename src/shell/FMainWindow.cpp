@@ -3,6 +3,7 @@
 // The window's life: shown and hidden, activated, resized, closed; its views and its settings.
 
 #include "app/ReportErrors.h"
+#include "base/Text.h"
 #include "settings/COptions.h"
 #include "settings/SettingsStore.h"
 #include "shell/FMain.h"
@@ -22,10 +23,10 @@ enum ViewSetting : std::size_t { kData, kListViews };
 std::vector<settings::NamedText> WindowDefaults(const controls::Form& form) {
   return {{"Visible", "True"},
           {"Window State", std::to_string(static_cast<int>(form.State()))},
-          {"Left", settings::NumberText(form.Left())},
-          {"Top", settings::NumberText(form.Top())},
-          {"Width", settings::NumberText(form.Width())},
-          {"Height", settings::NumberText(form.Height())}};
+          {"Left", text::NumberText(form.Left())},
+          {"Top", text::NumberText(form.Top())},
+          {"Width", text::NumberText(form.Width())},
+          {"Height", text::NumberText(form.Height())}};
 }
 
 const std::vector<settings::NamedText>& ViewDefaults() {
@@ -100,10 +101,10 @@ void FMain::SaveWindow() {
   key->SetValue("Visible", settings::FlagText(form.Visible()));
   key->SetValue("Window State", std::to_string(static_cast<int>(form.State())));
   if (form.State() != WindowState::Normal) return;
-  key->SetValue("Left", settings::NumberText(form.Left()));
-  key->SetValue("Top", settings::NumberText(form.Top()));
-  key->SetValue("Width", settings::NumberText(form.Width()));
-  key->SetValue("Height", settings::NumberText(form.Height()));
+  key->SetValue("Left", text::NumberText(form.Left()));
+  key->SetValue("Top", text::NumberText(form.Top()));
+  key->SetValue("Width", text::NumberText(form.Width()));
+  key->SetValue("Height", text::NumberText(form.Height()));
 }
 
 void FMain::SaveViews() {

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <string>
-
 #include "app/Application.h"
 #include "controls/Form.h"
 #include "controls/SimpleControls.h"
@@ -15,8 +13,6 @@ class FSplash {
   static constexpr const char* kName = "FSplash";
 
   explicit FSplash(const ProgramInfo& info);
-  FSplash(const FSplash&) = delete;
-  FSplash& operator=(const FSplash&) = delete;
 
   /// Shows the window and returns at once.
   void Show() { form.SetVisible(true); }

@@ -3,7 +3,6 @@
 
 #include <array>
 #include <cstddef>
-#include <span>
 
 #include "resources/MHelpConstants.h"
 #include "resources/MResourceConstants.h"
@@ -12,16 +11,8 @@
 /// is the index that the event of its menu or button carries; separators have one too.
 namespace dayvane {
 
-/// One item of a menu. "&" marks the access key, "-" is a separator.
-struct MenuRow {
-  int item;
-  const char* caption;
-};
-
 enum FileItem : int { kFileSuspend, kFileResume, kFileHide, kFileSeparator, kFileExit };
-inline constexpr std::array kFileRows{MenuRow{kFileSuspend, "S&uspend"}, MenuRow{kFileResume, "&Resume"},
-                                      MenuRow{kFileHide, "&Hide"}, MenuRow{kFileSeparator, "-"},
-                                      MenuRow{kFileExit, "E&xit"}};
+inline constexpr std::array kFileCaptions{"S&uspend", "&Resume", "&Hide", "-", "E&xit"};
 
 enum ViewItem : int {
   kViewDaily,
@@ -37,23 +28,13 @@ enum ViewItem : int {
   kViewSeparator3,
   kViewOptions
 };
-inline constexpr std::array kViewRows{MenuRow{kViewDaily, "D&aily"},
-                                      MenuRow{kViewFavorites, "&Favorites"},
-                                      MenuRow{kViewDesktop, "D&esktop"},
-                                      MenuRow{kViewSeparator, "-"},
-                                      MenuRow{kViewLargeIcons, "Lar&ge Icons"},
-                                      MenuRow{kViewSmallIcons, "S&mall Icons"},
-                                      MenuRow{kViewList, "&List"},
-                                      MenuRow{kViewDetails, "&Details"},
-                                      MenuRow{kViewSeparator2, "-"},
-                                      MenuRow{kViewArrangeIcons, "Arrange &Icons"},
-                                      MenuRow{kViewSeparator3, "-"},
-                                      MenuRow{kViewOptions, "&Options"}};
+inline constexpr std::array kViewCaptions{
+    "D&aily",   "&Favorites", "D&esktop",       "-", "Lar&ge Icons", "S&mall Icons", "&List",
+    "&Details", "-",          "Arrange &Icons", "-", "&Options"};
 
 /// Of the View menu's submenu and of the lists' context menu.
 enum ArrangeItem : int { kArrangeByName, kArrangeByType, kArrangeSeparator, kArrangeAuto };
-inline constexpr std::array kArrangeRows{MenuRow{kArrangeByName, "by &Name"}, MenuRow{kArrangeByType, "by &Type"},
-                                         MenuRow{kArrangeSeparator, "-"}, MenuRow{kArrangeAuto, "&Auto Arrange"}};
+inline constexpr std::array kArrangeCaptions{"by &Name", "by &Type", "-", "&Auto Arrange"};
 
 enum ToolsItem : int {
   kToolsFind,
@@ -63,18 +44,13 @@ enum ToolsItem : int {
   kToolsSeparator2,
   kToolsRebuildFavorites
 };
-inline constexpr std::array kToolsRows{
-    MenuRow{kToolsFind, "&Find..."},    MenuRow{kToolsSeparator, "-"},
-    MenuRow{kToolsExplore, "&Explore"}, MenuRow{kToolsOpenFolder, "&Open"},
-    MenuRow{kToolsSeparator2, "-"},     MenuRow{kToolsRebuildFavorites, "&Rebuild Favorites"}};
+inline constexpr std::array kToolsCaptions{"&Find...", "-", "&Explore", "&Open", "-", "&Rebuild Favorites"};
 
 enum HelpItem : int { kHelpTopics, kHelpSeparator, kHelpKorvathOnline, kHelpSeparator2, kHelpAbout };
-inline constexpr std::array kHelpRows{MenuRow{kHelpTopics, "&Dayvane Help Topics"}, MenuRow{kHelpSeparator, "-"},
-                                      MenuRow{kHelpKorvathOnline, "&Korvath Online"}, MenuRow{kHelpSeparator2, "-"},
-                                      MenuRow{kHelpAbout, "&About Dayvane"}};
+inline constexpr std::array kHelpCaptions{"&Dayvane Help Topics", "-", "&Korvath Online", "-", "&About Dayvane"};
 
 enum TreeViewItem : int { kTreeViewPurge };
-inline constexpr std::array kTreeViewRows{MenuRow{kTreeViewPurge, "&Purge"}};
+inline constexpr std::array kTreeViewCaptions{"&Purge"};
 
 enum TrayItem : int {
   kTrayShow,
@@ -86,10 +62,7 @@ enum TrayItem : int {
   kTraySeparator2,
   kTrayExit
 };
-inline constexpr std::array kTrayRows{MenuRow{kTrayShow, "&Show"},       MenuRow{kTrayHide, "&Hide"},
-                                      MenuRow{kTraySuspend, "S&uspend"}, MenuRow{kTrayResume, "&Resume"},
-                                      MenuRow{kTraySeparator, "-"},      MenuRow{kTrayAbout, "&About Dayvane"},
-                                      MenuRow{kTraySeparator2, "-"},     MenuRow{kTrayExit, "E&xit"}};
+inline constexpr std::array kTrayCaptions{"&Show", "&Hide", "S&uspend", "&Resume", "-", "&About Dayvane", "-", "E&xit"};
 
 enum ListViewItem : int {
   kListViewOpen,
@@ -98,15 +71,11 @@ enum ListViewItem : int {
   kListViewSeparator2,
   kListViewArrangeIcons
 };
-inline constexpr std::array kListViewRows{MenuRow{kListViewOpen, "&Open"}, MenuRow{kListViewSeparator, "-"},
-                                          MenuRow{kListViewView, "&View"}, MenuRow{kListViewSeparator2, "-"},
-                                          MenuRow{kListViewArrangeIcons, "Arrange &Icons"}};
+inline constexpr std::array kListViewCaptions{"&Open", "-", "&View", "-", "Arrange &Icons"};
 
 /// The context menu's submenu of list styles, in their order.
 enum StyleItem : int { kStyleLargeIcons, kStyleSmallIcons, kStyleList, kStyleDetails };
-inline constexpr std::array kStyleRows{MenuRow{kStyleLargeIcons, "Lar&ge Icons"},
-                                       MenuRow{kStyleSmallIcons, "S&mall Icons"}, MenuRow{kStyleList, "&List"},
-                                       MenuRow{kStyleDetails, "&Details"}};
+inline constexpr std::array kStyleCaptions{"Lar&ge Icons", "S&mall Icons", "&List", "&Details"};
 
 enum ToolbarButton : std::size_t {
   kDailyButton,

@@ -55,10 +55,6 @@ void CCalendar::HighlightDays(const Date& date) {
   m_calendar->Redraw();
 }
 
-void CCalendar::Refresh() {
-  Demand(m_calendar, ".Refresh: Calendar is Nothing").Redraw();
-}
-
 void CCalendar::SetListed(const Date& date) {
   if (m_calendar == nullptr) return;
   m_calendar->SetListedDay(date.IsZero() ? std::nullopt : std::optional(ToDay(date)));

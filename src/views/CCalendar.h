@@ -27,7 +27,7 @@ class CCalendar : private Asserting {
 
   /// Highlights the days of the date's month that have a day folder, empty or not.
   void HighlightDays(const Date& date);
-  void Refresh();
+  void Refresh() { Demand(m_calendar, ".Refresh: Calendar is Nothing").Redraw(); }
 
   /// Tells the day whose documents are listed, or with the zero date that no day is.
   void SetListed(const Date& date);

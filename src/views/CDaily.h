@@ -14,24 +14,25 @@ class CDaily : public DocumentListView {
  public:
   static constexpr const char* ClassName = "CDaily";
 
-  explicit CDaily(Application& application) : DocumentListView(application, ClassName) {}
+  explicit CDaily(Application& application)
+      : DocumentListView(application, ClassName, "Daily", {"Name", "Type", "Path", "Modified"}) {}
 
   /// The controls, not owned. Their events are handled from then on.
   void SetControls(controls::TreeView* treeView, controls::ListView* listView, controls::PictureBox* container);
 
-  controls::TreeNode* SelectedDay() const;  ///< the tree's selected node, or nullptr
+  /// The tree's selected node, or nullptr.
+  controls::TreeNode* SelectedDay() const { return Tree("SelectedDay").SelectedItem(); }
 
   /// Sizes the pane, in twips; tree and list follow, each reaching 30 twips past its inner edge.
-  void SetSize(int width, int height);
+  void SetSize(int width, int height) { SizePane(width, height); }
 
   /// Show the folder of the selected document, with and without the folder tree. With none selected: a beep.
-  void Explore() const;
-  void OpenFolder() const;
+  void Explore() const { ShowFolder(List("Explore"), "/n,/e,/root,"); }
+  void OpenFolder() const { ShowFolder(List("OpenFolder"), "/n,"); }
 
   /// Removes a row. Fails with kElementNotFound when the list has none of that key.
-  void RemoveDocument(const std::string& key);
+  void RemoveDocument(const std::string& key) { List("RemoveDocument").Remove(key); }
 
-  void CreateRegistryKeys();
   void RestoreSettings();
   void SaveSettings() const;
 
@@ -40,7 +41,9 @@ class CDaily : public DocumentListView {
  private:
   void Container_Resize() override;
   void ShowFolder(const controls::ListView& list, const std::string& explorerArguments) const;
-  controls::TreeView& Tree(const std::string& procedure) const;
+  controls::TreeView& Tree(const std::string& procedure) const {
+    return Demand(m_treeView, "." + procedure + ": TreeView is Nothing");
+  }
 
   controls::TreeView* m_treeView = nullptr;
   controls::Connection m_nodeClick;

@@ -22,7 +22,9 @@ class CFavorites : public DocumentListView {
  public:
   static constexpr const char* ClassName = "CFavorites";
 
-  explicit CFavorites(Application& application) : DocumentListView(application, ClassName) {}
+  explicit CFavorites(Application& application)
+      : DocumentListView(application, ClassName, "Favorites",
+                         {"Name", "Type", "Path", "Days Accessed", "Last Accessed"}) {}
 
   // Set by the owner before use.
   std::string AppPath;      ///< folder of the data file, without a trailing "\"
@@ -74,11 +76,10 @@ class CFavorites : public DocumentListView {
   void SetSize(int width, int height);
 
   /// Puts the list in the order of the last column click, or of the settings.
-  void SortAgain();
+  void SortAgain() { SortByColumn(List("SortAgain"), m_sortColumn, m_sortOrder); }
 
-  void CreateRegistryKeys();
   void RestoreSettings();
-  void SaveSettings() const;
+  void SaveSettings() const { SaveColumns({m_sortColumn, m_sortOrder}); }
 
  private:
   std::string DataFile() const;

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "app/ReportErrors.h"
+#include "base/Text.h"
 #include "controls/Keys.h"
 
 namespace dayvane {
@@ -12,15 +13,12 @@ using controls::ListArrange;
 using controls::ListStyle;
 using controls::SortOrder;
 
-DocumentListView::DocumentListView(Application& application, std::string_view className)
-    : Asserting(application, className), m_application(application), m_className(className) {}
-
-controls::ListView& DocumentListView::List(const std::string& procedure) const {
-  return Demand(m_listView, "." + procedure + ": ListView is Nothing");
-}
-
-controls::PictureBox& DocumentListView::Container(const std::string& procedure) const {
-  return Demand(m_container, "." + procedure + ": Container is Nothing");
+DocumentListView::DocumentListView(Application& application, std::string_view className, const char* subtree,
+                                   std::initializer_list<const char*> columns)
+    : Asserting(application, className), m_application(application), m_className(className), m_subtree(subtree) {
+  for (const char* column : columns) m_defaults.push_back({std::string(column) + " Width", "1440"});
+  m_defaults.push_back({"Sort Column", "1"});
+  m_defaults.push_back({"Sort Order", "0"});
 }
 
 template <class Handler>
@@ -51,22 +49,6 @@ void DocumentListView::SetListControls(controls::ListView* listView, controls::P
                [this](int button, double x, double y) { ListView_MouseUp(button, x, y); })));
 }
 
-controls::ListItem* DocumentListView::SelectedDocument() const {
-  return List("SelectedDocument").SelectedItem();
-}
-ListStyle DocumentListView::View() const {
-  return List("View").View();
-}
-void DocumentListView::SetView(ListStyle style) {
-  List("View").SetView(style);
-}
-bool DocumentListView::Visible() const {
-  return Container("Visible").Visible();
-}
-void DocumentListView::SetVisible(bool visible) {
-  Container("Visible").SetVisible(visible);
-}
-
 void DocumentListView::ArrangeIcons(int order) {
   controls::ListView& list = List("ArrangeIcons");
   switch (order) {
@@ -84,17 +66,11 @@ void DocumentListView::ArrangeIcons(int order) {
 }
 
 void DocumentListView::ListView_ColumnClick(std::size_t column) {
-  ReportErrors(m_application, kChangingSortOrder, m_className, "ListView_ColumnClick", [&] {
-    // Another column is sorted in the order last used, deliberately not set back to ascending.
-    if (column == m_sortColumn)
-      m_sortOrder = m_sortOrder == SortOrder::Ascending ? SortOrder::Descending : SortOrder::Ascending;
-    m_sortColumn = column;
-    SortByColumn(List("ListView_ColumnClick"), m_sortColumn, m_sortOrder);
-  });
-}
-
-void DocumentListView::ListView_DblClick() {
-  if (controls::ListItem* document = SelectedDocument()) DblClick.Raise(*document);
+  // Another column is sorted in the order last used, deliberately not set back to ascending.
+  if (column == m_sortColumn)
+    m_sortOrder = m_sortOrder == SortOrder::Ascending ? SortOrder::Descending : SortOrder::Ascending;
+  m_sortColumn = column;
+  SortByColumn(List("ListView_ColumnClick"), m_sortColumn, m_sortOrder);
 }
 
 void DocumentListView::ListView_KeyUp(int keyCode, int modifiers) {
@@ -120,22 +96,25 @@ void SortByColumn(controls::ListView& list, std::size_t column, SortOrder order)
   list.SetSorted(true);
 }
 
-DocumentListView::Sort DocumentListView::RestoreColumns(const char* subtree,
-                                                        const std::vector<settings::NamedText>& defaults) const {
+void DocumentListView::SizePane(int width, int height) {
+  controls::PictureBox& container = Container("SetSize");
+  container.Move(container.Left(), container.Top(), width, height);
+}
+
+DocumentListView::Sort DocumentListView::RestoreColumns() const {
   controls::ListView& list = List("RestoreSettings");
-  const settings::Subtree stored(m_application.desktop.registry, subtree, defaults);
+  const settings::Subtree stored(m_application.desktop.registry, m_subtree, m_defaults);
   const std::size_t columns = list.Columns().size();
   for (std::size_t column = 0; column < columns; ++column) list.SetColumnWidth(column, stored.Number(column));
   return {static_cast<std::size_t>(stored.Number(columns)),
           stored.Number(columns + 1) == 1 ? controls::SortOrder::Descending : controls::SortOrder::Ascending};
 }
 
-void DocumentListView::SaveColumns(const char* subtree, const std::vector<settings::NamedText>& defaults,
-                                   const Sort& sort) const {
+void DocumentListView::SaveColumns(const Sort& sort) const {
   const controls::ListView& list = List("SaveSettings");
-  const auto key = settings::OpenSubtree(m_application.desktop.registry, subtree);
+  const auto key = settings::OpenSubtree(m_application.desktop.registry, m_subtree);
   for (std::size_t column = 0; column < list.Columns().size(); ++column)
-    key->SetValue(defaults[column].name, settings::NumberText(list.Columns()[column].width));
+    key->SetValue(m_defaults[column].name, text::NumberText(list.Columns()[column].width));
   // Through the stored type, so that the number of a column that does not exist goes back as it came.
   key->SetValue("Sort Column", std::to_string(static_cast<std::int16_t>(sort.column)));
   key->SetValue("Sort Order", std::to_string(static_cast<int>(sort.order)));

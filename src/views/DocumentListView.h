@@ -23,7 +23,9 @@ class DocumentListView : protected Asserting {
   static constexpr std::size_t kPathColumn = 2;
   static constexpr std::size_t kModifiedColumn = 3;  ///< of the Daily list
 
-  DocumentListView(Application& application, std::string_view className);
+  /// `subtree` of the settings keeps the widths of the columns, by these names, and the sort.
+  DocumentListView(Application& application, std::string_view className, const char* subtree,
+                   std::initializer_list<const char*> columns);
   DocumentListView(const DocumentListView&) = delete;
   DocumentListView& operator=(const DocumentListView&) = delete;
   virtual ~DocumentListView() = default;
@@ -31,14 +33,17 @@ class DocumentListView : protected Asserting {
   /// The controls, not owned; nullptr for none. Their events are handled from then on.
   void SetListControls(controls::ListView* listView, controls::PictureBox* container);
 
-  controls::ListItem* SelectedDocument() const;  ///< the selected row, or nullptr
-  controls::ListStyle View() const;
-  void SetView(controls::ListStyle style);
-  bool Visible() const;  ///< of the pane
-  void SetVisible(bool visible);
+  /// The selected row, or nullptr.
+  controls::ListItem* SelectedDocument() const { return List("SelectedDocument").SelectedItem(); }
+  controls::ListStyle View() const { return List("View").View(); }
+  void SetView(controls::ListStyle style) { List("View").SetView(style); }
+  bool Visible() const { return Container("Visible").Visible(); }  ///< of the pane
+  void SetVisible(bool visible) { Container("Visible").SetVisible(visible); }
 
   /// 0 sorts by type, 1 by path, both ascending; 2 arranges the icons along the top, 3 leaves them. Others do nothing.
   void ArrangeIcons(int order);
+
+  void CreateRegistryKeys() { settings::CreateSubtree(m_application.desktop.registry, m_subtree, m_defaults); }
 
   controls::Signal<controls::ListItem&> DblClick;
   controls::Signal<> ItemClick;
@@ -46,18 +51,24 @@ class DocumentListView : protected Asserting {
 
  protected:
   /// Fail with kObjectNotSet, after the assertion, when the control is missing.
-  controls::ListView& List(const std::string& procedure) const;
-  controls::PictureBox& Container(const std::string& procedure) const;
+  controls::ListView& List(const std::string& procedure) const {
+    return Demand(m_listView, "." + procedure + ": ListView is Nothing");
+  }
+  controls::PictureBox& Container(const std::string& procedure) const {
+    return Demand(m_container, "." + procedure + ": Container is Nothing");
+  }
   bool HasList() const { return m_listView != nullptr; }
 
-  /// The widths of the columns and the sort, as the settings keep them: the defaults of a list's subtree are the widths
-  /// in the order of the columns, then "Sort Column" and "Sort Order".
+  /// Reads and writes the widths of the columns, which are the list's, and the sort.
   struct Sort {
     std::size_t column = 0;
     controls::SortOrder order = controls::SortOrder::Ascending;
   };
-  Sort RestoreColumns(const char* subtree, const std::vector<settings::NamedText>& defaults) const;
-  void SaveColumns(const char* subtree, const std::vector<settings::NamedText>& defaults, const Sort& sort) const;
+  Sort RestoreColumns() const;
+  void SaveColumns(const Sort& sort) const;
+
+  /// Sizes the pane, in twips.
+  void SizePane(int width, int height);
 
   /// Lays the controls out inside the pane.
   virtual void Container_Resize() = 0;
@@ -74,11 +85,15 @@ class DocumentListView : protected Asserting {
   auto Reported(StringId phrase, const char* procedure, Handler handler);
 
   void ListView_ColumnClick(std::size_t column);
-  void ListView_DblClick();
+  void ListView_DblClick() {
+    if (controls::ListItem* document = SelectedDocument()) DblClick.Raise(*document);
+  }
   void ListView_KeyUp(int keyCode, int modifiers);
   void ListView_MouseUp(int button, double x, double y);
 
   std::string m_className;
+  const char* m_subtree;
+  std::vector<settings::NamedText> m_defaults;
   controls::ListView* m_listView = nullptr;
   controls::PictureBox* m_container = nullptr;
   std::vector<controls::Connection> m_connections;

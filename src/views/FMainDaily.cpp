@@ -6,6 +6,7 @@
 #include "app/MDayvane.h"
 #include "app/ReportErrors.h"
 #include "base/Error.h"
+#include "base/ScopedValue.h"
 #include "base/Text.h"
 #include "capture/CFileInfo.h"
 #include "capture/CShortcut.h"
@@ -22,18 +23,6 @@ using views::PathOf;
 
 namespace {
 
-/// A flag that is up as long as this lives, also when an error ends that.
-class Raised {
- public:
-  explicit Raised(bool& flag) : m_flag(flag) { flag = true; }
-  Raised(const Raised&) = delete;
-  Raised& operator=(const Raised&) = delete;
-  ~Raised() { m_flag = false; }
-
- private:
-  bool& m_flag;
-};
-
 /// A node's picture tells its level.
 bool IsDay(const controls::TreeNode& node) {
   return node.image == kDayPicture;
@@ -44,13 +33,6 @@ std::string OrderText(const platform::FileMoment& moment) {
   constexpr std::size_t kDigits = 20;
   const std::string text = std::to_string(static_cast<std::uint64_t>(moment.nanoseconds) + (std::uint64_t{1} << 63U));
   return std::string(kDigits - text.size(), '0') + text;
-}
-
-std::string KeyOfItem(const controls::ListItem* item) {
-  return item == nullptr ? std::string() : item->key;
-}
-std::string KeyOfNode(const controls::TreeNode* node) {
-  return node == nullptr ? std::string() : node->key;
 }
 
 }  // namespace
@@ -77,9 +59,9 @@ Date FMain::LatestDay() const {
 void FMain::RefreshDaily() {
   const controls::UpdateScope updateTree(tvwMain);
   const controls::UpdateScope updateList(lvwDaily);
-  const std::string nodeKey = KeyOfNode(tvwMain.SelectedItem());
+  const std::string nodeKey = tvwMain.SelectedKey();
   tvwMain.Clear();
-  const std::string rowKey = KeyOfItem(lvwDaily.SelectedItem());
+  const std::string rowKey = lvwDaily.SelectedKey();
   lvwDaily.Clear();
   ShowListedDay(nullptr);
   const std::string& root = m_repository.DailyPath();
@@ -234,7 +216,7 @@ void FMain::m_oDaily_TreeViewNodeClick(const controls::TreeNode& node) {
     auto waitCursor = ShowWait();
     LoadDailyListView(&node);
     {
-      const Raised inTreeClick(m_inTreeClick);
+      const ScopedValue inTreeClick(m_inTreeClick, true);
       m_oCalendar->SetValue(PathToDate(m_application, node.key));
     }
     RefreshStatusBar(std::move(waitCursor));

@@ -42,9 +42,9 @@ void FMain::OpenDocument(const controls::ListItem* item) {
       remove =
           AskToRemove(kThePath, shell.DisplayPath(shell.SplitPath(shortcut.TargetFile()).folder), kThePathWasNotFound);
     else if (result == platform::kSeNoAssociation)
-      Tell(ResourceString(kDocumentsOfThisType) + "\r\n" + ResourceString(kAreNotAssociated));
+      m_application.Tell(ResourceString(kDocumentsOfThisType) + "\r\n" + ResourceString(kAreNotAssociated));
     else if (IsSystemError(result))
-      Tell(ResourceString(kOperatingSystemError));
+      m_application.Tell(ResourceString(kOperatingSystemError));
     else
       PutBackIntoRecent(shortcut);
     if (remove) RemoveLink(&document);
@@ -53,9 +53,7 @@ void FMain::OpenDocument(const controls::ListItem* item) {
 
 bool FMain::AskToRemove(StringId before, const std::string& what, StringId after) {
   const std::string question = ResourceString(before) + what + "\r\n" + ResourceString(after);
-  const auto answer = m_application.desktop.windowing.ShowMessage(
-      {question, m_application.info.title, platform::MessageButtons::YesNo, platform::MessageIcon::Question});
-  return answer == platform::MessageAnswer::Yes;
+  return m_application.Ask(question, platform::MessageIcon::Question);
 }
 
 void FMain::ReadShortcut(CShortcut& shortcut, const std::string& key) {
@@ -101,11 +99,7 @@ void FMain::RemoveLink(const controls::ListItem* item) {
     IgnoreErrors([&] { files.Delete(m_recentFolder + "\\" + m_application.shellServices.SplitPath(path).fileName); });
     // From the Favorites view the day that is shown need not be the document's.
     if (lvwDaily.Find(key) != nullptr) m_oDaily->RemoveDocument(key);
-    if (m_oFavorites->RemoveDocument(key)) {
-      m_oFavorites->RebuildFavorites();
-      m_oFavorites->Save();  // or a kill would bring the link back
-      RefreshFavorites();
-    }
+    if (m_oFavorites->RemoveDocument(key)) RebuildFavorites();
     if (m_repository.PurgeEmptyFolders()) {
       RefreshDaily();
       RefreshCalendar();
@@ -119,9 +113,7 @@ void FMain::PurgeDay(const controls::TreeNode* node) {
   m_repository.PurgeDay(PathOf(Demand(node, ".PurgeDay: Node is nothing").key));
   RefreshDaily();
   RefreshCalendar();
-  m_oFavorites->RebuildFavorites();
-  m_oFavorites->Save();
-  RefreshFavorites();
+  RebuildFavorites();
 }
 
 void FMain::Explore() {

@@ -33,11 +33,16 @@ std::string LastAccessedText(const favorites::Value& value, const platform::Date
 
 }  // namespace
 
+void FMain::RebuildFavorites() {
+  m_oFavorites->RebuildFavorites();
+  m_oFavorites->Save();
+  RefreshFavorites();
+}
+
 void FMain::RefreshFavorites() {
   Assert(m_oFavorites != nullptr, ".RefreshFavorites: Favorites object is nothing");
   const controls::UpdateScope update(lvwFavorites);
-  const auto* selected = lvwFavorites.SelectedItem();
-  const std::string selectedKey = selected == nullptr ? std::string() : selected->key;
+  const std::string selectedKey = lvwFavorites.SelectedKey();
   lvwFavorites.Clear();
   for (const favorites::Record& record : m_oFavorites->GetFavorites()) {
     if (!Reaches(record[favorites::kDaysAccessed], m_favoritesThreshold)) continue;

@@ -21,15 +21,6 @@ std::string Line(const std::string& shortcutFile) {
   return std::to_string(shortcutFile.size()) + " " + shortcutFile + "\n";
 }
 
-/// Removes the first whole line from the text and returns it without its end; nothing when there is none.
-std::optional<std::string_view> TakeLine(std::string_view& text) {
-  const auto end = text.find('\n');
-  if (end == std::string_view::npos) return std::nullopt;
-  const std::string_view line = text.substr(0, end);
-  text.remove_prefix(end + 1);
-  return line;
-}
-
 std::optional<std::string> PathOf(std::string_view line) {
   const auto blank = std::min(line.find(' '), line.size());
   const std::string_view path = line.substr(std::min(blank + 1, line.size()));
@@ -55,7 +46,7 @@ std::vector<std::string> FavoritesJournal::Read(const std::string& identity) con
   std::string_view rest = bytes;
   std::unordered_set<std::string> seen;
   bool isOfThisVersion = false;
-  while (const auto line = TakeLine(rest)) {
+  while (const auto line = text::TakeLine(rest)) {
     if (line->starts_with(kTitle)) isOfThisVersion = line->substr(kTitle.size()) == identity;
     auto path = isOfThisVersion ? PathOf(*line) : std::nullopt;
     if (path && seen.insert(*path).second) paths.push_back(std::move(*path));

@@ -2,7 +2,6 @@
 #include "views/FavoritesValue.h"
 
 #include <array>
-#include <charconv>
 #include <cmath>
 #include <optional>
 
@@ -22,12 +21,6 @@ std::string FormatDate(const Date& date) {
   const bool timeAlone = !date.HasDatePart();
   const char* pattern = timeAlone ? "hh:nn:ss" : date.HasTimePart() ? "yyyy-mm-dd hh:nn:ss" : "yyyy-mm-dd";
   return "#" + Format(date, pattern, plain) + "#";
-}
-
-std::string FormatNumber(double number) {
-  char buffer[64];
-  const auto end = std::to_chars(buffer, buffer + sizeof buffer, number).ptr;
-  return {buffer, end};
 }
 
 /// A date-time as FormatDate writes it. The half that it leaves out is the zero date's.
@@ -60,7 +53,7 @@ std::optional<Date> ParseDate(std::string_view written) {
 std::string FormatValue(const Value& value) {
   if (const auto* whole = std::get_if<std::int64_t>(&value)) return std::to_string(*whole);
   if (const auto* number = std::get_if<double>(&value))
-    return FormatNumber(*number + 0.0);  // a negative zero is zero
+    return text::NumberText(*number + 0.0);  // a negative zero is zero
   if (const auto* date = std::get_if<Date>(&value)) return FormatDate(*date);
   if (const auto* text = std::get_if<std::string>(&value)) return '"' + *text + '"';
   return {};

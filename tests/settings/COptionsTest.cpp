@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "base/Error.h"
+#include "base/Text.h"
 #include "settings/COptions.h"
 #include "settings/FOptions.h"
 #include "settings/SettingsStore.h"
@@ -157,9 +158,9 @@ TEST_F(COptionsTest, OptionsThatCannotBeStoredAreAnErrorForTheCaller) {
 }
 
 TEST(SettingsStore, NumbersAreStoredInTheirShortestDecimalForm) {
-  EXPECT_EQ(settings::NumberText(1440), "1440");
-  EXPECT_EQ(settings::NumberText(1012.5), "1012.5");
-  EXPECT_EQ(settings::NumberText(-7), "-7");
+  EXPECT_EQ(text::NumberText(1440), "1440");
+  EXPECT_EQ(text::NumberText(1012.5), "1012.5");
+  EXPECT_EQ(text::NumberText(-7), "-7");
 }
 
 TEST(SettingsStore, ASizeBeyondSixteenBitsDoesNotConvert) {

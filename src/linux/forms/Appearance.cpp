@@ -5,7 +5,6 @@
 #include <QStyle>
 #include <QStyleFactory>
 #include <cstring>
-#include <utility>
 
 namespace dayvane::widgets {
 
@@ -94,14 +93,6 @@ Appearance::Appearance()
                     const glib::Variant held(value);
                     Read(space, key, value);
                   }}) {}
-
-void Appearance::SetDark(bool dark) {
-  if (std::exchange(m_dark, dark) != dark) Show();
-}
-
-void Appearance::SetHighContrast(bool highContrast) {
-  if (std::exchange(m_highContrast, highContrast) != highContrast) Show();
-}
 
 void Appearance::Show() {
   const bool themeIsDark = IsDark(m_usualPalette.color(QPalette::Window), m_usualPalette.color(QPalette::WindowText));

@@ -4,6 +4,7 @@
 #include <QPalette>
 #include <QString>
 #include <string>
+#include <utility>
 
 #include "linux/tray/BusObject.h"
 
@@ -25,8 +26,12 @@ class Appearance {
  public:
   Appearance();
 
-  void SetDark(bool dark);
-  void SetHighContrast(bool highContrast);
+  void SetDark(bool dark) {
+    if (std::exchange(m_dark, dark) != dark) Show();
+  }
+  void SetHighContrast(bool highContrast) {
+    if (std::exchange(m_highContrast, highContrast) != highContrast) Show();
+  }
 
  private:
   void Ask();

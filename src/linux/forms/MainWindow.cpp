@@ -61,7 +61,7 @@ MainWindow::MainWindow(FMainControls& main, const Icons& icons, const platform::
 void MainWindow::BuildClient() {
   setCentralWidget(&m_client);
   BuildDailyPane();
-  BuildFavoritesPane();
+  m_favorites.Add(m_main.lvwFavorites, m_favoritesList);
   m_placement.Add(m_main.picDaily, m_daily);
   m_placement.Add(m_main.picFavorites, m_favorites);
   m_placement.Add(m_main.sbrMain, m_statusBar);
@@ -80,10 +80,6 @@ void MainWindow::BuildDailyPane() {
   m_daily.Add(m_main.tvwMain, m_tree);
   m_daily.Add(m_main.lvwDaily, m_dailyList);
   m_splitter.setParent(&m_daily);
-}
-
-void MainWindow::BuildFavoritesPane() {
-  m_favorites.Add(m_main.lvwFavorites, m_favoritesList);
 }
 
 void MainWindow::NameForScreenReaders() {
@@ -144,10 +140,6 @@ void MainWindow::LayOut() {
 void MainWindow::FocusWhenViewChanges() {
   const bool showsFavorites = m_main.picFavorites.Visible();
   if (std::exchange(m_showsFavorites, showsFavorites) != showsFavorites) FocusList();
-}
-
-void MainWindow::FocusList() {
-  (m_showsFavorites ? m_favoritesList : m_dailyList).setFocus();
 }
 
 void MainWindow::showEvent(QShowEvent* event) {

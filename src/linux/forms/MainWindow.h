@@ -38,7 +38,6 @@ class MainWindow : public QMainWindow {
  private:
   void BuildClient();
   void BuildDailyPane();
-  void BuildFavoritesPane();
   void BuildMenusAndToolbar();
   void NameForScreenReaders();
   void Design();
@@ -49,7 +48,7 @@ class MainWindow : public QMainWindow {
   void DesignForm();
   void LayOut();
   void FocusWhenViewChanges();
-  void FocusList();  ///< of the view that is shown
+  void FocusList() { (m_showsFavorites ? m_favoritesList : m_dailyList).setFocus(); }  ///< of the view that is shown
 
   FMainControls& m_main;
   MenuPresenter m_fileMenu;

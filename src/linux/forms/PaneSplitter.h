@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QMouseEvent>
 #include <QWidget>
 #include <functional>
+#include <utility>
 
 namespace dayvane::widgets {
 
@@ -10,11 +12,15 @@ namespace dayvane::widgets {
 class PaneSplitter : public QWidget {
  public:
   /// `dragged` is told where the gap's left edge is wanted in its parent, in logical pixels.
-  explicit PaneSplitter(std::function<void(int left)> dragged);
+  explicit PaneSplitter(std::function<void(int left)> dragged) : m_dragged(std::move(dragged)) {
+    setCursor(Qt::SplitHCursor);
+  }
 
  protected:
-  void mousePressEvent(QMouseEvent* event) override;
-  void mouseMoveEvent(QMouseEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override { m_grip = event->position().toPoint().x(); }
+  void mouseMoveEvent(QMouseEvent* event) override {
+    if (event->buttons().testFlag(Qt::LeftButton)) m_dragged(mapToParent(event->position().toPoint()).x() - m_grip);
+  }
 
  private:
   std::function<void(int)> m_dragged;

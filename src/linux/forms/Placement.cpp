@@ -15,10 +15,6 @@ void Placement::Add(controls::Control& control, QWidget& widget) {
   Place(control, widget);
 }
 
-void Placement::PlaceAll() const {
-  for (const Child& child : m_children) Place(child.control, child.widget);
-}
-
 void Placement::Place(const controls::Control& control, QWidget& widget) const {
   widget.setGeometry(PixelRect(control, m_container).intersected(m_container.rect()));
 }

@@ -19,7 +19,9 @@ class Placement {
   void Add(controls::Control& control, QWidget& widget);
 
   /// After the container was sized.
-  void PlaceAll() const;
+  void PlaceAll() const {
+    for (const Child& child : m_children) Place(child.control, child.widget);
+  }
 
  private:
   struct Child {

@@ -13,14 +13,6 @@ void ForeignShortcuts::Clear() {
   m_shortcuts.reset();
 }
 
-void ForeignShortcuts::Add(const FolderItem& item) {
-  m_items.emplace(text::ToLower(item.name), item);
-}
-
-bool ForeignShortcuts::Has(const std::string& name) const {
-  return m_items.contains(text::ToLower(name));
-}
-
 bool ForeignShortcuts::HasShortcuts() {
   if (!m_shortcuts) ReadShortcuts();
   return !m_shortcuts->empty();

@@ -5,6 +5,7 @@
 #include <string>
 #include <unordered_map>
 
+#include "base/Text.h"
 #include "linux/recent/RecentDisk.h"
 
 namespace dayvane::recent {
@@ -17,12 +18,12 @@ class ForeignShortcuts {
   explicit ForeignShortcuts(const RecentDisk& disk) : m_disk(disk) {}
 
   void Clear();
-  void Add(const FolderItem& item);
+  void Add(const FolderItem& item) { m_items.emplace(text::ToLower(item.name), item); }
 
   bool IsEmpty() const { return m_items.empty(); }
 
   /// Whether something has this name, in any letter case.
-  bool Has(const std::string& name) const;
+  bool Has(const std::string& name) const { return m_items.contains(text::ToLower(name)); }
 
   /// Whether there is any shortcut to adopt. The first call after a Clear reads them all.
   bool HasShortcuts();

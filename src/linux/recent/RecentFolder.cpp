@@ -76,10 +76,6 @@ void RecentFolder::Refresh() {
   m_isFailing = outcome.failure.has_value();
 }
 
-void RecentFolder::Captured() {
-  if (m_memory) ReportFailure(m_shortcuts.Captured());
-}
-
 void RecentFolder::RememberOpenings() {
   const auto listing = m_memory ? ReadList() : std::nullopt;
   if (listing) ReportNews(m_shortcuts.Remember(*listing));

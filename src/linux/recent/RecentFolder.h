@@ -47,7 +47,9 @@ class RecentFolder {
 
   /// Call when everything that the folder held after the last Refresh has been filed. No other Refresh may come between
   /// listing the folder and this call; RememberOpenings may.
-  void Captured();
+  void Captured() {
+    if (m_memory) ReportFailure(m_shortcuts.Captured());
+  }
 
   /// Remembers new openings without changing the folder. Call it whenever the list has changed: the next program to
   /// write the list may drop the entry. Does nothing before the first Refresh.

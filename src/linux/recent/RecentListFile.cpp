@@ -29,10 +29,6 @@ std::optional<RecentListFile::Version> RecentListFile::CurrentVersion() const {
   return Version(status);
 }
 
-bool RecentListFile::IsDue() const {
-  return m_isDue || CurrentVersion() != m_read;
-}
-
 ListReading RecentListFile::Read() {
   m_isDue = false;
   std::string bytes;

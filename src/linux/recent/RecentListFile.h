@@ -30,7 +30,7 @@ class RecentListFile {
   const std::string& Path() const { return m_path; }
 
   /// Whether it may hold something new. Costs one look at the file's status.
-  bool IsDue() const;
+  bool IsDue() const { return m_isDue || CurrentVersion() != m_read; }
 
   ListReading Read();
 

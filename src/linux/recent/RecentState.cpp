@@ -16,17 +16,13 @@ namespace {
 constexpr std::string_view kHeader = "dayvane-recent 1";
 constexpr std::string_view kNone = "-";
 
-bool IsControl(char c) {
-  return static_cast<unsigned char>(c) < 0x20 || c == 0x7F;
-}
-
 std::string Escape(std::string_view text) {
   constexpr std::string_view kDigits = "0123456789ABCDEF";
   const bool isUtf8 = utf8::IsValid(text);
   std::string escaped;
   for (const char c : text) {
     const auto byte = static_cast<unsigned char>(c);
-    if (IsControl(c) || c == '%' || (byte >= 0x80 && !isUtf8))
+    if (text::IsControl(c) || c == '%' || (byte >= 0x80 && !isUtf8))
       escaped += {'%', kDigits[byte >> 4U], kDigits[byte & 15U]};
     else
       escaped += c;
@@ -37,17 +33,14 @@ std::string Escape(std::string_view text) {
 /// A number that is not negative: a state has no others.
 template <class Number>
 std::optional<Number> ParseNumber(std::string_view text, int base = 10) {
-  Number number = 0;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number, base);
-  if (error != std::errc{} || end != text.data() + text.size() || text.starts_with('-')) return std::nullopt;
-  return number;
+  return text.starts_with('-') ? std::nullopt : text::ToNumber<Number>(text, base);
 }
 
 /// Nothing for a text that Escape does not write. A null in particular would cut a path short in system calls.
 std::optional<std::string> Unescape(std::string_view text) {
   std::string plain;
   for (std::size_t i = 0; i < text.size(); ++i) {
-    if (IsControl(text[i])) return std::nullopt;
+    if (text::IsControl(text[i])) return std::nullopt;
     if (text[i] != '%') {
       plain += text[i];
       continue;
@@ -58,16 +51,6 @@ std::optional<std::string> Unescape(std::string_view text) {
     i += 2;
   }
   return plain;
-}
-
-std::vector<std::string_view> Split(std::string_view text, char separator) {
-  std::vector<std::string_view> parts;
-  for (;;) {
-    const auto end = text.find(separator);
-    parts.push_back(text.substr(0, end));
-    if (end == std::string_view::npos) return parts;
-    text.remove_prefix(end + 1);
-  }
 }
 
 template <class Numbers, class Write>
@@ -114,7 +97,7 @@ template <class Number>
 std::optional<std::vector<Number>> ParseList(std::string_view text, int base) {
   std::vector<Number> numbers;
   if (text == kNone) return numbers;
-  for (const std::string_view part : Split(text, ',')) {
+  for (const std::string_view part : text::Split(text, ',')) {
     const auto number = ParseNumber<Number>(part, base);
     if (!number) return std::nullopt;
     numbers.push_back(*number);
@@ -139,7 +122,7 @@ bool ParseFlags(std::string_view text, RecentDocument& document) {
 
 bool ParseFuture(std::string_view text, RecentDocument& document) {
   if (text == kNone) return true;
-  const auto parts = Split(text, ':');
+  const auto parts = text::Split(text, ':');
   if (parts.size() != 2) return false;
   const auto from = ParseNumber<Moment>(parts[0]);
   const auto to = ParseNumber<Moment>(parts[1]);
@@ -165,23 +148,18 @@ bool ParseName(std::string_view text, RecentDocument& document) {
 class StateParser {
  public:
   StateReading Parse(std::string_view text) {
-    const bool hasHeader = TakeLine(text) == kHeader;
-    m_reading.isDamaged = !hasHeader;
-    while (hasHeader && !text.empty() && !m_hasEnd)
-      if (const auto line = TakeLine(text); !line || !ParseLine(Split(*line, '\t'))) m_reading.isDamaged = true;
+    m_reading.isDamaged = text::TakeLine(text) != kHeader;
+    if (m_reading.isDamaged) return std::move(m_reading);
+    while (!m_hasEnd) {
+      const auto line = text::TakeLine(text);
+      if (!line) break;
+      if (!ParseLine(text::Split(*line, '\t'))) m_reading.isDamaged = true;
+    }
     if (!m_hasEnd || !text.empty()) m_reading.isDamaged = true;
     return std::move(m_reading);
   }
 
  private:
-  /// A line that has its end.
-  static std::optional<std::string_view> TakeLine(std::string_view& text) {
-    const auto end = text.find('\n');
-    const std::string_view line = text.substr(0, end);
-    text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
-    return end == std::string_view::npos ? std::nullopt : std::optional(line);
-  }
-
   bool ParseLine(const std::vector<std::string_view>& fields) {
     if (fields[0] == "document" && fields.size() == 8) return ParseDocument(fields);
     if (fields[0] == "forgotten" && fields.size() == 4) return ParseForgotten(fields);

@@ -5,7 +5,6 @@
 #include <functional>
 #include <set>
 #include <string>
-#include <string_view>
 #include <unordered_map>
 
 #include "linux/recent/Moment.h"

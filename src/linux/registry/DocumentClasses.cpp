@@ -2,7 +2,6 @@
 #include "linux/registry/DocumentClasses.h"
 
 #include <algorithm>
-#include <ctime>
 #include <utility>
 
 #include "base/Text.h"
@@ -78,13 +77,6 @@ DocumentClasses::DocumentClasses(Clock clock)
   // GIO looks for the folders of its content types when it is first asked for a description, and then forgets, without
   // freeing it, whatever it has read before. Asked for them first, it reads once.
   g_content_type_get_mime_dirs();
-}
-
-std::chrono::steady_clock::time_point DocumentClasses::CoarseTime() {
-  struct timespec now {};
-  clock_gettime(CLOCK_MONOTONIC_COARSE, &now);
-  return std::chrono::steady_clock::time_point(std::chrono::seconds(now.tv_sec) +
-                                               std::chrono::nanoseconds(now.tv_nsec));
 }
 
 DocumentClasses::~DocumentClasses() {

@@ -10,6 +10,7 @@
 #include <string_view>
 #include <unordered_map>
 
+#include "linux/LinuxClock.h"
 #include "linux/glib/GlibHandles.h"
 
 namespace dayvane::registry {
@@ -37,11 +38,8 @@ class DocumentClasses {
   using Clock = std::function<std::chrono::steady_clock::time_point()>;
   static constexpr std::chrono::seconds kLongestKept{60};
 
-  /// The steady clock to a few milliseconds, for a quarter of the price: reading the exact one would be half of the
-  /// work of an answer that is known.
-  static std::chrono::steady_clock::time_point CoarseTime();
-
-  explicit DocumentClasses(Clock clock = CoarseTime);
+  /// Reading an exact clock would be half of the work of an answer that is known.
+  explicit DocumentClasses(Clock clock = LinuxClock::CoarseTime);
   DocumentClasses(const DocumentClasses&) = delete;
   DocumentClasses& operator=(const DocumentClasses&) = delete;
   ~DocumentClasses();

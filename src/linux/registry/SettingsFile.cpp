@@ -57,10 +57,6 @@ bool SettingsFile::HasKey(std::string_view path) {
   return std::any_of(m_addedKeys.begin(), m_addedKeys.end(), covers);
 }
 
-void SettingsFile::AddKey(std::string_view path) {
-  m_addedKeys.emplace(path);
-}
-
 std::optional<std::string> SettingsFile::Value(std::string_view path, std::string_view name) {
   Refresh();
   for (const SettingsKeys* keys : {&m_changes, &m_keys, &m_thisRuns})
@@ -68,23 +64,11 @@ std::optional<std::string> SettingsFile::Value(std::string_view path, std::strin
   return std::nullopt;
 }
 
-void SettingsFile::SetValue(std::string_view path, std::string_view name, const std::string& text) {
-  Hold(path, name, text, true);
-}
-
-void SettingsFile::AddValue(std::string_view path, std::string_view name, const std::string& text) {
-  Hold(path, name, text, false);
-}
-
 void SettingsFile::Hold(std::string_view path, std::string_view name, const std::string& text, bool mustReachDisk) {
   if (Value(path, name) == text) return;
   m_changes[std::string(path)][std::string(name)] = text;
   m_mustReachDisk = m_mustReachDisk || mustReachDisk;
   if (m_holders == 0) Store();
-}
-
-void SettingsFile::StoreWrites() {
-  if (--m_holders == 0) Store();
 }
 
 void SettingsFile::Store() {
@@ -114,7 +98,7 @@ void SettingsFile::Replace(const SettingsKeys& changes) {
   files::LinuxFileSystem().Replace(file, text);
   m_text = std::move(text);
   m_keys = std::move(changed);
-  IgnoreErrors([&] { m_version = VersionOf(file); });  // or it is read again
+  IgnoreErrors([&] { m_version = files::LinuxFileSystem().Status(file); });  // or it is read again
 }
 
 void SettingsFile::KeepForThisRun(const SettingsKeys& added, const std::string& reason) {
@@ -135,8 +119,8 @@ std::string SettingsFile::FilePath() const {
 
 void SettingsFile::Refresh() {
   const std::string path = FilePath();
-  std::optional<Version> found;
-  const bool isKnown = IgnoreErrors([&] { found = VersionOf(path); });
+  std::optional<platform::FileStatus> found;
+  const bool isKnown = IgnoreErrors([&] { found = files::LinuxFileSystem().Status(path); });
   if (isKnown && found == m_version) return;
   m_version = found;
   m_text.clear();
@@ -166,11 +150,6 @@ void SettingsFile::KeepDamagedFile(const std::string& path) {
   // second names, is moved.
   if (link(native.c_str(), kept.c_str()) != 0 && rename(native.c_str(), kept.c_str()) != 0) files::Fail(native);
   m_damaged = false;
-}
-
-std::optional<SettingsFile::Version> SettingsFile::VersionOf(const std::string& path) {
-  const auto status = files::LinuxFileSystem().Status(path);
-  return status ? std::optional<Version>({status->size, status->written}) : std::nullopt;
 }
 
 }  // namespace dayvane::registry

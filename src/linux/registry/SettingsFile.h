@@ -26,31 +26,28 @@ class SettingsFile {
   /// A key exists when it or one below it has a value, or when it was added in this run: a key reaches the disk with
   /// its first value, so that a kill in between leaves no half-made key behind.
   bool HasKey(std::string_view path);
-  void AddKey(std::string_view path);
+  void AddKey(std::string_view path) { m_addedKeys.emplace(path); }
 
   std::optional<std::string> Value(std::string_view path, std::string_view name);
 
   /// On the disk when it returns, unless writes are held. Fails when the file cannot be replaced, which leaves the old
   /// one as it was.
-  void SetValue(std::string_view path, std::string_view name, const std::string& text);
+  void SetValue(std::string_view path, std::string_view name, const std::string& text) { Hold(path, name, text, true); }
 
   /// The same for a value that has its default: where that cannot be stored it is reported once and the value holds for
   /// this run, until the file has one or the next write succeeds. A default is nothing that a user could lose.
-  void AddValue(std::string_view path, std::string_view name, const std::string& text);
+  void AddValue(std::string_view path, std::string_view name, const std::string& text) {
+    Hold(path, name, text, false);
+  }
 
   /// Holds writes until StoreWrites was called as often; the last one replaces the file if a value did change. When
   /// that fails the values are those of the file again.
   void HoldWrites() { ++m_holders; }
-  void StoreWrites();
+  void StoreWrites() {
+    if (--m_holders == 0) Store();
+  }
 
  private:
-  struct Version {
-    std::uint64_t size = 0;
-    platform::FileMoment written;
-    friend bool operator==(const Version&, const Version&) = default;
-  };
-
-  static std::optional<Version> VersionOf(const std::string& path);
   std::string FilePath() const;
   void Refresh();
   void Read(const std::string& path);
@@ -70,7 +67,7 @@ class SettingsFile {
   bool m_reportedUnstored = false;
   int m_holders = 0;
   std::set<std::string, IgnoringCase> m_addedKeys;
-  std::optional<Version> m_version;  ///< of the file that `m_keys` came from; none when there was no file
+  std::optional<platform::FileStatus> m_version;  ///< of the file that `m_keys` came from; empty without a file
   bool m_damaged = false;
 };
 

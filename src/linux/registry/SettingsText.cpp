@@ -22,16 +22,12 @@ constexpr std::string_view kLetters = "\\nrts";
 constexpr std::string_view kSemicolon = ";";
 constexpr std::string_view kSemicolonInGlib = "#\x01";
 
-bool IsControl(char c) {
-  return static_cast<unsigned char>(c) < 0x20 || c == 0x7F;
-}
-
 /// GLib would read past the end of a character that is cut off, and no further than a zero. A carriage return ends a
 /// line with the line feed behind it, from which it may be cut off.
 bool IsText(std::string_view bytes) {
   for (std::size_t i = 0; i < bytes.size(); ++i) {
     const bool endsLine = bytes[i] == '\n' || (bytes[i] == '\r' && (i + 1 == bytes.size() || bytes[i + 1] == '\n'));
-    if (IsControl(bytes[i]) && bytes[i] != '\t' && !endsLine) return false;
+    if (text::IsControl(bytes[i]) && bytes[i] != '\t' && !endsLine) return false;
   }
   return utf8::IsValid(bytes);
 }
@@ -50,7 +46,7 @@ std::string Escaped(std::string_view text, std::string_view special = {}) {
     const char c = text[i];
     const bool blankAtEnd = c == ' ' && (i == 0 || i + 1 == text.size());
     const bool foreign = !utf8 && static_cast<unsigned char>(c) >= 0x80;
-    const bool plain = c != '\\' && !IsControl(c) && !foreign && !blankAtEnd && special.find(c) == special.npos;
+    const bool plain = c != '\\' && !text::IsControl(c) && !foreign && !blankAtEnd && special.find(c) == special.npos;
     out += plain ? std::string(1, c) : Escape(c);
   }
   return out;

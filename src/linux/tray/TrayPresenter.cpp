@@ -6,14 +6,11 @@
 
 #include "linux/widgets/Pictures.h"
 #include "resources/MResourceConstants.h"
+#include "shell/MCommands.h"
 
 namespace dayvane::widgets {
 
 namespace {
-
-// Items of the tray menu, by index.
-constexpr int kShow = 0;
-constexpr int kHide = 1;
 
 int ButtonOf(QSystemTrayIcon::ActivationReason reason) {
   // Some panels tell the second of two quick clicks as another one, embedding trays as a double click; the right button
@@ -42,7 +39,7 @@ TrayPresenter::TrayPresenter(controls::SystemTray& control, controls::Menu& menu
 
 QList<QAction*> TrayPresenter::Commands() {
   QList<QAction*> commands = m_menu.actions();
-  for (const auto& [index, command] : {std::pair(kShow, &m_show), std::pair(kHide, &m_hide)}) {
+  for (const auto& [index, command] : {std::pair(kTrayShow, &m_show), std::pair(kTrayHide, &m_hide)}) {
     command->setText(commands[index]->text());
     commands[index] = command;
   }
@@ -97,10 +94,6 @@ void TrayPresenter::ShowIcon() {
   }
   m_icon->setToolTip(QString::fromStdString(m_control.TipText()));
   m_icon->setVisible(m_control.Visible());
-}
-
-void TrayPresenter::ShowStandIn() {
-  m_standIn.show();
 }
 
 }  // namespace dayvane::widgets

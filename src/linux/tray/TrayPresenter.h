@@ -20,8 +20,8 @@ namespace dayvane::widgets {
 
 /// Shows the tray icon with its menu. The panel opens the menu by itself, so the program hears of no right click;
 /// the menu's default item is its first visible one. While there is no tray and the main form is hidden, a stand-in
-/// window carries the menu's commands. Its Show and Hide are those that fit the form, which not every way of hiding it
-/// tells the menu of: without them there would be no way back.
+/// window carries the menu's commands. Its Show and Hide follow the form and not the menu, which not every way of
+/// hiding the form updates: there would be no way back.
 class TrayPresenter {
  public:
   /// `patience`: how long a tray may be gone before the stand-in shows, for a panel that only starts anew.
@@ -38,7 +38,7 @@ class TrayPresenter {
   void Show();
   void ShowPicture();
   void ShowIcon();
-  void ShowStandIn();
+  void ShowStandIn() { m_standIn.show(); }
   QList<QAction*> Commands();  ///< of the stand-in
 
   controls::SystemTray& m_control;

@@ -16,10 +16,6 @@ QString NameOf(const controls::Picture& picture) {
 
 }  // namespace
 
-Icons::Icons() {
-  QIcon::setFallbackThemeName(QStringLiteral("Adwaita"));
-}
-
 QIcon Icons::Of(const controls::Picture& picture) const {
   const QString name = NameOf(picture);
   const auto found = m_found.constFind(name);

@@ -12,7 +12,7 @@ namespace dayvane::widgets {
 /// which has an icon for most document types; whatever has none shows as a plain document.
 class Icons {
  public:
-  Icons();
+  Icons() { QIcon::setFallbackThemeName(QStringLiteral("Adwaita")); }
 
   QIcon Of(const controls::Picture& picture) const;
 

@@ -150,9 +150,8 @@ void ListPresenter::LayOut() {
 
 void ListPresenter::RememberScroll() {
   if (m_control.Count() == 0) return;
-  const controls::ListItem* selected = m_control.SelectedItem();
-  m_scroll.Remember(CurrentView(), m_control.Row(0).key, selected == nullptr ? std::string() : selected->key,
-                    m_model.IndexOf(selected));
+  m_scroll.Remember(CurrentView(), m_control.Row(0).key, m_control.SelectedKey(),
+                    m_model.IndexOf(m_control.SelectedItem()));
 }
 
 void ListPresenter::RestoreScroll() {

@@ -41,10 +41,6 @@ void NumberFieldPresenter::stepBy(int steps) {
   }
 }
 
-QAbstractSpinBox::StepEnabled NumberFieldPresenter::stepEnabled() const {
-  return StepUpEnabled | StepDownEnabled;
-}
-
 void NumberFieldPresenter::focusInEvent(QFocusEvent* event) {
   QAbstractSpinBox::focusInEvent(event);
   m_text.GotFocus.Raise();
@@ -71,14 +67,6 @@ bool NumberFieldPresenter::Types(const QString& typed) {
   return std::all_of(typed.begin(), typed.end(), [this](QChar character) {
     return (!character.isPrint() && character.unicode() != kBackspace) || m_text.Type(character.unicode());
   });
-}
-
-int NumberFieldPresenter::Value() const {
-  return text().toInt();
-}
-
-void NumberFieldPresenter::SetValue(int value) {
-  m_text.SetText(std::to_string(value));
 }
 
 void NumberFieldPresenter::ShowText() {

@@ -2,7 +2,7 @@
 #pragma once
 
 #include <QAbstractSpinBox>
-#include <vector>
+#include <string>
 
 #include "controls/TextControls.h"
 #include "linux/widgets/ControlLink.h"
@@ -24,14 +24,14 @@ class NumberFieldPresenter : public QAbstractSpinBox {
 
  protected:
   bool event(QEvent* event) override;
-  StepEnabled stepEnabled() const override;
+  StepEnabled stepEnabled() const override { return StepUpEnabled | StepDownEnabled; }
   void focusInEvent(QFocusEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void keyReleaseEvent(QKeyEvent* event) override;
 
  private:
-  int Value() const;
-  void SetValue(int value);
+  int Value() const { return text().toInt(); }
+  void SetValue(int value) { m_text.SetText(std::to_string(value)); }
   void ShowText();
   void ShowSelection();
 

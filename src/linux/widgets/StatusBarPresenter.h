@@ -5,6 +5,7 @@
 #include <QStatusBar>
 
 #include "controls/SimpleControls.h"
+#include "linux/files/NativePath.h"
 #include "linux/widgets/ControlLink.h"
 
 namespace dayvane::widgets {
@@ -12,12 +13,21 @@ namespace dayvane::widgets {
 /// Shows the status bar.
 class StatusBarPresenter : public QStatusBar {
  public:
-  explicit StatusBarPresenter(controls::StatusBar& control, QWidget* parent = nullptr);
+  explicit StatusBarPresenter(controls::StatusBar& control, QWidget* parent = nullptr)
+      : QStatusBar(parent), m_control(control), m_link(control, *this, [this] { Show(); }) {
+    m_text.setTextFormat(Qt::PlainText);
+    addWidget(&m_text, 1);
+    m_link.Show();
+  }
 
   QString Text() const { return m_text.text(); }
 
  private:
-  void Show();
+  void Show() {
+    const QString text = QString::fromStdString(files::ForReading(m_control.Text()));
+    m_text.setText(text);
+    setAccessibleName(text);
+  }
 
   const controls::StatusBar& m_control;
   QLabel m_text;

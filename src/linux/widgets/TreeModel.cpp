@@ -36,10 +36,6 @@ int TreeModel::rowCount(const QModelIndex& parent) const {
   return m_changing || parent.column() > 0 ? 0 : static_cast<int>(ChildrenOf(parent).size());
 }
 
-int TreeModel::columnCount(const QModelIndex&) const {
-  return 1;
-}
-
 QVariant TreeModel::data(const QModelIndex& index, int role) const {
   const TreeNode* node = NodeAt(index);
   if (node == nullptr) return {};
@@ -55,10 +51,6 @@ QVariant TreeModel::data(const QModelIndex& index, int role) const {
 
 QModelIndex TreeModel::IndexOf(const TreeNode* node) const {
   return node == nullptr || m_changing ? QModelIndex() : createIndex(static_cast<int>(node->row), 0, node);
-}
-
-TreeNode* TreeModel::NodeAt(const QModelIndex& index) const {
-  return m_changing ? nullptr : static_cast<TreeNode*>(index.internalPointer());
 }
 
 const std::vector<std::unique_ptr<TreeNode>>& TreeModel::ChildrenOf(const QModelIndex& parent) const {

@@ -18,11 +18,15 @@ class TreeModel : public QAbstractItemModel {
   QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
   QModelIndex parent(const QModelIndex& index) const override;
   int rowCount(const QModelIndex& parent = {}) const override;
-  int columnCount(const QModelIndex& parent = {}) const override;
+  int columnCount(const QModelIndex& /*parent*/ = {}) const override { return 1; }
   QVariant data(const QModelIndex& index, int role) const override;
 
-  QModelIndex IndexOf(const controls::TreeNode* node) const;   ///< no index for nullptr
-  controls::TreeNode* NodeAt(const QModelIndex& index) const;  ///< nullptr for no index
+  QModelIndex IndexOf(const controls::TreeNode* node) const;  ///< no index for nullptr
+
+  /// nullptr for no index.
+  controls::TreeNode* NodeAt(const QModelIndex& index) const {
+    return m_changing ? nullptr : static_cast<controls::TreeNode*>(index.internalPointer());
+  }
 
  private:
   void BeginChange();

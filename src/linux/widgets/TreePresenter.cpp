@@ -80,9 +80,8 @@ void TreePresenter::ScrollToSelection() {
 
 void TreePresenter::RememberScroll() {
   if (m_control.Roots().empty()) return;
-  const controls::TreeNode* selected = m_control.SelectedItem();
-  m_scroll.Remember(*this, m_control.Roots().front()->key, selected == nullptr ? std::string() : selected->key,
-                    m_model.IndexOf(selected));
+  m_scroll.Remember(*this, m_control.Roots().front()->key, m_control.SelectedKey(),
+                    m_model.IndexOf(m_control.SelectedItem()));
 }
 
 void TreePresenter::RestoreContents() {

@@ -59,6 +59,10 @@ void FOptions::Form_QueryUnload(bool& cancel, controls::UnloadMode mode) {
   cmdOptions[kCancel].Press();
 }
 
+void FOptions::Form_KeyUp(int keyCode) {
+  if (keyCode == controls::kKeyF1) DisplayHelp();
+}
+
 void FOptions::ConnectControls() {
   for (std::size_t i = 0; i < kFields; ++i) {
     txtOptions[i].GotFocus.Connect([this, i] { txtOptions_GotFocus(i); });
@@ -68,9 +72,7 @@ void FOptions::ConnectControls() {
   }
   for (std::size_t i = 0; i < cmdOptions.size(); ++i) cmdOptions[i].Click.Connect([this, i] { cmdOptions_Click(i); });
   form.QueryUnload.Connect([this](bool& cancel, controls::UnloadMode mode) { Form_QueryUnload(cancel, mode); });
-  form.KeyUp.Connect([this](int keyCode, int) {
-    if (keyCode == controls::kKeyF1) DisplayHelp();
-  });
+  form.KeyUp.Connect([this](int keyCode, int) { Form_KeyUp(keyCode); });
 }
 
 std::int32_t FOptions::Number(std::size_t index) const {

@@ -23,7 +23,7 @@ class FOptions {
   explicit FOptions(Application& application);
   ~FOptions();  ///< unloads the dialog
 
-  /// Reading converts the field's text and fails with kTypeMismatch when it is no number.
+  /// Reading converts the field's text and fails with kTypeMismatch when it is not a number.
   std::int32_t FavoritesThreshold() const { return Number(0); }
   std::int32_t PurgeAge() const { return Number(1); }
   std::int32_t TimerInterval() const { return Number(2); }
@@ -46,6 +46,7 @@ class FOptions {
  private:
   void Form_Load();
   void Form_QueryUnload(bool& cancel, controls::UnloadMode mode);
+  void Form_KeyUp(int keyCode);
   void ConnectControls();
   void cmdOptions_Click(std::size_t index);
   void txtOptions_GotFocus(std::size_t index);

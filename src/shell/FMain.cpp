@@ -94,13 +94,12 @@ void FMain::CreateViews() {
 void FMain::ConnectViews() {
   m_oCalendar->DateChange.Connect([this](const Date& date) { m_oCalendar_DateChange(date); });
   m_oDaily->TreeViewNodeClick.Connect([this](controls::TreeNode& node) { m_oDaily_TreeViewNodeClick(node); });
-  // The handlers of the Favorites list do exactly what the Daily list's do.
-  for (DocumentListView* view :
-       {static_cast<DocumentListView*>(m_oDaily.get()), static_cast<DocumentListView*>(m_oFavorites.get())}) {
-    view->DblClick.Connect([this](controls::ListItem& item) { m_oDaily_ListViewDblClick(item); });
-    view->ItemClick.Connect([this] { m_oDaily_ListViewItemClick(); });
-    view->PopupMenu.Connect([this](double x, double y) { m_oDaily_ListViewPopupMenu(x, y); });
-  }
+  m_oDaily->DblClick.Connect([this](controls::ListItem& item) { m_oDaily_ListViewDblClick(item); });
+  m_oDaily->ItemClick.Connect([this] { m_oDaily_ListViewItemClick(); });
+  m_oDaily->PopupMenu.Connect([this](double x, double y) { m_oDaily_ListViewPopupMenu(x, y); });
+  m_oFavorites->DblClick.Connect([this](controls::ListItem& item) { m_oFavorites_DblClick(item); });
+  m_oFavorites->ItemClick.Connect([this] { m_oFavorites_ItemClick(); });
+  m_oFavorites->PopupMenu.Connect([this](double x, double y) { m_oFavorites_PopupMenu(x, y); });
 }
 
 void FMain::SetHelpContextIDs() {

@@ -112,6 +112,9 @@ class FMain : public FMainControls, private Asserting {
   void m_oDaily_ListViewDblClick(const controls::ListItem& item);
   void m_oDaily_ListViewItemClick();
   void m_oDaily_ListViewPopupMenu(double x, double y);
+  void m_oFavorites_DblClick(const controls::ListItem& item) { m_oDaily_ListViewDblClick(item); }
+  void m_oFavorites_ItemClick() { m_oDaily_ListViewItemClick(); }
+  void m_oFavorites_PopupMenu(double x, double y) { m_oDaily_ListViewPopupMenu(x, y); }
   void tvwMain_MouseUp(int button, double x, double y);
   void picMain_Resize(std::size_t index);
   void tryMain_MouseUp(int button);

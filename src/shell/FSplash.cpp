@@ -6,6 +6,12 @@
 namespace dayvane {
 
 FSplash::FSplash(const ProgramInfo& info) {
+  Form_Load(info);
+  imgLogo.Click.Connect([this] { Click(); });
+  form.KeyUp.Connect([this](int, int) { Unload(); });
+}
+
+void FSplash::Form_Load(const ProgramInfo& info) {
   form.SetCaption(info.title);
   imgLogo.SetPicture(kLogoPicture);
   lblProductName.SetCaption(info.title);
@@ -13,8 +19,6 @@ FSplash::FSplash(const ProgramInfo& info) {
   lblCompany.SetCaption(info.company);
   lblCopyright.SetCaption(info.copyright);
   lblWarning.SetCaption(info.comments);
-  imgLogo.Click.Connect([this] { Click(); });
-  form.KeyUp.Connect([this](int, int) { Unload(); });
 }
 
 }  // namespace dayvane

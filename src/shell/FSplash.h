@@ -29,6 +29,9 @@ class FSplash {
   controls::Label lblCompany;
   controls::Label lblCopyright;
   controls::Label lblWarning;
+
+ private:
+  void Form_Load(const ProgramInfo& info);
 };
 
 }  // namespace dayvane

@@ -4,11 +4,11 @@
 #include <string_view>
 
 #include "app/Application.h"
-#include "base/Required.h"
+#include "base/CheckedPointer.h"
 
 namespace dayvane {
 
-/// What every class has whose assertions bear its name.
+/// Base of the classes whose assertions carry the name of the class.
 class Asserting {
  protected:
   /// The name is a constant of the class; both must outlive this object.
@@ -20,12 +20,12 @@ class Asserting {
     if (!condition) m_asserts.Assert(false, std::string(m_className).append(message));
   }
 
-  /// What a pointer, plain or smart, points at. Where that is nothing the assertion fails, and then the caller with
+  /// What a pointer, plain or smart, points at. When it is null the assertion fails, and then the caller with
   /// kObjectNotSet.
   template <class Pointer>
   auto& Demand(const Pointer& pointer, std::string_view message) const {
     Assert(pointer != nullptr, message);
-    return Required(pointer);
+    return Checked(pointer);
   }
 
  private:

@@ -19,7 +19,7 @@ class Date {
   Date() = default;
   Date(std::chrono::local_seconds local);  // NOLINT(google-explicit-constructor): the clock's and the disk's own type
 
-  /// Fails with kTypeMismatch when the parts are no date or time of day.
+  /// Fails with kTypeMismatch when the parts are not a date or time of day.
   static Date Of(int year, unsigned month, unsigned day, int hour = 0, int minute = 0, int second = 0);
 
   bool IsZero() const { return m_seconds == 0; }
@@ -56,7 +56,7 @@ std::string Format(const Date& date, std::string_view pattern, const platform::D
 
 /// A month-first date text, "January/05/1998", "1/5/1998", or month and year alone, "1/98". The month is a number or a
 /// full month name: the user's, English, or of one of the other languages; two-digit years are 1930 … 2029. The result
-/// is midnight. Fails with kTypeMismatch when the text is no date.
+/// is midnight. Fails with kTypeMismatch when the text is not a date.
 Date ParseMonthFirst(std::string_view text, const platform::DateConventions& conventions,
                      std::span<const platform::MonthNames> otherLanguages = {});
 
@@ -67,11 +67,11 @@ struct DateParts {
 };
 
 /// The numbers of a date's text in the user's short date form, in which the month may also be a full name.
-/// Fails with kTypeMismatch when the text has not three parts.
+/// Fails with kTypeMismatch when the text does not have three parts.
 DateParts SplitShortDate(std::string_view text, const platform::DateConventions& conventions);
 
-/// A desktop's conventions as the program can use them: month names that can name no folder, or of which two are the
-/// same, are the English ones; a short date that would not be read back as it was written is "yyyy-mm-dd"; a
+/// A desktop's conventions as the program can use them: month names that cannot name folders, or that are not all
+/// different, become the English ones; a short date that would not be read back as it was written is "yyyy-mm-dd"; a
 /// short time without hours or minutes is "hh:nn".
 platform::DateConventions Usable(platform::DateConventions conventions);
 

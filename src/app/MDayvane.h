@@ -10,7 +10,7 @@ namespace dayvane {
 
 /// The date, at midnight, of a day folder's path such as …\Daily\1998\January\05, or of a tree key made of it. The
 /// month may be of any language that the record was ever kept in. Fails with kTypeMismatch when the last three parts of
-/// the path form no date.
+/// the path do not form a date.
 Date PathToDate(const Application& application, const std::string& path);
 
 }  // namespace dayvane

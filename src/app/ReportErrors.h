@@ -14,7 +14,7 @@ void ReportCurrentError(Application& application, StringId phrase, const std::st
                         const std::string& procedure);
 
 /// The report block of a user-facing procedure: what the body throws skips the rest of it, goes to the error log and
-/// is told to the user; the procedure then ends. Nothing of the skipped rest is made up for. Returns whether the body
+/// is told to the user; the procedure then ends. The skipped rest is not made up for. Returns whether the body
 /// came to its end.
 template <class Body>
 bool ReportErrors(Application& application, StringId phrase, const std::string& object, const std::string& procedure,

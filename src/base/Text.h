@@ -9,7 +9,7 @@
 #include <system_error>
 #include <vector>
 
-/// Text in UTF-8. Case follows Unicode's simple mappings, whatever the user's locale; bytes that are no UTF-8 pass
+/// Text in UTF-8. Case follows Unicode's simple mappings, whatever the user's locale; bytes that are not UTF-8 pass
 /// through unchanged.
 namespace dayvane::text {
 

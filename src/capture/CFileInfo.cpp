@@ -16,8 +16,8 @@ bool IsDriveRoot(const std::string& path) {
   return path.size() >= 2 && path[1] == ':' && path.size() <= 3;
 }
 
-/// What is not found, or lies on a disk that does not answer, has none, and not those of the item before: the shell
-/// then answers from the extension alone, and a shortcut that was removed still has its icon.
+/// 0 for an item that is not found, or whose disk does not answer: the shell then goes by the extension alone, and a
+/// shortcut that was removed still has its icon.
 std::uint32_t AttributesOf(platform::FileSystem& files, const std::string& path) {
   std::optional<platform::FileStatus> found;
   IgnoreErrors([&] { found = files.Status(path); });

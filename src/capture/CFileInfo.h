@@ -23,7 +23,7 @@ class CFileInfo {
   void SetItem(const std::string& path);
   void SetItem(std::uint64_t number);
 
-  /// Of the flags only open state (2), link overlay (0x8000) and selected state (0x10000) pass through. Nothing when
+  /// Only the flags open state (2), link overlay (0x8000) and selected state (0x10000) pass through. Nothing when
   /// there is no icon; an error is reported.
   std::optional<platform::Picture> SmallIcon(std::uint32_t afOverlay = 0) const {
     return Icon("SmallIcon", afOverlay, platform::kInfoSmallIcon);

@@ -15,7 +15,7 @@ std::string Field(const std::string& text) {
   return std::string(text::Trim(text.substr(0, text.find('\0'))));
 }
 
-/// Programs are often reached by a symbolic link; one that leads nowhere, or to a folder, is no program.
+/// Programs are often reached by a symbolic link; one that leads nowhere, or to a folder, does not count.
 bool ProgramExists(platform::FileSystem& files, const std::string& path) {
   bool exists = false;
   IgnoreErrors([&] {

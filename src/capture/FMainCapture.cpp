@@ -78,7 +78,7 @@ void FMain::ProcessShortcut(CShortcut* shortcut) {
   const bool isMissing = decision == filing::Decision::FirstOfTheDay;
   if (isMissing && filing::IsFiledNearby(files, m_repository, *shortcut)) return;
   filing::CreateDayFolder(files, m_repository.DailyPath(), *shortcut);
-  // The shortcut of a program that is called like the document is no copy of the document's.
+  // What lies there may be the shortcut of a program with the document's name, and then the document is not filed yet.
   const bool isFirst = isMissing || programshortcut::MoveAside(m_application, destination, shortcut->TargetFile());
   if (isFirst) m_oFavorites->WillCount(destination);
   File(*shortcut, destination);

@@ -23,14 +23,14 @@ Decision Decide(platform::FileSystem& files, const CShortcut& shortcut, const st
                 const Date& cutOff);
 
 /// Whether a shortcut of that name and moment lies on another day close by: it was filed when the user's clock was that
-/// of another time zone, and is no new opening.
+/// of another time zone, and is not a new opening.
 bool IsFiledNearby(platform::FileSystem& files, const CRepository& repository, const CShortcut& shortcut);
 
 /// The folder of the shortcut's day below the repository's root.
 std::string DayFolder(const std::string& dailyPath, const CShortcut& shortcut);
 
-/// Makes the folders of the shortcut's day below the repository's root; those that exist are no error. Fails with
-/// kPathFileAccess when one of them is no folder: a link there could lead out of the repository.
+/// Makes the folders of the shortcut's day below the repository's root; those that exist are left alone. Fails with
+/// kPathFileAccess when one of them is not a folder: a link there could lead out of the repository.
 void CreateDayFolder(platform::FileSystem& files, const std::string& dailyPath, const CShortcut& shortcut);
 
 }  // namespace dayvane::filing

@@ -12,14 +12,14 @@ using platform::EntryKind;
 
 const std::string kExtension = ".lnk";
 
-/// What is no shortcut, or cannot be read, is an empty one.
+/// An empty link for a file that is not a shortcut or cannot be read.
 platform::ShellLink Read(Application& application, const std::string& path) {
   platform::ShellLink link;
   IgnoreErrors([&] { link = application.shellServices.ReadShortcut(path).link; });
   return link;
 }
 
-/// What lies there and must stay: a document's shortcut, or a folder, which nothing can replace.
+/// Whether something lies there that must stay: a document's shortcut, or a folder, which nothing can replace.
 bool IsTaken(Application& application, const std::string& path) {
   const auto status = application.desktop.files.Status(path);
   if (!status) return false;
@@ -47,7 +47,7 @@ bool MoveAside(Application& application, const std::string& path, const std::str
   if (!LeadsToProgram(link) || link.target == target) return false;
   const PathParts parts = SplitPath(path);
   const std::string name = parts.fileName.substr(0, parts.fileName.size() - kExtension.size());
-  // Made anew under the other name first: a kill leaves one too many rather than none.
+  // The new one is made first: a kill leaves one too many rather than none.
   application.shellServices.CreateShortcut(FreePath(application, parts.folder, name, 2), link.target, link.target);
   application.desktop.files.Delete(path);
   return true;

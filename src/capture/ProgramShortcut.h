@@ -15,7 +15,7 @@ namespace dayvane::programshortcut {
 std::string PathFor(Application& application, const std::string& folder, const std::string& name);
 
 /// Gives the shortcut of a program that lies where a document's is due another name, so that the document's counts as
-/// the first of its day. Returns whether there was one. Another shortcut to `target` itself is none.
+/// the first of its day. Returns whether there was one; a shortcut to `target` itself does not count.
 bool MoveAside(Application& application, const std::string& path, const std::string& target);
 
 }  // namespace dayvane::programshortcut

@@ -78,7 +78,7 @@ void Deferred::AfterWork(std::function<void()> act) {
   Defer(m_isAlive, IsAtWork, std::move(act));
 }
 
-void Deferred::OnUsersTurn(std::function<void()> act) {
+void Deferred::AfterWorkAndQuestions(std::function<void()> act) {
   Defer(m_isAlive, IsUserBusy, std::move(act));
 }
 

@@ -42,7 +42,7 @@ class Deferred {
   void AfterWork(std::function<void()> act);
 
   /// The same, but an open box or dialog must have been answered too.
-  void OnUsersTurn(std::function<void()> act);
+  void AfterWorkAndQuestions(std::function<void()> act);
 
  private:
   std::shared_ptr<const bool> m_isAlive = std::make_shared<const bool>(true);

@@ -13,7 +13,7 @@ namespace dayvane::help {
 
 namespace {
 
-constexpr std::size_t kLongestLine = 1000;  ///< a header is a few words; anything longer is no header
+constexpr std::size_t kLongestLine = 1000;  ///< a header is a few words
 constexpr int kLargestContext = 65535;
 
 [[noreturn]] void FailDamaged(const char* what) {

@@ -52,7 +52,7 @@ class ByteView {
 };
 
 /// Takes one part after the other from a view. A part that is not wholly there is not taken: the cursor then stands at
-/// the end, since nobody can tell where the next part would start.
+/// the end, since there is no telling where the next part would start.
 class ByteCursor {
  public:
   explicit ByteCursor(ByteView rest) : m_rest(rest) {}

@@ -24,7 +24,7 @@ struct Encoding {
 constexpr Encoding kAnsi{&ByteView::AnsiText, &AppendAnsi};
 constexpr Encoding kUnicode{&ByteView::WideText, &AppendUtf16};
 
-/// The text whose offset stands in a field. An offset into the header is none.
+/// The text whose offset stands in a field. Nothing for an offset that points into the header.
 Text TextOf(ByteView structure, std::size_t field, std::size_t headerSize, const Encoding& encoding) {
   const std::size_t offset = structure.U32(field);
   return offset < headerSize ? std::nullopt : (structure.*encoding.find)(offset);
@@ -96,7 +96,7 @@ std::string NetworkFor(std::string_view share) {
       .Take();
 }
 
-/// Puts the header before the parts, in the order of 2.3; what a link has not has offset 0.
+/// Puts the header before the parts, in the order of 2.3; a part that is missing has offset 0.
 struct InfoParts {
   std::uint32_t flags = 0;
   std::string volume, localPath, network, suffix, localPathWide, suffixWide;

@@ -28,7 +28,7 @@ bool IsLowSurrogate(char32_t unit) {
   return unit >= 0xDC00 && unit < 0xE000;
 }
 
-/// Takes one code point off the front of a text that is not empty; U+FFFD for one byte that is no UTF-8.
+/// Takes one code point off the front of a text that is not empty; U+FFFD for a byte that is not UTF-8.
 char32_t NextCodePoint(std::string_view& text) {
   const auto [codePoint, length] = utf8::First(text);
   text.remove_prefix(length != 0 ? length : 1);

@@ -17,7 +17,7 @@ void AppendUtf16(std::string& text, std::string_view utf16);
 /// Adds ANSI text, up to its first null, to a text in UTF-8.
 void AppendAnsi(std::string& text, std::string_view ansi);
 
-/// The text up to its first null as UTF-16. What is no UTF-8 becomes U+FFFD.
+/// The text up to its first null as UTF-16. Bytes that are not UTF-8 become U+FFFD.
 std::string ToUtf16(std::string_view text);
 
 /// The text up to its first null as ANSI text, with a stand-in for every character that is not in the code page.

@@ -15,7 +15,7 @@
 /// that are whole are used, parts that are not are treated as absent, unknown parts are skipped.
 namespace dayvane::links {
 
-/// Reads a link; nothing when the bytes are none. Never touches the disk; works in time and memory that grow no
+/// Reads a link; nothing when the bytes are not a link. Never touches the disk; works in time and memory that grow no
 /// faster than the number of bytes.
 ///
 /// The target is the first of these that is there: the Unicode path of the link info; the path that the item list
@@ -26,7 +26,7 @@ std::optional<platform::ShellLink> ParseShellLink(std::string_view bytes);
 
 /// The bytes of a link that this and other readers of the format accept. The same link always gives the same bytes:
 /// they carry no time, and nothing about the target but its path and whether it is a folder. Texts end at their first
-/// null, and what is no UTF-8 in them becomes U+FFFD. An Error for a text beside the target of more than 65,535
+/// null, and bytes in them that are not UTF-8 become U+FFFD. An Error for a text beside the target of more than 65,535
 /// UTF-16 units, the most that fits.
 std::string WriteShellLink(const platform::ShellLink& link);
 

@@ -12,13 +12,13 @@
 namespace dayvane::links {
 
 /// Reads shell link files for a program that reads all of them again every second: each with one opening, and with at
-/// most one word about each version of a file that is no link.
+/// most one event for each version of a file that is not a link.
 class ShellLinkReader {
  public:
   /// A link takes a few kilobytes. A larger file is not a shell link, and no more of it is read.
   static constexpr std::size_t kLargestLink = 1 << 20;
 
-  /// As many files that are no links are remembered, so that foreign files cannot make the memory grow. Further ones
+  /// So many files that are not links are remembered, so that foreign files cannot make the memory grow. Further ones
   /// are passed over in silence: forgetting older ones instead would report all of them again at every poll.
   static constexpr std::size_t kMostReported = 1024;
 

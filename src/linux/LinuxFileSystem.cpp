@@ -110,7 +110,7 @@ std::vector<DirectoryEntry> LinuxFileSystem::List(const std::string& folder) {
   const auto native = ToNative(folder);
   if (!native) return entries;
   for (const DirectoryEntry& entry : ListFolder({*native, folder}))
-    // A name that the program cannot spell is not the program's: it writes none such.
+    // A name that has no form in the program's paths cannot be one that the program wrote.
     if (auto spelled = NameFromNative(entry.name)) entries.push_back({std::move(*spelled), entry.kind, entry.hidden});
   // As the disks of other systems list them: users see years in the order of the listing.
   std::ranges::sort(entries, {}, &DirectoryEntry::name);

@@ -11,7 +11,7 @@
 namespace dayvane {
 
 /// A registry of two trees: HKEY_CURRENT_USER is the user's settings file, HKEY_CLASSES_ROOT the desktop's content
-/// types and default applications, which nobody changes here. Keys must not outlive their registry.
+/// types and default applications, which are read only. Keys must not outlive their registry.
 ///
 /// Names of settings are the same whatever their letter case; the spelling of the first one to be written stays.
 class LinuxRegistry : public platform::Registry {

@@ -49,7 +49,7 @@ std::optional<platform::ShellFileInfo> LinuxShellIcons::FileInfo(const std::stri
   const bool isShortcut =
       text::EndsWithIgnoringCase(name, kShortcutExtension) && attributes != platform::kAttributeDirectory;
   if (isShortcut) name.resize(name.size() - kShortcutExtension.size());
-  // Of a name that fits several types GIO is "uncertain", and has the likeliest: better than none.
+  // When a name fits several types, GIO is "uncertain" and gives the likeliest, which is good enough.
   const glib::Text type(attributes == platform::kAttributeDirectory
                             ? g_strdup(kFolderType)
                             : g_content_type_guess(name.c_str(), nullptr, 0, nullptr));

@@ -154,7 +154,7 @@ void LinuxWindowing::PostMessage(controls::Form& form, int message) {
   FormPresenter* presenter = Find(form);
   if (presenter == nullptr || message != platform::kWmClose) return;
   QMetaObject::invokeMethod(
-      presenter, [presenter] { presenter->CloseOnUsersTurn(); }, Qt::QueuedConnection);
+      presenter, [presenter] { presenter->CloseWhenAnswered(); }, Qt::QueuedConnection);
 }
 
 void LinuxWindowing::SetForegroundWindow(controls::Form& form) {

@@ -20,22 +20,22 @@ class LinuxWindowing : public platform::Windowing {
   void Register(FormPresenter& presenter);
   void Forget(FormPresenter& presenter);
 
-  /// The user's session ends, and nobody is there any more to answer: from now on a question is answered as by closing
-  /// its box, and a message, which the logs have too, is not shown. A box or dialog that is open is closed.
+  /// The user's session ends, and no one is there to answer: from now on a question is answered as if its box had been
+  /// closed, and a message, which is in the logs too, is not shown. A box or dialog that is open is closed.
   void EndSession();
 
   platform::MessageAnswer ShowMessage(const platform::Message& message) override;
   void Beep() override;
   void ShowAbout(const platform::About& about) override;
 
-  /// Runs waiting events now and then. A splash window is the one that the user can get rid of meanwhile.
+  /// Runs waiting events now and then. A splash window is the only one that the user can close meanwhile.
   void ProcessPendingMessages() override;
 
   void ShowModal(controls::Form& form) override;
   void PostMessage(controls::Form& form, int message) override;
   void SetForegroundWindow(controls::Form& form) override;
 
-  /// Both return at once; the choice is told when it is made.
+  /// Both return at once; the menu raises Click when an item is chosen.
   void PopupMenu(controls::Form& form, controls::Menu& menu, double x, double y) override;
   void PopupMenuAtMouse(controls::Form& form, controls::Menu& menu, int defaultItem) override;
 

@@ -69,7 +69,7 @@ class SignalHandlers {
   std::vector<guint> m_sources;
 };
 
-/// What escapes every handler is reported as any other error of the program.
+/// An error that no handler catches is reported like any other.
 void LayNet(std::optional<ErrorNet>& net, Application& application) {
   const auto report = [&application](StringId phrase) {
     ReportCurrentError(application, phrase, "MDayvane", "EventLoop");

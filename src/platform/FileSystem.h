@@ -19,7 +19,7 @@ struct FileMoment {
   friend bool operator==(const FileMoment& a, const FileMoment& b) { return a.nanoseconds == b.nanoseconds; }
 };
 
-/// A symbolic link is a Link whatever it points at: nobody here follows one.
+/// A symbolic link is a Link whatever it points at: links are never followed.
 enum class EntryKind { File, Folder, Link, Other };
 
 struct FileStatus {
@@ -68,7 +68,7 @@ class FileSystem {
   /// file or the new one.
   virtual void Replace(const std::string& path, std::string_view bytes) = 0;
 
-  /// The same but for a power cut, after which the file may be empty: it does not wait for the disk, and only renews
+  /// The same, except that the file may be empty after a power cut: it does not wait for the disk, and only renews
   /// the moment of a file that holds these bytes already. For the many files that can be made again.
   virtual void ReplaceUnflushed(const std::string& path, std::string_view bytes) = 0;
 

@@ -63,7 +63,7 @@ class WritesTogether {
   ~WritesTogether() {
     try {
       Store();
-    } catch (const std::exception&) {  // NOLINT(bugprone-empty-catch): told to those who call Store
+    } catch (const std::exception&) {  // NOLINT(bugprone-empty-catch): reported by Store itself
     }
   }
 

@@ -46,7 +46,7 @@ class Shell {
  public:
   virtual ~Shell() = default;
 
-  /// Full path of a special folder, without a trailing "\". An error for a number the desktop has no folder for.
+  /// Full path of a special folder, without a trailing "\". An error when the desktop has no such folder.
   virtual std::string SpecialFolderPath(int number) = 0;
 
   /// Where the desktop keeps no Recent folder of its own: brings the folder up to date with the desktop's recent

@@ -17,7 +17,7 @@ struct Picture {
   friend bool operator==(const Picture&, const Picture&) = default;
 };
 
-/// What the shell tells of one item, as far as the flags asked for it.
+/// What the shell knows about one item, as far as the flags asked for it.
 struct ShellFileInfo {
   std::optional<Picture> icon;
   std::string displayName;
@@ -43,7 +43,7 @@ class ShellIcons {
  public:
   virtual ~ShellIcons() = default;
 
-  /// Identifier of the special folder with this number. Fails where the desktop has none.
+  /// Identifier of the special folder with this number. Fails when the desktop has no such folder.
   virtual std::uint64_t SpecialFolderIdentifier(int number) = 0;
 
   /// Nothing when the shell does not know the item. With kInfoUseAttributes the file need not be there,

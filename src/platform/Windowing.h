@@ -45,7 +45,7 @@ class Windowing {
   virtual void Beep() = 0;
 
   /// Lets windows be painted in the middle of long work; quick enough to be called for every item of it. What the user
-  /// does meanwhile waits until the work is done, but for sending a splash window away; no timer of the program's
+  /// does meanwhile waits until the work is done, except closing a splash window; no timer of the program's
   /// ticks.
   virtual void ProcessPendingMessages() = 0;
 

@@ -79,7 +79,7 @@ Date CRepository::LatestDayIn(const std::string& year, const platform::MonthName
   const std::string days = monthFolder(month > 0 ? month : 1);
   int day = 31;
   while (day > 0 && !FolderExists(files, days + "\\" + text::Padded(day, 2))) --day;
-  // With no month or no day found the text is no date, and that is the error.
+  // Without a month or a day the text is not a date, and that is the error to report.
   return ParseMonthFirst(std::to_string(month) + "/" + std::to_string(day) + "/" + year, m_application.desktop.dates);
 }
 

@@ -21,7 +21,7 @@ namespace dayvane {
 /// with the month's full name in the user's language and two-digit days. Months that were filed under another language
 /// keep their names; those of every language that the program was ever run in are known from the settings. A day folder
 /// holds a copy of each shortcut filed for the day and, beside them, shortcuts to the programs that open them. There is
-/// no index: that a folder is there is the fact that the day has documents.
+/// no index: a day has documents when its folder is there.
 ///
 /// "Daily" may be a symbolic link to a folder elsewhere. Its path stays the one in the program folder all the same, so
 /// that what was recorded before the folder moved is still named rightly. Links below it are not followed.
@@ -80,7 +80,7 @@ class CRepository : private Asserting {
   bool m_purged = false;
   bool m_purgeAsked = false;
   bool m_purgeConfirmed = false;
-  bool m_passedOver = false;                                           ///< and told so, once for the run
+  bool m_passedOver = false;                                           ///< a folder was, and that is logged once a run
   std::unique_ptr<std::map<std::string, CFolderFiles>> m_folderFiles;  ///< by path with its trailing "\"
   DirectoryWalker m_oDailyWalker;
   DirectoryWalker m_oFileWalker;

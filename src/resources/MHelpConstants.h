@@ -8,7 +8,7 @@ namespace dayvane {
 /// one.
 enum HelpContextId : int {
   kNoHelp = 0,        ///< a control without a topic
-  kHelpContents = 0,  ///< no topic: the table of contents
+  kHelpContents = 0,  ///< the table of contents
 
   // The options dialog.
   kHelpFavoritesThreshold = 2,

@@ -18,8 +18,8 @@ class COptions {
 
   explicit COptions(Application& application) : m_application(application) {}
 
-  /// Reads the three values. A subtree that does not exist is created with the defaults; from the first value on that
-  /// is missing or no number, this one and those after it are set back to their defaults.
+  /// Reads the three values. A subtree that does not exist is created with the defaults; the first value that is
+  /// missing or not a number is set back to its default, and so are those after it.
   void ReadValues();
 
   /// Lets the user change the values in the dialog and stores them. Returns whether the user accepted.

@@ -9,7 +9,7 @@
 #include "app/Application.h"
 #include "app/Asserting.h"
 #include "app/CWaitCursor.h"
-#include "base/Held.h"
+#include "base/CheckedPointer.h"
 #include "capture/FiledShortcuts.h"
 #include "repository/CRepository.h"
 #include "resources/StringTable.h"
@@ -150,9 +150,9 @@ class FMain : public FMainControls, private Asserting {
 
   Application& m_application;
   CRepository& m_repository;
-  Held<CCalendar> m_oCalendar;
-  Held<CDaily> m_oDaily;
-  Held<CFavorites> m_oFavorites;
+  CheckedPointer<CCalendar> m_oCalendar;
+  CheckedPointer<CDaily> m_oDaily;
+  CheckedPointer<CFavorites> m_oFavorites;
   bool m_exiting = false;
   std::int16_t m_activeView = kDailyView;
   std::int32_t m_favoritesThreshold = 0;

@@ -19,7 +19,7 @@ void FMain::mnuFilePopup_Click(int index) {
       case kFileResume:
         SetActive(true);
         return RefreshStatusBar();
-      // The tray menu's Show and Hide are not swapped on this road; they are only by SetVisible.
+      // Not by SetVisible: this way the tray menu's Show and Hide are deliberately not swapped.
       case kFileHide:
         return form.SetVisible(false);
       case kFileExit:

@@ -143,7 +143,7 @@ void FMain::SetActive(bool active) {
     tmrMain.SetEnabled(false);
     tryMain.SetPicture(kSuspendedIcon);
   }
-  // Of a poll that failed the timer is off too, and resuming is the way on.
+  // A poll that failed has left the timer off, too, and Resume is how to go on.
   ShowSuspendOrResume(tmrMain.Enabled());
 }
 

@@ -29,7 +29,7 @@ class CCalendar : private Asserting {
   void HighlightDays(const Date& date);
   void Refresh() { Demand(m_calendar, ".Refresh: Calendar is Nothing").Redraw(); }
 
-  /// Tells the day whose documents are listed, or with the zero date that no day is.
+  /// Shows which day's documents are listed; the zero date for none.
   void SetListed(const Date& date);
 
   controls::Signal<const Date&> DateChange;  ///< the new date

@@ -30,7 +30,7 @@ class CDaily : public DocumentListView {
   void Explore() const { ShowFolder(List("Explore"), "/n,/e,/root,"); }
   void OpenFolder() const { ShowFolder(List("OpenFolder"), "/n,"); }
 
-  /// Removes a row. Fails with kElementNotFound when the list has none of that key.
+  /// Removes a row. Fails with kElementNotFound when the list has no row with that key.
   void RemoveDocument(const std::string& key) { List("RemoveDocument").Remove(key); }
 
   void RestoreSettings();

@@ -17,7 +17,7 @@ namespace dayvane {
 
 /// Keeps one record for every document ever filed: how often, and when last. The records live in memory and in the
 /// data file "Favorites.dat" (views/FavoritesFile.h has its form). Documents filed often enough are the Favorites list,
-/// whose behaviour is also this class's.
+/// which this class looks after too.
 class CFavorites : public DocumentListView {
  public:
   static constexpr const char* ClassName = "CFavorites";
@@ -35,7 +35,7 @@ class CFavorites : public DocumentListView {
 
   /// Counts one filing of a document: one more day of its record, or a new record. The identity of a record is its
   /// folder and file name, without regard to case; the first match wins. Fails with kTypeMismatch when a damaged
-  /// record's count is no number.
+  /// record's count is not a number.
   void ProcessShortcut(const CShortcut* shortcut);
 
   /// Before the first capture of a start: counts what an earlier session filed and was cut off from counting, and saves
@@ -48,13 +48,13 @@ class CFavorites : public DocumentListView {
   /// Counts what was filed and could not be counted then, because it could not be read for a moment.
   void CountLate();
 
-  /// Counted since the table was last saved.
+  /// Whether anything was counted since the table was last saved.
   bool HasUnsavedCounts() const { return !m_unsaved.empty(); }
 
   /// Loads the data file, and counts what was filed since and is not counted in it; without a file the table is rebuilt
   /// from the repository. Returns whether there was a file. A file that ends inside a record is an error that is
-  /// reported: what was read is kept, and a copy of the file stays beside it, because the next save writes over it. Of
-  /// a file that cannot be read at all, reported too, the table is empty.
+  /// reported: what was read is kept, and a copy of the file stays beside it, because the next save writes over it. A
+  /// file that cannot be read at all is reported too, and leaves the table empty.
   bool Read();
 
   /// Writes the data file as a whole. An empty table leaves it as it is, and so does one that was neither loaded nor
@@ -64,7 +64,7 @@ class CFavorites : public DocumentListView {
   /// Builds the table anew from the repository: every day folder that holds a document's shortcut counts one.
   void RebuildFavorites();
 
-  /// The table holds all that the data file or the repository told.
+  /// The table holds everything that the data file or the repository has.
   bool IsWhole() const { return m_isWhole; }
 
   // The list.

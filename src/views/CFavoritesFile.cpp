@@ -18,7 +18,7 @@ namespace {
 
 using namespace favorites;  // NOLINT(google-build-using-namespace): the table's own words, in its own file
 
-/// More than two million documents; what is larger is no data file of this program.
+/// More than two million documents; anything larger was not written by this program.
 constexpr std::size_t kLargestFile = std::size_t{512} << 20;
 
 /// A disk that fails for a moment must cost no count.
@@ -97,13 +97,13 @@ void CFavorites::CountLate() {
     });
     if (!isKnown)
       m_uncounted.push_back(std::move(filed));
-    else if (isThere)  // or its filing failed: it will be filed, and counted then
+    else if (isThere)  // if not, its filing failed: it will be filed, and counted then
       CountOne(shortcut);
   }
 }
 
 void CFavorites::CountOne(const CShortcut& shortcut) {
-  // One record whose count is no number must not cost the others theirs.
+  // One record with a damaged count must not keep the others from being counted.
   if (!IgnoreErrors([&] { ProcessShortcut(&shortcut); }))
     m_application.eventLog.Append("Could not be counted: " + shortcut.File(), EventKind::Warning);
   m_unsaved.push_back(shortcut.File());

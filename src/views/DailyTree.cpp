@@ -15,7 +15,7 @@ std::string MonthPrefix(const std::string& name, const platform::MonthNames& mon
   return found == months.end() ? std::string() : text::Padded(found - months.begin() + 1, 2);
 }
 
-/// "01" … "12" for a month's name, nothing for another: a name that is no month sorts by its own text.
+/// "01" … "12" for a month's name, empty for any other name, which sorts by its own text.
 std::string MonthPrefix(const std::string& name, const platform::DateConventions& dates,
                         std::span<const platform::MonthNames> otherLanguages) {
   static const platform::DateConventions kEnglish;

@@ -15,8 +15,8 @@ inline constexpr int kYearLevel = 2;
 inline constexpr int kMonthLevel = 3;
 inline constexpr int kDayLevel = 4;
 
-/// The folder to list for the nodes of a level: the folder itself, but for the repository, which holds the years and
-/// may be a symbolic link to where it is.
+/// The folder to list for the nodes of a level: the folder itself, except that the repository, which holds the years,
+/// may be a symbolic link and is then the folder that it leads to.
 std::string ListedFolder(platform::FileSystem& files, const std::string& folder, int level);
 
 /// The names of a folder that become nodes of a level: all but those that end in ".lnk", in exactly these letters.

@@ -14,10 +14,10 @@
 namespace dayvane {
 
 /// What the Daily list and the Favorites list have in common: a list of documents on a pane, its sorting by column
-/// clicks, and the events that the main window handles. Assertions bear the name of the derived class.
+/// clicks, and the events that the main window handles. Assertions carry the name of the derived class.
 class DocumentListView : protected Asserting {
  public:
-  /// Columns, counted from 0; but for the last those of both lists.
+  /// Columns, counted from 0. All but the last are those of both lists.
   static constexpr std::size_t kNameColumn = 0;
   static constexpr std::size_t kTypeColumn = 1;
   static constexpr std::size_t kPathColumn = 2;
@@ -59,7 +59,7 @@ class DocumentListView : protected Asserting {
   }
   bool HasList() const { return m_listView != nullptr; }
 
-  /// Reads and writes the widths of the columns, which are the list's, and the sort.
+  /// The settings keep the sort and the widths of the list's columns.
   struct Sort {
     std::size_t column = 0;
     controls::SortOrder order = controls::SortOrder::Ascending;

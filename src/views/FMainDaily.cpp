@@ -197,8 +197,8 @@ void FMain::tvwMain_MouseUp(int button, double x, double y) {
 void FMain::m_oCalendar_DateChange(const Date& newDate) {
   if (m_inTreeClick) return;
   ReportErrors(m_application, kSelectingDate, kName, "m_oCalendar_DateChange", [&] {
-    // Days without documents are walked over on the way to others: there the list stays as it was, and nobody is told
-    // of an error at every step.
+    // Days without documents are walked over on the way to others: there the list stays as it was, and no error is
+    // reported at every step.
     if (tvwMain.Find(KeyOf(m_repository.DayFolder(newDate))) != nullptr) SelectDate(newDate);
     RefreshStatusBar();
   });

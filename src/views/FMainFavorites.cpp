@@ -12,7 +12,7 @@ namespace dayvane {
 
 namespace {
 
-/// A count that is no number, from a damaged data file, reaches no threshold: the other documents are still listed.
+/// A damaged data file may hold a count that is not a number. It reaches no threshold; the others are still listed.
 bool Reaches(const favorites::Value& days, std::int32_t threshold) {
   bool reaches = false;
   IgnoreErrors([&] { reaches = favorites::NumberOf(days) >= threshold; });

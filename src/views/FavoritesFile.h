@@ -15,7 +15,7 @@ namespace dayvane::favorites {
 std::string FormatRecord(const Record& record);
 
 /// Reads values one after the other. A line break separates values as a comma does, so a record may stand on several
-/// lines. Values keep the type they are written with; a text between number signs that is no date stays a text.
+/// lines. Values keep the type they are written with; a text between number signs that is not a date stays a text.
 class ValueReader {
  public:
   explicit ValueReader(std::string_view text) : m_rest(text) {}

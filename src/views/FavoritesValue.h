@@ -14,7 +14,7 @@ namespace dayvane::favorites {
 using Value = std::variant<std::monostate, std::int64_t, double, Date, std::string>;
 
 /// The value as the data file writes it (views/FavoritesFile.h), and back: what stands between two separators without
-/// quotation marks. Of those a text that is no number and no date stays a text.
+/// quotation marks. A text that is neither a number nor a date stays a text.
 std::string FormatValue(const Value& value);
 Value ParseUnquoted(std::string_view text);
 

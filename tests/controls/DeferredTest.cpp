@@ -31,7 +31,7 @@ class DeferredTest : public ::testing::Test {
 
 TEST_F(DeferredTest, WhileTheProgramWaitsForTheUserAnActionIsDoneAtOnce) {
   m_deferred.AfterWork(Acting(1));
-  m_deferred.OnUsersTurn(Acting(2));
+  m_deferred.AfterWorkAndQuestions(Acting(2));
   EXPECT_THAT(m_acted, ElementsAre(1, 2));
   EXPECT_EQ(m_wakes, 0);
 }
@@ -62,7 +62,7 @@ TEST_F(DeferredTest, WorkIsOverWhenItsOutermostScopeIs) {
 
 TEST_F(DeferredTest, ACommandWaitsForTheAnswerToAQuestionAndCaptureDoesNot) {
   std::optional<QuestionScope> question(std::in_place);
-  m_deferred.OnUsersTurn(Acting(1));
+  m_deferred.AfterWorkAndQuestions(Acting(1));
   m_deferred.AfterWork(Acting(2));
   ActOnDeferred();
   EXPECT_THAT(m_acted, ElementsAre(2));
@@ -76,7 +76,7 @@ TEST_F(DeferredTest, ACommandWaitsForTheAnswerToAQuestionAndCaptureDoesNot) {
 TEST_F(DeferredTest, WhatWaitsIsDoneInItsOrder) {
   std::optional<WorkScope> work(std::in_place);
   m_deferred.AfterWork(Acting(1));
-  m_deferred.OnUsersTurn(Acting(2));
+  m_deferred.AfterWorkAndQuestions(Acting(2));
   m_deferred.AfterWork(Acting(3));
   work.reset();
   ActOnDeferred();
@@ -107,8 +107,8 @@ TEST_F(DeferredTest, AnActionThatTakesAnotherOnesOwnerAwayTakesItsActionToo) {
 TEST_F(DeferredTest, AfterAnActionThatAsksTheUserFurtherCommandsWait) {
   std::optional<QuestionScope> question;
   std::optional<WorkScope> work(std::in_place);
-  m_deferred.OnUsersTurn([&] { question.emplace(); });
-  m_deferred.OnUsersTurn(Acting(1));
+  m_deferred.AfterWorkAndQuestions([&] { question.emplace(); });
+  m_deferred.AfterWorkAndQuestions(Acting(1));
   work.reset();
   ActOnDeferred();
   EXPECT_THAT(m_acted, IsEmpty());

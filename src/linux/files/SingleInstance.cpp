@@ -16,7 +16,7 @@ namespace {
 
 constexpr const char* kLockName = "/dayvane.lock";
 
-/// A folder, no link to one, that belongs to this user and lets nobody else in.
+/// A folder, not a link to one, that belongs to this user and that no other user can enter.
 bool IsPrivate(const std::string& folder) {
   struct stat status {};
   return folder.starts_with('/') && lstat(folder.c_str(), &status) == 0 && S_ISDIR(status.st_mode) &&
@@ -29,7 +29,7 @@ files::FileDescriptor OpenLockFile(const std::string& path) {
   return file;
 }
 
-/// Whether the open file is still the one of that path: what was deleted meanwhile locks nobody out.
+/// Whether the open file is still the one of that path: a lock on a deleted file would keep no other instance out.
 bool IsAt(const files::FileDescriptor& file, const std::string& path) {
   struct stat opened {};
   struct stat named {};

@@ -13,10 +13,10 @@ namespace dayvane {
 /// and lets it go with the process, however that ends.
 class SingleInstance {
  public:
-  /// Nothing when another instance runs. An Error when that cannot be told, because the folder cannot be used.
+  /// Nothing when another instance runs. An Error when the folder cannot be used to find out.
   static std::optional<SingleInstance> Acquire(const std::string& folder);
 
-  /// The folder for the lock: the user's runtime folder, the same one whether or not the process was told of it, else
+  /// The folder for the lock: the user's runtime folder, the same one whether or not the environment names it, else
   /// a folder of the user's own below the temporary folder, which is made. `runtimeFolders` is where the system keeps
   /// the runtime folders of its users. A folder that belongs to someone else is never taken.
   static std::string Folder(const xdg::Environment& environment, const std::string& runtimeFolders = "/run/user");

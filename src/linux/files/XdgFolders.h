@@ -6,7 +6,7 @@
 /// The user's folders by the XDG Base Directory Specification, as native paths without a trailing "/".
 namespace dayvane::xdg {
 
-/// What a process was told about its user.
+/// What the environment says about the user.
 struct Environment {
   std::string home;           ///< the user's home folder
   std::string dataHome;       ///< $XDG_DATA_HOME as it stands, empty when unset; likewise the next two

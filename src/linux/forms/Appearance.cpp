@@ -15,7 +15,7 @@ constexpr BusObject::Address kPortal{"org.freedesktop.portal.Desktop", "/org/fre
 constexpr guint32 kPreferDark = 1;
 constexpr guint32 kHigherContrast = 1;
 
-/// Where desktops tell the user's wishes. GNOME tells of contrast by its own setting only.
+/// Where desktops keep the user's wishes. GNOME has contrast in a setting of its own only.
 constexpr const char* kAppearance = "org.freedesktop.appearance";
 constexpr const char* kColorScheme = "color-scheme";
 constexpr const char* kContrast = "contrast";

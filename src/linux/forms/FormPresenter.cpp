@@ -22,7 +22,7 @@ using controls::WindowState;
 
 namespace {
 
-// A window that is maximised first moves and then says why: its place is told when it has come to rest.
+// A window that is maximised first moves and then says why: its place is reported once it has come to rest.
 constexpr int kRestMilliseconds = 200;
 
 constexpr int kLookAgainMilliseconds = 50;
@@ -39,7 +39,7 @@ int HelpIdAt(const QWidget* widget) {
   return widget == nullptr ? 0 : widget->property(kHelpIdProperty).toInt();
 }
 
-/// On Wayland nobody but the compositor does: what the form was told on another desktop stays.
+/// On Wayland only the compositor does: the form keeps the place that it had on another desktop.
 bool KnowsWhereWindowsAre() {
   return !QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
 }
@@ -75,8 +75,8 @@ bool FormPresenter::RequestUnload(UnloadMode mode) {
   return m_form.RequestUnload(mode);
 }
 
-void FormPresenter::CloseOnUsersTurn() {
-  m_deferred.OnUsersTurn([this] { RequestUnload(UnloadMode::Code); });
+void FormPresenter::CloseWhenAnswered() {
+  m_deferred.AfterWorkAndQuestions([this] { RequestUnload(UnloadMode::Code); });
 }
 
 void FormPresenter::EndSession() {
@@ -257,7 +257,7 @@ void FormPresenter::ShowVisible() {
   m_window.show();
   BringToFront();
   TellScale();
-  if (!std::exchange(m_wasShown, true)) m_form.Resize.Raise();  // as every form is told when it first opens
+  if (!std::exchange(m_wasShown, true)) m_form.Resize.Raise();  // every form gets one when it first opens
 }
 
 }  // namespace dayvane::widgets

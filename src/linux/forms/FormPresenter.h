@@ -31,11 +31,11 @@ class FormPresenter : public QObject {
   QWidget& Window() { return m_window; }
   QWidget& Inside() { return m_inside; }
 
-  /// Asks the form to go, after it was told where its window is.
+  /// Asks the form to go, after updating its place to that of the window.
   bool RequestUnload(controls::UnloadMode mode);
 
   /// Closes the window as soon as the program can, and the user has answered what is asked.
-  void CloseOnUsersTurn();
+  void CloseWhenAnswered();
 
   /// The user's session ends: what the program still asks is closed, and the form goes as soon as it can.
   void EndSession();
@@ -81,7 +81,7 @@ class FormPresenter : public QObject {
   bool m_showsHourglass = false;
   LateShow m_latePointer{[this] { ShowPointer(); }};
   bool m_wasShown = false;
-  int m_takenKey = 0;  ///< whose release says nothing, because its press was answered
+  int m_takenKey = 0;  ///< the release of this key is ignored, because its press was handled
   std::vector<controls::Connection> m_connections;
 };
 

@@ -150,7 +150,7 @@ void MainWindow::showEvent(QShowEvent* event) {
 void MainWindow::changeEvent(QEvent* event) {
   QMainWindow::changeEvent(event);
   if (event->type() != QEvent::FontChange && event->type() != QEvent::StyleChange) return;
-  // Later: the window is told before its children, which still measure themselves as they were.
+  // Later: the window gets the event before its children, which still have their old sizes.
   QMetaObject::invokeMethod(
       this, [this] { DesignAnew(); }, Qt::QueuedConnection);
 }

@@ -11,7 +11,7 @@ namespace dayvane::widgets {
 /// The gap between the two sides of a pane, which the user drags.
 class PaneSplitter : public QWidget {
  public:
-  /// `dragged` is told where the gap's left edge is wanted in its parent, in logical pixels.
+  /// `dragged` gets the place wanted for the gap's left edge in its parent, in logical pixels.
   explicit PaneSplitter(std::function<void(int left)> dragged) : m_dragged(std::move(dragged)) {
     setCursor(Qt::SplitHCursor);
   }

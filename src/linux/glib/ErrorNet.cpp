@@ -94,7 +94,7 @@ NetApplication::~NetApplication() {
 }
 
 bool NetApplication::notify(QObject* receiver, QEvent* event) {
-  // Asked before: a handler may end the life of what it was told of.
+  // Read before the event is handled: the handler may delete the event or its receiver.
   const StringId phrase = PhraseFor(event->type());
   const auto cause = event->isInputEvent() ? ErrorNet::Cause::Person : ErrorNet::Cause::Desktop;
   try {

@@ -28,8 +28,8 @@ class ErrorNet {
   /// The net of the process, or nullptr.
   static ErrorNet* Current();
 
-  /// Whose doing the error was. What a person does is answered every time. What happens by itself, such as painting,
-  /// may fail again and again: the same error is told once.
+  /// What led to the error. One that a person caused is reported every time. What the desktop causes, such as painting,
+  /// may fail again and again: the same error is reported once.
   enum class Cause { Person, Desktop };
 
   /// Takes the error that is being handled.

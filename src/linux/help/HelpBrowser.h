@@ -8,7 +8,7 @@
 namespace dayvane::help {
 
 /// Shows the pages of a help file, with a history to go back and forward in. It loads nothing from anywhere else: an
-/// address that is no topic gives a page that says so.
+/// address that names no topic gives a page that says so.
 class HelpBrowser : public QTextBrowser {
   Q_OBJECT
 
@@ -29,7 +29,7 @@ class HelpBrowser : public QTextBrowser {
   void ResetZoom() { Zoom(-m_zoom); }
 
  Q_SIGNALS:
-  /// Another page is shown. Its topic's name; of no meaning for a page of the browser's own.
+  /// Another page is shown. The name is its topic's, and means nothing for a page that the browser made itself.
   void TopicShown(const QString& name);
 
  protected:

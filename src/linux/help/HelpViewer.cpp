@@ -95,7 +95,7 @@ bool HelpViewer::Load() {
     const std::string native = m_path.toStdString();
     m_file = HelpFile::Read(files, files::FromNative(native).value_or(native));
   } catch (const Error& error) {
-    // Not the program's error: the user who asked for help is told where the help would have been.
+    // Not an error to report: the window itself says where the help file should be.
     m_browser.SetProblem(QStringLiteral("%1 It should be here: %2. Installing Dayvane again brings it back.")
                              .arg(QString::fromStdString(error.Description()), m_path));
     m_navigation.setEnabled(false);

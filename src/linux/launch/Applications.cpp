@@ -29,7 +29,7 @@ std::optional<std::string> ExportedCommand(GDesktopAppInfo* application, const c
   return command;
 }
 
-/// The program that "env NAME=value … program" starts. Where "env" has options, nobody guesses.
+/// The program that "env NAME=value … program" starts. Nothing where "env" has options.
 std::optional<std::string> ProgramAfterEnv(const char* commandLine) {
   int count = 0;
   char** words = nullptr;

@@ -17,7 +17,7 @@ namespace dayvane::applications {
 std::optional<std::string> ProgramOf(GAppInfo* application);
 
 /// The installed applications by the programs that they start. Gone through when first asked, which takes a while, and
-/// again when the desktop has told that they have changed; it tells while the GLib main loop runs.
+/// again when the desktop has reported a change, which it does while the GLib main loop runs.
 class ProgramIndex {
  public:
   ProgramIndex();
@@ -29,7 +29,7 @@ class ProgramIndex {
   /// when there are several. Null when the file is no application's program. Good until the next call.
   GAppInfo* Find(const std::string& program);
 
-  /// Whether an application's program has this file name, but for letter case.
+  /// Whether an application's program has this file name, whatever its letter case.
   bool HasName(const std::string& fileName);
 
  private:

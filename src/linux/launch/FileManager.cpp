@@ -22,8 +22,8 @@ bool IsFileManager(GAppInfo* application) {
   return categories != nullptr && std::strstr(categories, "FileManager") != nullptr;
 }
 
-/// Picture viewers and editors claim folders too, and the desktop's default is just the first by name when nobody
-/// chose one: a file manager is taken if there is any.
+/// Picture viewers and editors claim folders too, and the desktop's default is just the first by name when the user
+/// chose none: a file manager is taken if there is any.
 glib::Object<GAppInfo> ApplicationForFolders() {
   glib::Object<GAppInfo> byDefault(g_app_info_get_default_for_type(kFolderType, FALSE));
   if (byDefault && IsFileManager(byDefault.get())) return byDefault;

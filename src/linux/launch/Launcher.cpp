@@ -39,7 +39,7 @@ int ResultForMissing(const std::string& native, int systemError) {
 }
 
 /// The default application of a document. As on other desktops its name decides, where that is enough: by its content
-/// an empty document is a text, whatever its name. The failure says why there is none, where it is known.
+/// an empty document is a text, whatever its name. When there is none, the failure says why, if that is known.
 glib::Object<GAppInfo> ApplicationFor(GFile* file, const std::string& native, glib::Failure& failure) {
   gboolean uncertain = FALSE;
   const glib::Text type(g_content_type_guess(native.c_str(), nullptr, 0, &uncertain));

@@ -51,7 +51,7 @@ class RecentListFile {
 
   std::string m_path;
   std::size_t m_limit;
-  std::optional<Version> m_read;     ///< the version read last, none when there was no file
+  std::optional<Version> m_read;     ///< the version read last, empty when there was no file
   std::optional<Version> m_damaged;  ///< the version last found damaged
   bool m_isDue = true;               ///< even if its version is the one read last
 };

@@ -18,7 +18,7 @@ using Answer = std::optional<std::string>;
 constexpr std::size_t kMostAnswers = 4096;
 
 Answer TypeOfName(const std::string& name) {
-  // A type of which GIO is "uncertain" is the likeliest of several that share the ending: better than none.
+  // When several types share the ending, GIO is "uncertain" and gives the likeliest, which is good enough.
   const glib::Text type(g_content_type_guess(name.c_str(), nullptr, 0, nullptr));
   if (!type || g_content_type_is_unknown(type.get())) return std::nullopt;
   return std::string(type.get());

@@ -31,8 +31,8 @@ struct ClassKeyAnswer {
 /// The name of a class is its content type, its icon a name in the icon theme. Every answer comes from names alone: no
 /// document is looked at, because its disk may be asleep.
 ///
-/// A poll asks four such questions for each of thousands of shortcuts, so answers are kept: until the desktop tells
-/// that its applications have changed, and for a minute at most, since nobody tells when its content types do.
+/// A poll asks four such questions for each of thousands of shortcuts, so answers are kept: until the desktop reports
+/// that its applications have changed, and for a minute at most, since changed content types are not reported.
 class DocumentClasses {
  public:
   using Clock = std::function<std::chrono::steady_clock::time_point()>;

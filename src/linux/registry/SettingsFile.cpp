@@ -125,7 +125,7 @@ void SettingsFile::Refresh() {
   m_version = found;
   m_text.clear();
   m_keys.clear();
-  // Of a file that the disk tells nothing of no setting is known, and none may be lost by that.
+  // A file whose status cannot be read counts as damaged: its settings are unknown, and must not be overwritten.
   m_damaged = !isKnown;
   if (!found) return;
   Read(path);
@@ -134,7 +134,7 @@ void SettingsFile::Refresh() {
 
 void SettingsFile::Read(const std::string& path) {
   std::string bytes;
-  // Of a folder in its place, and of a file that may not be read, no setting is known, and nothing may be lost by that.
+  // So does a folder in its place, and a file that may not be read.
   const bool isRead = IgnoreErrors([&] { bytes = files::LinuxFileSystem().Read(path, kLargestFile + 1).bytes; });
   auto keys = isRead && bytes.size() <= kLargestFile ? ParseSettings(bytes) : std::nullopt;
   m_damaged = !keys;

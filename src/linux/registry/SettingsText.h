@@ -36,11 +36,11 @@ const std::string* FindSetting(const SettingsKeys& keys, std::string_view path, 
 /// GLib's own escapes are too few for any text and for names. What cannot stand for itself is written as \\, \n, \r,
 /// \t, \s (a blank at either end) or \xHH (one byte, hexadecimal); any other "\" is itself.
 ///
-/// A line that is none of these makes the whole text damaged: nothing is returned.
+/// Any other line makes the whole text damaged: nothing is returned.
 std::optional<SettingsKeys> ParseSettings(std::string_view text);
 
 /// The settings with the comments, the empty lines and the order of the text that they came from. Parsing the result
-/// gives the same settings back, but for keys without values, which are left out.
+/// gives the same settings back, except keys without values, which are left out.
 std::string WriteSettings(const SettingsKeys& keys, std::string_view old = {});
 
 }  // namespace dayvane::registry

@@ -7,7 +7,7 @@
 
 namespace dayvane::widgets {
 
-/// An object of another program on the session bus. Programs come and go; without a bus none ever comes.
+/// An object of another program on the session bus. Programs come and go; without a bus none ever appears.
 class BusObject {
  public:
   struct Address {

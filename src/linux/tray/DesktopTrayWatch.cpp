@@ -11,9 +11,9 @@ namespace dayvane::widgets {
 
 namespace {
 
-// The X server does not tell whoever asks only once that a tray has come.
-constexpr int kLookMilliseconds = 2000;
-constexpr int kFirstLookMilliseconds = 300;  ///< the session bus answers before
+// The X server sends no word of a tray that appears later, so it is asked again and again.
+constexpr int kCheckMilliseconds = 2000;
+constexpr int kFirstCheckMilliseconds = 300;  ///< by then the session bus has answered
 
 struct Free {
   // What the X library gives comes from malloc.
@@ -37,17 +37,17 @@ bool HasEmbeddingTray() {
 
 }  // namespace
 
-DesktopTrayWatch::DesktopTrayWatch() : m_notifiers([this] { Look(); }) {
-  QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this] { Look(); });
-  m_timer.start(kLookMilliseconds);
-  QTimer::singleShot(kFirstLookMilliseconds, &m_timer, [this] { Look(); });
+DesktopTrayWatch::DesktopTrayWatch() : m_notifiers([this] { Check(); }) {
+  QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this] { Check(); });
+  m_timer.start(kCheckMilliseconds);
+  QTimer::singleShot(kFirstCheckMilliseconds, &m_timer, [this] { Check(); });
 }
 
 bool DesktopTrayWatch::IsThere(Kind kind) const {
   return kind == Kind::StatusNotifier ? m_notifiers.HasHost() : HasEmbeddingTray();
 }
 
-void DesktopTrayWatch::Look() {
+void DesktopTrayWatch::Check() {
   // A desktop that has both is served as Qt serves it: with status notifiers.
   if (!m_kind && IsThere(Kind::StatusNotifier)) m_kind = Kind::StatusNotifier;
   if (!m_kind && IsThere(Kind::Embedding)) m_kind = Kind::Embedding;

@@ -24,7 +24,7 @@ class DesktopTrayWatch : public TrayWatch {
  private:
   enum class Kind { StatusNotifier, Embedding };
 
-  void Look();
+  void Check();
   bool IsThere(Kind kind) const;
 
   StatusNotifierWatch m_notifiers;

@@ -18,7 +18,7 @@
 
 namespace dayvane::widgets {
 
-/// Shows the tray icon with its menu. The panel opens the menu by itself, so the program hears of no right click;
+/// Shows the tray icon with its menu. The panel opens the menu by itself, so right clicks never reach the program;
 /// the menu's default item is its first visible one. While there is no tray and the main form is hidden, a stand-in
 /// window carries the menu's commands. Its Show and Hide follow the form and not the menu, which not every way of
 /// hiding the form updates: there would be no way back.

@@ -12,7 +12,7 @@
 
 namespace dayvane::widgets {
 
-/// What the user did in a view, told after the view itself has done with the event: a listener may change the rows.
+/// What the user did in a view, reported after the view itself has handled the event: a listener may change the rows.
 struct ViewEvents {
   std::function<void(const QModelIndex&)> press;       ///< any mouse button, on a row
   std::function<void()> doubleClick;                   ///< left button, on a row
@@ -34,7 +34,7 @@ class ClassicView : public View {
 
   void SetEvents(ViewEvents&& events) { m_events = std::move(events); }
 
-  /// A change of the selection now is the mouse's, which `press` tells of.
+  /// Whether a change of the selection now comes from the mouse, which `press` reports.
   bool IsPressing() const { return m_pressing; }
 
   /// Lays waiting rows out, so that there is something to scroll.

@@ -9,7 +9,7 @@
 namespace dayvane::widgets {
 
 /// Draws the controls' pictures. The names of a picture are looked for in the user's icon theme, then in Adwaita,
-/// which has an icon for most document types; whatever has none shows as a plain document.
+/// which has an icon for most document types; anything without one shows as a plain document.
 class Icons {
  public:
   Icons() { QIcon::setFallbackThemeName(QStringLiteral("Adwaita")); }

@@ -12,7 +12,7 @@ class LateShow {
  public:
   explicit LateShow(std::function<void()> show);
 
-  /// Some state is new. Shown at once, or later when it says busy and nobody asked for the work.
+  /// Some state is new. Shown at once, or later when it says busy and the user did not ask for the work.
   void Changed(bool isBusy);
 
  private:

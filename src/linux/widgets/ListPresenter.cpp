@@ -57,7 +57,7 @@ void ListPresenter::ListenToUser() {
   m_details.SetEvents(EventsOf(m_details));
   connect(&m_selection, &QItemSelectionModel::selectionChanged, this, [this] { SelectionMoved(); });
   QHeaderView* header = m_details.header();
-  // The second of two quick clicks is told as a double click only.
+  // The second of two quick clicks arrives as a double click only.
   for (const auto clicked : {&QHeaderView::sectionClicked, &QHeaderView::sectionDoubleClicked}) {
     connect(header, clicked, this, [this](int column) {
       m_control.ColumnClick.Raise(static_cast<std::size_t>(column) + 1);

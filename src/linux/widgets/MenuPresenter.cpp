@@ -57,7 +57,7 @@ void MenuPresenter::ShowItem(int index) {
 
 void MenuPresenter::Choose(int index) {
   ShowItem(index);  // the widget has turned the check mark by itself
-  m_deferred.OnUsersTurn([this, index] { m_menu.Choose(index); });
+  m_deferred.AfterWorkAndQuestions([this, index] { m_menu.Choose(index); });
 }
 
 }  // namespace dayvane::widgets

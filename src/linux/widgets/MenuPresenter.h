@@ -10,13 +10,13 @@
 
 namespace dayvane::widgets {
 
-/// Shows a menu and its submenus. What is chosen is told to the program after the menu has closed and its event is
+/// Shows a menu and its submenus. The program learns what was chosen after the menu has closed and its event is
 /// done: a command may open a message box and wait for it, for which a screen reader that chose it must not wait.
 class MenuPresenter : public QMenu {
  public:
   explicit MenuPresenter(controls::Menu& menu, QWidget* parent = nullptr);
 
-  /// Draws the item as the one that a plain click would choose; -1 for none.
+  /// Draws the item as the default one; -1 for none.
   void SetDefaultItem(int index);
 
   /// The first item that is visible; -1 when there is none.

@@ -37,7 +37,7 @@ void NumberFieldPresenter::stepBy(int steps) {
   for (int i = 0; i < std::abs(steps); ++i) {
     const std::string before = m_text.Text();
     click.Raise();
-    if (m_text.Text() == before) return;  // the end is reached, which is beeped once and not for every step
+    if (m_text.Text() == before) return;  // the end is reached: one beep, not one for every step
   }
 }
 
@@ -53,7 +53,7 @@ void NumberFieldPresenter::keyPressEvent(QKeyEvent* event) {
 
 void NumberFieldPresenter::keyReleaseEvent(QKeyEvent* event) {
   QAbstractSpinBox::keyReleaseEvent(event);
-  event->ignore();  // the dialog has keys of its own, of which this base would let it hear nothing
+  event->ignore();  // or the dialog would not get the keys that it handles itself
 }
 
 bool NumberFieldPresenter::event(QEvent* event) {

@@ -49,8 +49,8 @@ void ToolbarPresenter::AddButton(controls::Button& button, const ToolbarRow& row
   widget.setFocusPolicy(Qt::TabFocus);
   m_layout.addWidget(&widget);
   connect(
-      &widget, &QToolButton::clicked, this, [this, &button] { m_deferred.OnUsersTurn([&button] { button.Press(); }); },
-      Qt::QueuedConnection);
+      &widget, &QToolButton::clicked, this,
+      [this, &button] { m_deferred.AfterWorkAndQuestions([&button] { button.Press(); }); }, Qt::QueuedConnection);
   m_buttons.back().link = std::make_unique<ControlLink>(button, widget, [&button, &widget] {
     widget.setToolTip(QString::fromStdString(button.ToolTipText()));
     widget.setAccessibleName(widget.toolTip());

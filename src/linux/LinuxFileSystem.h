@@ -9,12 +9,10 @@
 
 namespace dayvane::files {
 
-/// The disk of a POSIX system. Files are replaced through a neighbour named kUnfinishedName, so that a kill leaves at
-/// most that one hidden file, which the next write in the folder reuses and removing the folder clears away.
+/// The disk of a POSIX system. Files are replaced through an UnfinishedFile, so that a kill leaves at most that one
+/// hidden file, which the next write in the folder reuses and removing the folder clears away.
 class LinuxFileSystem : public platform::FileSystem {
  public:
-  static constexpr const char* kUnfinishedName = ".dayvane-unfinished";
-
   std::optional<platform::FileStatus> Status(const std::string& path) override;
   std::string Resolve(const std::string& path) override;
   std::vector<platform::DirectoryEntry> List(const std::string& folder) override;

@@ -6,6 +6,7 @@
 
 #include "links/ShellLinkFormat.h"
 #include "linux/files/NativePath.h"
+#include "linux/files/UnfinishedFile.h"
 #include "linux/recent/Moment.h"
 #include "linux/recent/RecentState.h"
 #include "linux/registry/SettingsText.h"
@@ -117,7 +118,7 @@ std::string FaultyDesk::ComplaintAbout(const std::string& path) const {
   const std::string name = fs::path(path).filename();
   const std::string text = ReadFile(path);
   // What could not be removed; the next write in the folder does it.
-  if (name == files::LinuxFileSystem::kUnfinishedName) return "";
+  if (name == files::kUnfinishedName) return "";
   if (path == DocumentPath(name)) return text == Contents(name) ? "" : "a changed document";
   // One that could not be read is kept beside the new one.
   if (name == "Favorites.dat" || name.starts_with("Favorites.damaged"))

@@ -6,6 +6,7 @@
 
 #include "base/Error.h"
 #include "linux/LinuxFileSystem.h"
+#include "linux/files/UnfinishedFile.h"
 #include "tests/support/BrokenDisk.h"
 #include "tests/support/FullDisk.h"
 #include "tests/support/TemporaryFolder.h"
@@ -25,7 +26,7 @@ using ::testing::UnorderedElementsAre;
 class LinuxFileSystemTest : public ::testing::Test {
  protected:
   std::string Path(const std::string& name) const { return m_folder.Path() + "\\" + name; }
-  std::string Unfinished() const { return m_folder / LinuxFileSystem::kUnfinishedName; }
+  std::string Unfinished() const { return m_folder / kUnfinishedName; }
 
   std::vector<std::string> Names() {
     std::vector<std::string> names;
@@ -126,7 +127,7 @@ TEST_F(LinuxFileSystemTest, ACopyOfASparseFileIsSparse) {
 }
 
 TEST_F(LinuxFileSystemTest, AFileThatAKillLeftUnfinishedIsReused) {
-  m_folder.Write(LinuxFileSystem::kUnfinishedName, std::string(1000, 'x'));
+  m_folder.Write(kUnfinishedName, std::string(1000, 'x'));
   m_files.Replace(Path("a.dat"), "new");
   EXPECT_EQ(ReadFile(m_folder / "a.dat"), "new");
   EXPECT_THAT(Names(), ElementsAre("a.dat"));
@@ -141,7 +142,7 @@ TEST_F(LinuxFileSystemTest, ALinkInPlaceOfTheUnfinishedFileIsNotWrittenThrough) 
 }
 
 TEST_F(LinuxFileSystemTest, RemovingAFolderClearsWhatAKillLeftUnfinished) {
-  m_folder.Write("day/" + std::string(LinuxFileSystem::kUnfinishedName), "half");
+  m_folder.Write("day/" + std::string(kUnfinishedName), "half");
   m_files.RemoveFolder(Path("day"));
   EXPECT_FALSE(fs::exists(m_folder / "day"));
 }
@@ -153,7 +154,7 @@ TEST_F(LinuxFileSystemTest, AFolderThatHoldsAFileIsNotRemoved) {
 }
 
 TEST_F(LinuxFileSystemTest, ALinkToAFolderIsNotRemovedAsAFolder) {
-  const std::string elsewhere = m_folder.Write("elsewhere/" + std::string(LinuxFileSystem::kUnfinishedName), "half");
+  const std::string elsewhere = m_folder.Write("elsewhere/" + std::string(kUnfinishedName), "half");
   fs::create_symlink(m_folder / "elsewhere", m_folder / "day");
   EXPECT_EQ(ErrorOf(Path("day"), [&] { m_files.RemoveFolder(Path("day")); }), kPathNotFound);
   EXPECT_TRUE(fs::exists(elsewhere));

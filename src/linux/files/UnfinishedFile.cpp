@@ -8,7 +8,6 @@
 #include <unistd.h>
 #include <utility>
 
-#include "linux/LinuxFileSystem.h"
 #include "linux/files/SystemError.h"
 
 namespace dayvane::files {
@@ -25,7 +24,7 @@ void WriteAll(int file, std::string_view bytes, const std::string& path) {
 UnfinishedFile::UnfinishedFile(std::string destination, std::string path)
     : m_destination(std::move(destination)),
       m_path(std::move(path)),
-      m_unfinished(m_destination.substr(0, m_destination.rfind('/') + 1) + LinuxFileSystem::kUnfinishedName),
+      m_unfinished(m_destination.substr(0, m_destination.rfind('/') + 1) + kUnfinishedName),
       m_file(Create()) {}
 
 UnfinishedFile::~UnfinishedFile() {

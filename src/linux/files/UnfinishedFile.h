@@ -9,10 +9,14 @@
 
 namespace dayvane::files {
 
+/// Name of the one unfinished file that a folder may have. Hidden, so that nobody takes it for a document.
+inline constexpr const char* kUnfinishedName = ".dayvane-unfinished";
+
 /// Writes all of the bytes to an open file. An error is about `path`.
 void WriteAll(int file, std::string_view bytes, const std::string& path);
 
-/// A new file beside its destination, which it takes the place of when it is whole; gone again when it never is.
+/// A new file beside its destination, kUnfinishedName, which it takes the place of when it is whole; gone again when it
+/// never is.
 class UnfinishedFile {
  public:
   /// `destination` is the native path, `path` is what errors are about.

@@ -12,6 +12,7 @@
 
 #include "links/ShellLinkFormat.h"
 #include "tests/support/MainWindow.h"
+#include "tests/support/System.h"
 
 namespace dayvane {
 namespace {

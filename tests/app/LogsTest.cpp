@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include <filesystem>
 #include <gtest/gtest.h>
-#include <sys/stat.h>
 
 #include "app/Application.h"
 #include "app/ReportErrors.h"
@@ -68,7 +68,7 @@ TEST_F(LogsTest, TheRestOfAFailedProcedureIsSkipped) {
 }
 
 TEST_F(LogsTest, ALogThatCannotBeWrittenIsNotReported) {
-  ASSERT_EQ(mkdir((desktop.NativeFolder() + "/EventLog.txt").c_str(), 0700), 0);
+  std::filesystem::create_directory(desktop.NativeFolder() + "/EventLog.txt");
   EXPECT_NO_THROW(application.eventLog.Append("lost", EventKind::Information));
   EXPECT_TRUE(desktop.windowing.messages.empty());
 }

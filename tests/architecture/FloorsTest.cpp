@@ -71,6 +71,23 @@ std::string Objection(const std::string& file, const Include& include) {
   return "";
 }
 
+/// What of tests/ is about one system: its folder, the installed program's tests, and what stands behind
+/// tests/support/System.h.
+bool IsTestOfOneSystem(const std::string& test) {
+  static const std::regex folders("^(linux|windows|faults|fuzz|session|support/linux|support/windows)/");
+  return std::regex_search(test, folders);
+}
+
+/// Why the file of tests/ may not have this include; empty when it may.
+std::string TestObjection(const std::string& test, const Include& include) {
+  static const std::regex googleTest("^g(test|mock)/");
+  static const std::regex system("^(tests/)?(linux|windows)/|^tests/support/(linux|windows)/");
+  if (IsTestOfOneSystem(test)) return "";
+  const bool isFine = include.angled ? IsStandardHeader(include.name) || std::regex_search(include.name, googleTest)
+                                     : !std::regex_search(include.name, system);
+  return isFine ? "" : test + " includes " + include.name + ", which not every system has";
+}
+
 TEST(Floors, NoFileKnowsAFloorAboveItsOwn) {
   std::vector<std::string> objections;
   for (const std::string& file : FilesBelow("src", {".h", ".cpp"}))
@@ -133,6 +150,26 @@ TEST(Floors, OneDesktopKnowsNothingOfAnother) {
 
 TEST(Floors, AnIncludeIsNamedFromTheTopOfTheSources) {
   EXPECT_NE(Objection("app/Date.cpp", {"Date.h"}), "");
+}
+
+TEST(Floors, TheProgramsTestsRunOnAnySystem) {
+  std::vector<std::string> objections;
+  for (const std::string& test : FilesBelow("tests", {".h", ".cpp"}))
+    for (const Include& include : IncludesIn(ProjectFile("tests/" + test)))
+      if (const std::string objection = TestObjection(test, include); !objection.empty())
+        objections.push_back(objection);
+  EXPECT_THAT(objections, IsEmpty());
+}
+
+TEST(Floors, OnlyATestOfOneSystemKnowsWhatThatSystemHas) {
+  EXPECT_NE(TestObjection("app/LogsTest.cpp", {"sys/stat.h", true}), "");
+  EXPECT_NE(TestObjection("app/LogsTest.cpp", {"QWidget", true}), "");
+  EXPECT_NE(TestObjection("fs/DirectoryWalkerTest.cpp", {"linux/LinuxFileSystem.h"}), "");
+  EXPECT_NE(TestObjection("views/CDailyTest.cpp", {"tests/linux/disk/FullDisk.h"}), "");
+  EXPECT_NE(TestObjection("support/TestFiles.h", {"windows/WindowsFileSystem.h"}), "");
+  EXPECT_EQ(TestObjection("views/CDailyTest.cpp", {"gmock/gmock.h", true}), "");
+  EXPECT_EQ(TestObjection("linux/disk/FullDisk.h", {"sys/resource.h", true}), "");
+  EXPECT_EQ(TestObjection("support/linux/System.cpp", {"linux/LinuxFileSystem.h"}), "");
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 
 #include "base/Error.h"
 #include "capture/CShortcut.h"
+#include "tests/support/System.h"
 #include "tests/support/TestDesktop.h"
 
 namespace dayvane {
@@ -264,16 +265,16 @@ TEST_F(CShortcutTest, AProgramThatDoesNotExistGetsNoShortcut) {
 
 TEST_F(CShortcutTest, AProgramIsFoundBehindASymbolicLink) {
   desktop.folder.Write("opt/writer-3", "");
-  fs::create_symlink("opt/writer-3", desktop.folder / "writer");
+  testing::MakeFileLink("opt/writer-3", desktop.folder / "writer");
   FileBesideDocument("writer");
   EXPECT_EQ(LinkAt("Writer.lnk").target, Program("writer"));
 }
 
 TEST_F(CShortcutTest, ALinkThatLeadsNowhereOrToAFolderIsNoProgram) {
   fs::create_directory(desktop.folder / "folder");
-  fs::create_symlink("nowhere", desktop.folder / "dangling");
-  fs::create_symlink("folder", desktop.folder / "to-folder");
-  fs::create_symlink("circle", desktop.folder / "circle");
+  testing::MakeFileLink("nowhere", desktop.folder / "dangling");
+  testing::MakeFileLink("folder", desktop.folder / "to-folder");
+  testing::MakeFileLink("circle", desktop.folder / "circle");
   for (const char* name : {"folder", "dangling", "to-folder", "circle"}) FileBesideDocument(name);
   EXPECT_THAT(FilesInProgramFolder(), ElementsAre("a.odt.lnk"));
 }
@@ -298,7 +299,7 @@ TEST_F(CShortcutTest, AFolderInTheWayOfAProgramsShortcutIsLeftAlone) {
 TEST_F(CShortcutTest, ASymbolicLinkInTheWayOfAProgramsShortcutIsReplacedAndNotFollowed) {
   desktop.folder.Write("bin/writer", "");
   const std::string document = desktop.folder.Write("document.odt", "a document");
-  fs::create_symlink(document, desktop.NativeFolder() + "/Writer.lnk");
+  testing::MakeFileLink(document, desktop.NativeFolder() + "/Writer.lnk");
   FileBesideDocument("bin\\writer");
   EXPECT_EQ(testing::ReadFile(document), "a document");
   EXPECT_EQ(LinkAt("Writer.lnk").target, Program("bin\\writer"));

@@ -4,8 +4,6 @@
 
 #include "base/Error.h"
 #include "tests/capture/CaptureFixture.h"
-#include "tests/support/FullDisk.h"
-#include "tests/support/Unprivileged.h"
 
 namespace dayvane {
 namespace {
@@ -114,42 +112,11 @@ TEST_F(CaptureTest, AfterAFailedPollTicksDoNothingUntilCaptureIsResumed) {
 
 TEST_F(CaptureTest, ALinkInPlaceOfAYearNeverLeadsOutOfTheRepository) {
   const testing::TemporaryFolder outside;
-  fs::create_directory_symlink(outside.Native(), Daily("2026"));
+  testing::MakeFolderLink(outside.Native(), Daily("2026"));
   Open("2026-11-21 09:15:00");
   Load();
   EXPECT_TRUE(fs::is_empty(outside.Native()));
   EXPECT_EQ(desktop.LogLines("ErrorLog.txt").size(), 1U);
-}
-
-TEST_F(CaptureTest, AnUnreadableShortcutEndsThePollWithAReport) {
-  Load();
-  fs::permissions(Open("2026-11-21 09:15:00"), fs::perms::none);
-  fs::permissions(desktop.folder.Native(), fs::perms::all);
-  fs::permissions(desktop.NativeFolder(), fs::perms::all);
-  {
-    const testing::Unprivileged user;
-    Tick();
-  }
-  EXPECT_THAT(desktop.windowing.Texts(), ElementsAre("An error occurred checking for new documents."));
-  EXPECT_THAT(desktop.LogLines("ErrorLog.txt")[0], HasSubstr("Permission denied"));
-}
-
-TEST_F(CaptureTest, ADiskThatFillsLeavesNoHalfFiledShortcut) {
-  Load();
-  Open("2026-11-21 09:15:00");
-  Tick();
-  const std::string before = ReadFile(Daily("2026/November/21/Report.odt.lnk"));
-  Open("2026-11-21 10:00:00");
-  {
-    const testing::FullDisk full;
-    Tick();
-  }
-  EXPECT_EQ(ReadFile(Daily("2026/November/21/Report.odt.lnk")), before);
-  EXPECT_EQ(std::distance(fs::directory_iterator(Daily("2026/November/21")), fs::directory_iterator()), 1);
-  EXPECT_THAT(desktop.windowing.Texts(), ElementsAre("An error occurred checking for new documents."));
-  window.PollRecentFolder();
-  EXPECT_NE(fs::last_write_time(Daily("2026/November/21/Report.odt.lnk")), fs::file_time_type{});
-  EXPECT_TRUE(window.tmrMain.Enabled());
 }
 
 TEST_F(CaptureTest, AMissingShortcutIsLoggedAndFails) {

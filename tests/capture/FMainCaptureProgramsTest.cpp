@@ -84,7 +84,7 @@ TEST_F(CaptureTest, AProgramsShortcutBehindALinkOutOfTheRepositoryIsNotMoved) {
   const testing::TemporaryFolder outside;
   fs::rename(Daily("2026/November/21/Code.lnk"), outside / "Code.lnk");
   fs::remove_all(Daily("2026/November/21"));
-  fs::create_directory_symlink(outside.Native(), Daily("2026/November/21"));
+  testing::MakeFolderLink(outside.Native(), Daily("2026/November/21"));
   Open("2026-11-21 09:20:00", "Z:\\home\\ana\\Code");
   Tick();
   EXPECT_EQ(std::distance(fs::directory_iterator(outside.Native()), fs::directory_iterator()), 1);

@@ -3,8 +3,9 @@
 #include <gtest/gtest.h>
 
 #include "capture/FiledShortcuts.h"
-#include "linux/LinuxFileSystem.h"
+#include "tests/support/System.h"
 #include "tests/support/TemporaryFolder.h"
+#include "tests/support/TestFiles.h"
 
 namespace dayvane {
 namespace {
@@ -20,7 +21,7 @@ class FiledShortcutsTest : public ::testing::Test {
   std::string Path(const std::string& name) const { return m_folder.Path() + "\\" + name; }
 
   testing::TemporaryFolder m_folder;
-  files::LinuxFileSystem m_files;
+  testing::TestFiles m_files;
   FiledShortcuts m_filed{m_files};
 };
 

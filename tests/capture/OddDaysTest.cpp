@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include <fcntl.h>
 #include <filesystem>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <sys/stat.h>
 
-#include "tests/support/LocalZone.h"
 #include "tests/support/MainWindow.h"
+#include "tests/support/System.h"
 
 namespace dayvane {
 namespace {
@@ -23,9 +21,7 @@ class OddDaysTest : public ::testing::Test, protected testing::MainWindow {
  protected:
   /// A document was opened at a moment, in seconds since 1970.
   void Open(const std::string& name, std::int64_t moment) {
-    const std::string path = desktop.OpenDocument("Z:\\home\\ana\\" + name, "2026-11-21 09:15:00");
-    const struct timespec times[2] = {{0, UTIME_OMIT}, {static_cast<time_t>(moment), 0}};
-    ASSERT_EQ(utimensat(AT_FDCWD, path.c_str(), times, 0), 0);
+    testing::SetWritten(desktop.OpenDocument("Z:\\home\\ana\\" + name, "2026-11-21 09:15:00"), moment);
   }
 
   /// What is filed, "2026/November/21/a.odt.lnk", in the order of the names.
@@ -107,9 +103,7 @@ TEST_F(OddDaysTest, OneMomentIsTwoDaysOnTheTwoSidesOfTheDateLine) {
                                   std::pair("Pacific/Pago_Pago", "2026/November/21/Pacific.lnk")}) {
     const LocalZone here(zone);
     MainWindow user;
-    const std::string path = user.desktop.OpenDocument("Z:\\home\\ana\\Pacific", "2026-11-21 12:00:00");
-    const struct timespec times[2] = {{0, UTIME_OMIT}, {kNoonInGreenwich, 0}};
-    ASSERT_EQ(utimensat(AT_FDCWD, path.c_str(), times, 0), 0);
+    testing::SetWritten(user.desktop.OpenDocument("Z:\\home\\ana\\Pacific", "2026-11-21 12:00:00"), kNoonInGreenwich);
     user.Load();
     EXPECT_TRUE(fs::exists(user.Daily(day))) << zone;
   }

@@ -6,8 +6,8 @@
 #include <random>
 #include <set>
 
-#include "tests/support/LocalZone.h"
 #include "tests/support/ProgramRuns.h"
+#include "tests/support/System.h"
 
 /// Random work of a user against the rules in their shortest form: whatever is opened, purged, removed, rebuilt, ended
 /// and killed in whatever order, the table is what the rules give, and the folder holds nothing else.
@@ -39,7 +39,7 @@ struct Rules {
   std::optional<Table> saved;
   std::int64_t now = 1'795'262'400;  ///< 21 November 2026, noon
 
-  static Date Local(std::int64_t moment) { return files::LocalTime(moment); }
+  static Date Local(std::int64_t moment) { return testing::LocalTime(moment); }
   static std::string DayOf(const Date& date) { return Format(date, "yyyy\\mmmm\\dd", {}); }
 
   void Count(const std::string& document, const std::string& day) {
@@ -273,7 +273,7 @@ class Work {
     return std::next(map.begin(), static_cast<std::ptrdiff_t>(Number(map.size())))->first;
   }
 
-  void SetClock() { m_computer.desktop.clock.now = files::LocalTime(m_rules.now); }
+  void SetClock() { m_computer.desktop.clock.now = testing::LocalTime(m_rules.now); }
 
   Table TableOfProgram() {
     Table table;

@@ -5,6 +5,7 @@
 #include <filesystem>
 
 #include "links/ShellLinkFormat.h"
+#include "linux/LinuxFileSystem.h"
 #include "linux/files/NativePath.h"
 #include "linux/files/UnfinishedFile.h"
 #include "linux/recent/Moment.h"
@@ -152,7 +153,7 @@ std::vector<std::string> FaultyDesk::Losses() const {
 /// The shell of the tests, with a Recent folder that the program keeps from the desktop's list.
 class Session::Shell : public testing::TestShell {
  public:
-  Shell(files::LinuxFileSystem& files, const std::string& folder, recent::RecentFolder& recent)
+  Shell(platform::FileSystem& files, const std::string& folder, recent::RecentFolder& recent)
       : TestShell(files, folder), m_recent(recent) {}
 
   void RefreshRecentFolder() override { m_recent.Refresh(); }

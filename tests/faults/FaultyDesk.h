@@ -8,7 +8,7 @@
 #include "linux/LinuxRegistry.h"
 #include "linux/recent/RecentFolder.h"
 #include "shell/MDayvaneMain.h"
-#include "tests/support/LocalZone.h"
+#include "tests/support/System.h"
 #include "tests/support/TestDesktop.h"
 
 namespace dayvane::faults {

@@ -6,6 +6,7 @@
 
 #include "app/IgnoreErrors.h"
 #include "capture/CShortcut.h"
+#include "linux/LinuxFileSystem.h"
 #include "linux/files/NativePath.h"
 #include "shell/FMain.h"
 #include "tests/fuzz/Fuzzing.h"

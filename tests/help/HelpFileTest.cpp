@@ -4,8 +4,8 @@
 #include "base/Error.h"
 #include "help/HelpFile.h"
 #include "help/PlainText.h"
-#include "linux/LinuxFileSystem.h"
 #include "tests/support/TemporaryFolder.h"
+#include "tests/support/TestFiles.h"
 
 namespace dayvane::help {
 namespace {
@@ -146,7 +146,7 @@ TEST(HelpFile, AForeignFileIsNotReadAsHelp) {
 
 TEST(HelpFile, AMissingFileIsToldApart) {
   const testing::TemporaryFolder folder;
-  files::LinuxFileSystem disk;
+  testing::TestFiles disk;
   try {
     HelpFile::Read(disk, folder.Path() + "\\Dayvane.hlp");
     FAIL() << "read";
@@ -157,7 +157,7 @@ TEST(HelpFile, AMissingFileIsToldApart) {
 
 TEST(HelpFile, AFolderOfThatNameCannotBeOpened) {
   const testing::TemporaryFolder folder;
-  files::LinuxFileSystem disk;
+  testing::TestFiles disk;
   try {
     HelpFile::Read(disk, folder.Path());
     FAIL() << "read";

@@ -4,6 +4,7 @@
 #include "base/Error.h"
 #include "links/ShellLinkFormat.h"
 #include "tests/links/LinkBuilder.h"
+#include "tests/links/RandomLinks.h"
 
 namespace dayvane::links {
 namespace {
@@ -223,6 +224,21 @@ TEST(ShellLinkFormat, ATextThatDoesNotFitIsAnErrorInsteadOfACutOne) {
   EXPECT_EQ(RoundTrip(link), link);
   link.arguments += 'x';
   EXPECT_THROW(WriteShellLink(link), Error);
+}
+
+TEST(ShellLinkFormat, ALinkOfWhateverCharactersReadsAsItWasWritten) {
+  testing::RandomLinks links(20261121, testing::RandomLinks::Characters::All);
+  for (int i = 0; i < 2000; ++i) {
+    const ShellLink link = links.Next();
+    ASSERT_EQ(ParseShellLink(WriteShellLink(link)), link) << i;
+  }
+}
+
+// Other readers are no help here: lnkinfo reports 0 whatever a link holds. 2.1 of the format has the place.
+TEST(ShellLinkFormat, TheShowCommandStandsInItsPlace) {
+  ShellLink link = testing::TypicalFields();
+  link.showCommand = 7;
+  EXPECT_EQ(WriteShellLink(link).substr(60, 4), testing::Number32(7));
 }
 
 }  // namespace

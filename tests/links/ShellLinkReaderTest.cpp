@@ -5,9 +5,10 @@
 #include "base/Error.h"
 #include "links/ShellLinkFormat.h"
 #include "links/ShellLinkReader.h"
-#include "linux/LinuxFileSystem.h"
 #include "tests/links/LinkBuilder.h"
+#include "tests/support/System.h"
 #include "tests/support/TemporaryFolder.h"
+#include "tests/support/TestFiles.h"
 
 namespace dayvane::links {
 namespace {
@@ -33,7 +34,7 @@ class ShellLinkReaderTest : public ::testing::Test {
   }
 
   testing::TemporaryFolder m_folder;
-  files::LinuxFileSystem m_files;
+  testing::TestFiles m_files;
   std::vector<std::string> m_events;
   ShellLinkReader m_reader{m_files, [this](const std::string& text) { m_events.push_back(text); }};
 };

@@ -7,10 +7,11 @@
 #include "base/Error.h"
 #include "linux/LinuxFileSystem.h"
 #include "linux/files/UnfinishedFile.h"
-#include "tests/support/BrokenDisk.h"
-#include "tests/support/FullDisk.h"
+#include "tests/linux/disk/BrokenDisk.h"
+#include "tests/linux/disk/FullDisk.h"
+#include "tests/linux/disk/UnprivilegedUser.h"
+#include "tests/support/System.h"
 #include "tests/support/TemporaryFolder.h"
-#include "tests/support/UnprivilegedUser.h"
 
 namespace dayvane::files {
 namespace {

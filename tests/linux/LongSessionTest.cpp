@@ -12,6 +12,7 @@
 #include <malloc.h>
 #include <unistd.h>
 
+#include "linux/LinuxFileSystem.h"
 #include "linux/LinuxRegistry.h"
 #include "linux/LinuxShell.h"
 #include "linux/LinuxShellIcons.h"

@@ -5,6 +5,7 @@
 
 #include "base/Error.h"
 #include "repository/CRepository.h"
+#include "tests/support/System.h"
 #include "tests/support/TestDesktop.h"
 
 namespace dayvane {
@@ -158,7 +159,7 @@ TEST_F(CRepositoryPurgeTest, WhatIsPassedOverIsLoggedOnceARun) {
 TEST_F(CRepositoryPurgeTest, APurgeNeverFollowsALinkOutOfTheRepository) {
   const testing::TemporaryFolder outside;
   const std::string document = outside.Write("May/01/letter.odt", "x");
-  fs::create_directory_symlink(outside.Native(), Native("1997"));
+  testing::MakeFolderLink(outside.Native(), Native("1997"));
   EXPECT_FALSE(repository.PurgeOldShortcuts(30));
   EXPECT_TRUE(fs::exists(document));
 }
@@ -190,7 +191,7 @@ TEST_F(CRepositoryPurgeTest, PurgingADayDeletesItsFilesAndTheFolder) {
 TEST_F(CRepositoryPurgeTest, PurgingADayDeletesALinkButNotWhatItPointsAt) {
   const std::string document = desktop.folder.Write("letter.odt", "x");
   MakeFolder("1998/June/09");
-  fs::create_symlink(document, Native("1998/June/09/letter.odt"));
+  testing::MakeFileLink(document, Native("1998/June/09/letter.odt"));
   repository.PurgeDay(Path("1998\\June\\09"));
   EXPECT_FALSE(Exists("1998/June/09"));
   EXPECT_TRUE(fs::exists(document));

@@ -5,6 +5,7 @@
 
 #include "base/Error.h"
 #include "tests/support/MainWindow.h"
+#include "tests/support/System.h"
 
 namespace dayvane {
 namespace {
@@ -19,7 +20,7 @@ class LinkedDesktop {
  protected:
   LinkedDesktop() {
     fs::create_directories(Disk());
-    fs::create_directory_symlink(Disk(), Link());
+    testing::MakeFolderLink(Disk(), Link());
   }
 
   std::string Disk() const { return desktop.folder / "disk/Record"; }
@@ -109,7 +110,7 @@ TEST_F(LinkedRepositoryTest, LinksBelowTheRecordAreNeitherShownNorCountedNorPurg
   const std::string mine = desktop.folder.Write("mine/05/a.odt.lnk", "");
   File("2026/November/20", "a.odt", "2026-11-20 10:00:00");
   for (const char* name : {"/2025", "/2026/May", "/2026/November/19"})
-    fs::create_directory_symlink(desktop.folder / "mine", Disk() + name);
+    testing::MakeFolderLink(desktop.folder / "mine", Disk() + name);
   window.Form_Load();
   EXPECT_TRUE(fs::exists(mine));
   EXPECT_TRUE(fs::is_symlink(Disk() + "/2025"));
@@ -134,7 +135,7 @@ class RecordLinkTest : public ::testing::Test, protected LinkedDesktop {
  protected:
   void LinkTo(const std::string& native) const {
     fs::remove(Link());
-    fs::create_symlink(native, Link());
+    testing::MakeFileLink(native, Link());
   }
   std::string ErrorOfStart() {
     try {
@@ -171,7 +172,7 @@ TEST_F(RecordLinkTest, ALinkToItselfIsTold) {
 }
 
 TEST_F(RecordLinkTest, ALinkToALinkIsFollowedToItsEnd) {
-  fs::create_directory_symlink(Disk(), desktop.folder / "second");
+  testing::MakeFolderLink(Disk(), desktop.folder / "second");
   LinkTo("../second");
   EXPECT_EQ(ErrorOfStart(), "");
   fs::create_directories(Disk() + "/2026/May/05");

@@ -1,26 +1,34 @@
 // SPDX-License-Identifier: MIT
 #include "tests/support/TemporaryFolder.h"
 
-#include <fcntl.h>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <random>
 #include <stdexcept>
-#include <stdlib.h>
-#include <sys/stat.h>
-#include <time.h>
 
-#include "linux/files/NativePath.h"
+#include "tests/support/System.h"
 
 namespace dayvane::testing {
 
 namespace fs = std::filesystem;
 
-TemporaryFolder::TemporaryFolder() {
-  std::string name = (fs::temp_directory_path() / "dayvane-test-XXXXXX").string();
-  if (mkdtemp(name.data()) == nullptr) throw std::runtime_error("no temporary folder: " + name);
-  m_native = name;
+namespace {
+
+/// A new folder for the user alone, of a name that no other test has found.
+std::string MakeFolder() {
+  std::random_device random;
+  for (;;) {
+    const fs::path path = fs::temp_directory_path() / ("dayvane-test-" + std::to_string(random()));
+    if (!fs::create_directory(path)) continue;
+    fs::permissions(path, fs::perms::owner_all);
+    return path.generic_string();
+  }
 }
+
+}  // namespace
+
+TemporaryFolder::TemporaryFolder() : m_native(MakeFolder()) {}
 
 TemporaryFolder::~TemporaryFolder() {
   std::error_code ignored;
@@ -28,7 +36,7 @@ TemporaryFolder::~TemporaryFolder() {
 }
 
 std::string TemporaryFolder::Path() const {
-  return files::FromNative(m_native).value();
+  return ProgramPath(m_native);
 }
 
 std::string TemporaryFolder::Write(const std::string& name, const std::string& bytes) const {
@@ -44,16 +52,6 @@ std::string ReadFile(const std::string& nativePath) {
   std::ifstream file(nativePath, std::ios::binary);
   if (!file) throw std::runtime_error("cannot read " + nativePath);
   return {std::istreambuf_iterator<char>(file), {}};
-}
-
-void SetWritten(const std::string& nativePath, const std::string& localTime, long nanoseconds) {
-  struct tm parts {};
-  if (strptime(localTime.c_str(), "%Y-%m-%d %H:%M:%S", &parts) == nullptr)
-    throw std::runtime_error("no local time: " + localTime);
-  parts.tm_isdst = -1;
-  const struct timespec times[2] = {{0, UTIME_OMIT}, {mktime(&parts), nanoseconds}};
-  if (utimensat(AT_FDCWD, nativePath.c_str(), times, AT_SYMLINK_NOFOLLOW) != 0)
-    throw std::runtime_error("cannot set the time of " + nativePath);
 }
 
 }  // namespace dayvane::testing

@@ -28,7 +28,4 @@ class TemporaryFolder {
 
 std::string ReadFile(const std::string& nativePath);
 
-/// Sets a file's last-written time to a local time "2026-11-20 14:03:27", with a fraction in nanoseconds.
-void SetWritten(const std::string& nativePath, const std::string& localTime, long nanoseconds = 0);
-
 }  // namespace dayvane::testing

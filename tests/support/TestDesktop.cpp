@@ -8,7 +8,6 @@
 #include "base/Error.h"
 #include "controls/Form.h"
 #include "links/ShellLinkFormat.h"
-#include "linux/files/NativePath.h"
 
 namespace dayvane::testing {
 
@@ -188,8 +187,7 @@ std::vector<std::string> TestDesktop::LogLines(const std::string& log) const {
 }
 
 void WriteShortcut(const std::string& nativePath, const platform::ShellLink& link, const std::string& localTime) {
-  files::LinuxFileSystem files;
-  files.Replace(files::FromNative(nativePath).value(), links::WriteShellLink(link));
+  SystemFiles()->Replace(ProgramPath(nativePath), links::WriteShellLink(link));
   SetWritten(nativePath, localTime);
 }
 

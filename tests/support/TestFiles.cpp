@@ -5,52 +5,60 @@ namespace dayvane::testing {
 
 std::optional<platform::FileStatus> TestFiles::Status(const std::string& path) {
   beforeStatus(path);
-  return LinuxFileSystem::Status(path);
+  return m_disk->Status(path);
+}
+
+std::string TestFiles::Resolve(const std::string& path) {
+  return m_disk->Resolve(path);
+}
+
+std::vector<platform::DirectoryEntry> TestFiles::List(const std::string& folder) {
+  return m_disk->List(folder);
 }
 
 platform::FileContents TestFiles::Read(const std::string& path, std::size_t limit) {
   beforeRead(path);
-  return LinuxFileSystem::Read(path, limit);
+  return m_disk->Read(path, limit);
 }
 
 void TestFiles::Replace(const std::string& path, std::string_view bytes) {
   beforeChange(path);
-  LinuxFileSystem::Replace(path, bytes);
+  m_disk->Replace(path, bytes);
 }
 
 void TestFiles::ReplaceUnflushed(const std::string& path, std::string_view bytes) {
   beforeChange(path);
-  LinuxFileSystem::ReplaceUnflushed(path, bytes);
+  m_disk->ReplaceUnflushed(path, bytes);
 }
 
 void TestFiles::Copy(const std::string& source, const std::string& destination) {
   beforeChange(destination);
-  LinuxFileSystem::Copy(source, destination);
+  m_disk->Copy(source, destination);
 }
 
 void TestFiles::Append(const std::string& path, std::string_view text) {
   beforeChange(path);
-  LinuxFileSystem::Append(path, text);
+  m_disk->Append(path, text);
 }
 
 void TestFiles::CreateFolder(const std::string& path) {
   beforeChange(path);
-  LinuxFileSystem::CreateFolder(path);
+  m_disk->CreateFolder(path);
 }
 
 void TestFiles::Rename(const std::string& path, const std::string& newPath) {
   beforeChange(path);
-  LinuxFileSystem::Rename(path, newPath);
+  m_disk->Rename(path, newPath);
 }
 
 void TestFiles::Delete(const std::string& path) {
   beforeChange(path);
-  LinuxFileSystem::Delete(path);
+  m_disk->Delete(path);
 }
 
 void TestFiles::RemoveFolder(const std::string& path) {
   beforeChange(path);
-  LinuxFileSystem::RemoveFolder(path);
+  m_disk->RemoveFolder(path);
 }
 
 }  // namespace dayvane::testing

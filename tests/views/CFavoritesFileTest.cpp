@@ -2,8 +2,7 @@
 #include <filesystem>
 #include <gmock/gmock.h>
 
-#include "tests/support/FullDisk.h"
-#include "tests/support/Unprivileged.h"
+#include "tests/support/System.h"
 #include "tests/views/FavoritesFixture.h"
 
 namespace dayvane {
@@ -15,13 +14,7 @@ using ::testing::IsEmpty;
 using testing::kRecord;
 using testing::ReadFile;
 
-class CFavoritesFileTest : public testing::FavoritesTest {
- protected:
-  /// Native path of a data file that was kept because it was damaged.
-  std::string Kept(const std::string& name) const {
-    return desktop.NativeFolder() + "/Favorites.damaged " + name + ".dat";
-  }
-};
+class CFavoritesFileTest : public testing::FavoritesTest {};
 
 TEST_F(CFavoritesFileTest, AMissingDataFileIsRebuiltFromTheRepositoryAndNotWrittenUntilSaved) {
   File("2026/May/05", "Z:\\a.odt", "2026-05-05 10:00:00");
@@ -105,18 +98,6 @@ TEST_F(CFavoritesFileTest, AMillionRecordsAreReadAndFound) {
   EXPECT_EQ(Text(999'999, favorites::kDaysAccessed), "2");
 }
 
-TEST_F(CFavoritesFileTest, ADiskThatFillsKeepsTheOldFileAndIsReported) {
-  WriteData(kRecord);
-  favorites.Read();
-  Count(File("2026/May/05", "Z:\\home\\a.odt", "2026-05-05 10:00:00"));
-  {
-    const testing::FullDisk full;
-    favorites.Save();
-  }
-  EXPECT_EQ(ReadFile(DataFile()), kRecord);
-  EXPECT_THAT(desktop.windowing.Texts(), ElementsAre("An error occurred saving the current settings."));
-}
-
 TEST_F(CFavoritesFileTest, ASecondDamageKeepsTheCopyOfTheFirst) {
   WriteData("1");
   favorites.Read();
@@ -128,39 +109,6 @@ TEST_F(CFavoritesFileTest, ASecondDamageKeepsTheCopyOfTheFirst) {
   EXPECT_EQ(ReadFile(Kept("2026-11-21 12.00.00")), "1");
   EXPECT_EQ(ReadFile(Kept("2026-11-21 12.00.00 2")), "2");
   EXPECT_EQ(ReadFile(Kept("2027-01-02 03.04.05")), "3");
-}
-
-TEST_F(CFavoritesFileTest, ADamagedFileOfWhichNoCopyCanBeWrittenIsMovedAsideWhenTheTableIsSaved) {
-  const std::string damaged = kRecord + "7,#1998-05-12#";
-  WriteData(damaged);
-  {
-    const testing::FullDisk full;
-    favorites.Read();
-  }
-  EXPECT_EQ(favorites.Count(), 2) << "what was read is there all the same";
-  favorites.Save();
-  EXPECT_EQ(ReadFile(Kept("2026-11-21 12.00.00")), damaged);
-  EXPECT_NE(ReadFile(DataFile()), damaged);
-}
-
-TEST_F(CFavoritesFileTest, AFileThatMayNotBeReadIsReportedAndMovedAsideBeforeAnythingIsSaved) {
-  WriteData(kRecord);
-  fs::permissions(DataFile(), fs::perms::none);
-  fs::permissions(desktop.NativeFolder(), fs::perms::all);
-  fs::permissions(desktop.folder.Native(), fs::perms::all);
-  const std::string filed = File("2026/May/05", "Z:\\home\\b.odt", "2026-05-05 10:00:00");
-  {
-    const testing::Unprivileged user;
-    EXPECT_TRUE(favorites.Read());
-    EXPECT_EQ(favorites.Count(), 0);
-    favorites.RebuildFavorites();
-    favorites.Save();
-  }
-  EXPECT_THAT(desktop.windowing.Texts(), ElementsAre("An error occurred starting the program."));
-  EXPECT_EQ(ReadFile(Kept("2026-11-21 12.00.00")), kRecord);
-  EXPECT_THAT(ReadFile(DataFile()), ::testing::HasSubstr("b.odt"));
-  EXPECT_THAT(desktop.LogLines("EventLog.txt"),
-              ElementsAre(::testing::HasSubstr("Favorites.dat could not be read; it is kept as ")));
 }
 
 TEST_F(CFavoritesFileTest, AFileLargerThanCanBeReadIsMovedAside) {
@@ -177,7 +125,7 @@ TEST_F(CFavoritesFileTest, AFileLargerThanCanBeReadIsMovedAside) {
 
 TEST_F(CFavoritesFileTest, AFileThatTheUserKeepsElsewhereIsReadAndWrittenThroughItsLink) {
   const std::string elsewhere = desktop.folder.Write("elsewhere/counts.dat", kRecord);
-  fs::create_symlink(elsewhere, DataFile());
+  testing::MakeFileLink(elsewhere, DataFile());
   EXPECT_TRUE(favorites.Read());
   EXPECT_EQ(favorites.Count(), 1);
   Count(File("2026/May/05", "Z:\\home\\a.odt", "2026-05-05 10:00:00"));
@@ -188,7 +136,7 @@ TEST_F(CFavoritesFileTest, AFileThatTheUserKeepsElsewhereIsReadAndWrittenThrough
 
 TEST_F(CFavoritesFileTest, ALinkToAFileThatIsNotThereYetIsRebuiltAndWrittenThrough) {
   fs::create_directory(desktop.folder / "elsewhere");
-  fs::create_symlink(desktop.folder / "elsewhere/counts.dat", DataFile());
+  testing::MakeFileLink(desktop.folder / "elsewhere/counts.dat", DataFile());
   File("2026/May/05", "Z:\\home\\a.odt", "2026-05-05 10:00:00");
   EXPECT_FALSE(favorites.Read());
   favorites.Save();
@@ -214,26 +162,6 @@ TEST_F(CFavoritesFileTest, WhatWasRebuiltBeforeTheFileWasLoadedIsNotSavedOverIt)
   EXPECT_EQ(ReadFile(DataFile()), kRecord);
 }
 
-TEST_F(CFavoritesFileTest, ARebuildThatWasCutShortIsNotSavedOverTheFile) {
-  WriteData(kRecord);
-  favorites.Read();
-  fs::permissions(desktop.folder.Native(), fs::perms::all);
-  File("2026/May/05", "Z:\\home\\b.odt", "2026-05-05 10:00:00");
-  File("2026/May/06", "Z:\\home\\b.odt", "2026-05-06 10:00:00");
-  fs::permissions(desktop.NativeFolder() + "/Daily/2026/May/06", fs::perms::none);
-  {
-    const testing::Unprivileged user;
-    favorites.RebuildFavorites();
-  }
-  EXPECT_EQ(favorites.Count(), 1) << "what was built so far stays";
-  favorites.Save();
-  EXPECT_EQ(ReadFile(DataFile()), kRecord);
-  fs::permissions(desktop.NativeFolder() + "/Daily/2026/May/06", fs::perms::owner_all);
-  favorites.RebuildFavorites();
-  favorites.Save();
-  EXPECT_THAT(ReadFile(DataFile()), ::testing::StartsWith("2,")) << "a whole rebuild is";
-}
-
 TEST_F(CFavoritesFileTest, WhatWasFiledAndNotCountedWhenASessionWasCutOffIsCountedOnce) {
   WriteData(kRecord);
   favorites.Read();
@@ -251,23 +179,6 @@ TEST_F(CFavoritesFileTest, WhatWasFiledAndNotCountedWhenASessionWasCutOffIsCount
     EXPECT_EQ(favorites::NumberOf(next.GetFavorites()[0][favorites::kDaysAccessed]), 4);
     EXPECT_FALSE(fs::exists(desktop.NativeFolder() + "/Favorites.pending"));
   }
-}
-
-TEST_F(CFavoritesFileTest, WhatCannotBeSettledAtOnceIsCountedWhenTheTableIsLoaded) {
-  WriteData(kRecord);
-  favorites.Read();
-  favorites.WillCount(File("2026/May/05", "Z:\\home\\a.odt", "2026-05-05 10:00:00"));
-  CFavorites next(application);
-  next.AppPath = desktop.Folder();
-  {
-    const testing::FullDisk full;
-    next.CountWhatWasCutOff();
-  }
-  EXPECT_EQ(ReadFile(DataFile()), kRecord);
-  next.WillCount(File("2026/May/06", "Z:\\home\\a.odt", "2026-05-06 10:00:00"));
-  next.Read();
-  next.Save();
-  EXPECT_THAT(ReadFile(DataFile()), ::testing::StartsWith("5,#2026-05-06 10:00:00#"));
 }
 
 TEST_F(CFavoritesFileTest, OneRecordWhoseCountIsNoNumberKeepsNoOtherFromBeingCounted) {

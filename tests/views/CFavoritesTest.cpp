@@ -2,6 +2,7 @@
 #include <filesystem>
 #include <gmock/gmock.h>
 
+#include "tests/support/System.h"
 #include "tests/views/FavoritesFixture.h"
 
 namespace dayvane {
@@ -111,7 +112,7 @@ TEST_F(CFavoritesTest, ARebuildNeverLeavesTheRepositoryByALink) {
   platform::ShellLink link;
   link.target = "Z:\\secret.odt";
   testing::WriteShortcut(outside / "secret.odt.lnk", link, "2026-05-05 10:00:00");
-  fs::create_directory_symlink(outside.Native(), desktop.NativeFolder() + "/Daily/2026");
+  testing::MakeFolderLink(outside.Native(), desktop.NativeFolder() + "/Daily/2026");
   favorites.RebuildFavorites();
   EXPECT_EQ(favorites.Count(), 0);
 }

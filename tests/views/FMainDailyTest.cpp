@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/MainWindow.h"
-#include "tests/support/Unprivileged.h"
+#include "tests/support/System.h"
 
 namespace dayvane {
 namespace {
@@ -74,25 +74,9 @@ TEST_F(DailyViewTest, AFileWithACapitalExtensionInAMonthFolderShowsAsANode) {
 TEST_F(DailyViewTest, LinksInTheRepositoryAreNotShown) {
   const testing::TemporaryFolder outside;
   outside.Write("May/05/secret.lnk", "");
-  fs::create_directory_symlink(outside.Native(), Daily("2026"));
+  testing::MakeFolderLink(outside.Native(), Daily("2026"));
   Load();
   EXPECT_THAT(TextsOf(window.tvwMain), ElementsAre("Daily"));
-}
-
-TEST_F(DailyViewTest, AnUnreadableFolderIsALeafAndIsLogged) {
-  File("2025/May/05", "Z:\\a.odt", "2025-05-05 10:00:00");
-  File("2026/May/05", "Z:\\a.odt", "2026-05-05 10:00:00");
-  Load();
-  fs::permissions(desktop.folder.Native(), fs::perms::all);
-  fs::permissions(desktop.NativeFolder(), fs::perms::all);
-  fs::permissions(Daily("2025"), fs::perms::none);
-  {
-    const testing::Unprivileged user;
-    window.RefreshDaily();
-  }
-  EXPECT_THAT(TextsOf(window.tvwMain), Contains("   05"));
-  EXPECT_THAT(TextsOf(window.tvwMain), Contains(" 2025"));
-  EXPECT_EQ(desktop.LogLines("EventLog.txt").size(), 1U);
 }
 
 TEST_F(DailyViewTest, SelectingADateSelectsItsNodeAndListsItsDocuments) {

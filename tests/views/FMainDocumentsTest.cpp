@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/MainWindow.h"
+#include "tests/support/System.h"
 
 namespace dayvane {
 namespace {

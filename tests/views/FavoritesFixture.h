@@ -45,6 +45,10 @@ class FavoritesTest : public ::testing::Test {
 
   void WriteData(const std::string& text) const { desktop.folder.Write("program/Favorites.dat", text); }
   std::string DataFile() const { return desktop.NativeFolder() + "/Favorites.dat"; }
+  /// Native path of a data file that was kept because it was damaged.
+  std::string Kept(const std::string& name) const {
+    return desktop.NativeFolder() + "/Favorites.damaged " + name + ".dat";
+  }
   std::string Text(std::size_t record, favorites::Field field) const {
     return favorites::TextOf(favorites.GetFavorites().at(record)[field]);
   }

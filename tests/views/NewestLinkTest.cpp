@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/MainWindow.h"
+#include "tests/support/System.h"
 #include "views/NewestLink.h"
 
 namespace dayvane {
@@ -37,7 +38,7 @@ TEST_F(NewestLinkTest, WhatIsNoDayIsPassedOver) {
 
 TEST_F(NewestLinkTest, ARecordThatLiesOnAnotherDiskBehindALinkIsSearched) {
   std::filesystem::rename(desktop.NativeFolder() + "/Daily", desktop.folder / "disk");
-  std::filesystem::create_directory_symlink(desktop.folder / "disk", desktop.NativeFolder() + "/Daily");
+  testing::MakeFolderLink(desktop.folder / "disk", desktop.NativeFolder() + "/Daily");
   EXPECT_EQ(Find("Z:\\a.odt"), repository.DailyPath() + "\\2026\\November\\19\\a.odt.lnk");
 }
 

@@ -4,8 +4,8 @@
 
 #include "base/Error.h"
 #include "linux/files/ProgramFolder.h"
+#include "tests/linux/disk/UnprivilegedUser.h"
 #include "tests/support/TemporaryFolder.h"
-#include "tests/support/UnprivilegedUser.h"
 
 namespace dayvane {
 namespace {

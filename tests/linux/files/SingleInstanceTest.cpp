@@ -9,8 +9,8 @@
 
 #include "base/Error.h"
 #include "linux/files/SingleInstance.h"
+#include "tests/linux/disk/UnprivilegedUser.h"
 #include "tests/support/TemporaryFolder.h"
-#include "tests/support/UnprivilegedUser.h"
 
 namespace dayvane {
 namespace {

@@ -9,8 +9,8 @@
 #include "tests/linux/HangingApplication.h"
 #include "tests/linux/MainLoop.h"
 #include "tests/linux/PrivateDesktop.h"
+#include "tests/linux/disk/UnprivilegedUser.h"
 #include "tests/support/TemporaryFolder.h"
-#include "tests/support/UnprivilegedUser.h"
 
 namespace dayvane::launch {
 namespace {

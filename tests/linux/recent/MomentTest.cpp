@@ -4,7 +4,7 @@
 #include <limits>
 
 #include "linux/recent/Moment.h"
-#include "tests/support/LocalZone.h"
+#include "tests/support/System.h"
 
 namespace dayvane::recent {
 namespace {

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "linux/recent/RecentFolder.h"
-#include "tests/support/LocalZone.h"
+#include "tests/support/System.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace dayvane::testing {

@@ -2,7 +2,7 @@
 #include <gmock/gmock.h>
 
 #include "linux/recent/RecentDocument.h"
-#include "tests/support/LocalZone.h"
+#include "tests/support/System.h"
 
 namespace dayvane::recent {
 namespace {

@@ -4,8 +4,8 @@
 
 #include "linux/recent/RecentFolder.h"
 #include "linux/recent/RecentState.h"
+#include "tests/linux/disk/UnprivilegedUser.h"
 #include "tests/linux/recent/RecentDesk.h"
-#include "tests/support/UnprivilegedUser.h"
 
 /// Lists, states and disks in trouble: told once, and nothing is lost.
 namespace dayvane::recent {

@@ -5,8 +5,9 @@
 #include <sys/stat.h>
 
 #include "linux/recent/RecentListFile.h"
+#include "tests/linux/disk/UnprivilegedUser.h"
+#include "tests/support/System.h"
 #include "tests/support/TemporaryFolder.h"
-#include "tests/support/UnprivilegedUser.h"
 
 namespace dayvane::recent {
 namespace {

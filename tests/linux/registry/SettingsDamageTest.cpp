@@ -9,7 +9,7 @@
 #include "linux/LinuxRegistry.h"
 #include "linux/registry/SettingsFile.h"
 #include "settings/COptions.h"
-#include "tests/support/BrokenDisk.h"
+#include "tests/linux/disk/BrokenDisk.h"
 #include "tests/support/TestDesktop.h"
 
 namespace dayvane::registry {

@@ -5,9 +5,9 @@
 
 #include "base/Error.h"
 #include "linux/registry/SettingsFile.h"
-#include "tests/support/FullDisk.h"
+#include "tests/linux/disk/FullDisk.h"
+#include "tests/linux/disk/UnprivilegedUser.h"
 #include "tests/support/TemporaryFolder.h"
-#include "tests/support/UnprivilegedUser.h"
 
 namespace dayvane::registry {
 namespace {

@@ -8,9 +8,9 @@
 #include "linux/files/FileDescriptor.h"
 #include "settings/FOptions.h"
 #include "shell/FMain.h"
-#include "tests/support/FullDisk.h"
+#include "tests/linux/disk/FullDisk.h"
+#include "tests/linux/disk/UnprivilegedUser.h"
 #include "tests/support/TestDesktop.h"
-#include "tests/support/UnprivilegedUser.h"
 
 namespace dayvane {
 namespace {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "tests/support/BrokenDisk.h"
+#include "tests/linux/disk/BrokenDisk.h"
 
 #include <cerrno>
 #include <cstddef>

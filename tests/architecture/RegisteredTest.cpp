@@ -28,7 +28,7 @@ std::vector<std::string> NotNamedIn(const std::string& text, const std::string& 
 std::string BuildFiles(const std::string& ending) {
   std::string texts;
   for (const auto& entry : std::filesystem::recursive_directory_iterator(DAYVANE_BUILD_FOLDER "/tests"))
-    if (entry.path().string().ends_with(ending)) texts += ReadFile(entry.path());
+    if (entry.path().string().ends_with(ending)) texts += ReadFile(entry.path().string());
   return texts;
 }
 

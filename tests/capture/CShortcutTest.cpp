@@ -54,7 +54,8 @@ class CShortcutTest : public ::testing::Test {
   }
   std::vector<std::string> FilesInProgramFolder() const {
     std::vector<std::string> names;
-    for (const auto& entry : fs::directory_iterator(desktop.NativeFolder())) names.push_back(entry.path().filename());
+    for (const auto& entry : fs::directory_iterator(desktop.NativeFolder()))
+      names.push_back(entry.path().filename().string());
     std::sort(names.begin(), names.end());
     return names;
   }

@@ -123,7 +123,7 @@ TEST_F(CaptureFaultTest, ADataFileThatTheDiskDoesNotTellOfIsKeptBeforeTheTableIs
   bool isKept = false;
   for (const auto& entry : std::filesystem::directory_iterator(m_computer.desktop.NativeFolder()))
     if (entry.path().filename().string().starts_with("Favorites.damaged"))
-      isKept = testing::ReadFile(entry.path()) == before;
+      isKept = testing::ReadFile(entry.path().string()) == before;
   EXPECT_TRUE(isKept);
 }
 

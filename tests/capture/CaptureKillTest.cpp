@@ -80,7 +80,7 @@ std::set<std::string> Filed(const ProgramRuns& computer) {
   const fs::path root = computer.NativeFile("Daily");
   std::set<std::string> filed;
   for (const auto& entry : fs::recursive_directory_iterator(root))
-    if (!entry.is_directory()) filed.insert(entry.path().lexically_relative(root).string());
+    if (!entry.is_directory()) filed.insert(entry.path().lexically_relative(root).generic_string());
   return filed;
 }
 

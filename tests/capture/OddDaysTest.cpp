@@ -28,7 +28,7 @@ class OddDaysTest : public ::testing::Test, protected testing::MainWindow {
   std::vector<std::string> Filed() const {
     std::vector<std::string> filed;
     for (const auto& entry : fs::recursive_directory_iterator(Daily("")))
-      if (entry.is_regular_file()) filed.push_back(fs::relative(entry.path(), Daily("")).string());
+      if (entry.is_regular_file()) filed.push_back(fs::relative(entry.path(), Daily("")).generic_string());
     std::sort(filed.begin(), filed.end());
     return filed;
   }

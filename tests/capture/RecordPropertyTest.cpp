@@ -290,7 +290,7 @@ class Work {
     const fs::path root = m_computer.desktop.NativeFolder();
     std::map<std::string, std::int64_t> files;
     for (const auto& entry : fs::recursive_directory_iterator(root)) {
-      const std::string name = entry.path().lexically_relative(root).string();
+      const std::string name = entry.path().lexically_relative(root).generic_string();
       if (entry.is_directory() || name == "ErrorLog.txt" || name == "EventLog.txt") continue;
       const auto written = std::chrono::file_clock::to_sys(entry.last_write_time());
       files[name] = name.starts_with("Daily/")

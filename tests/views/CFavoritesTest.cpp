@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include <filesystem>
 #include <gmock/gmock.h>
 
 #include "tests/support/System.h"
@@ -8,7 +7,6 @@
 namespace dayvane {
 namespace {
 
-namespace fs = std::filesystem;
 using favorites::Record;
 using ::testing::ElementsAre;
 using testing::kRecord;

@@ -36,7 +36,7 @@ Step Killable(std::function<void(ProgramRuns&)> act) {
 
 /// Two days of work: openings before a start and while the program runs, again on the same day, on two days at once,
 /// an end and a new start.
-std::vector<Step> Work() {
+std::vector<Step> WorkSteps() {
   const auto tick = Killable([](ProgramRuns& computer) { computer.Window().tmrMain.Fire(); });
   const auto start = Killable([](ProgramRuns& computer) { computer.Start(); });
   return {
@@ -64,7 +64,7 @@ bool WorkKilledAt(ProgramRuns& computer, int n) {
     killed = killed || --left == 0;
     if (killed) throw Killed();
   };
-  for (const Step& step : Work()) step(computer);
+  for (const Step& step : WorkSteps()) step(computer);
   return killed;
 }
 

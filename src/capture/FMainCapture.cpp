@@ -53,6 +53,7 @@ void FMain::SaveCounts() {
 void FMain::GetShortcuts() {
   Assert(!text::Trim(m_recentFolder).empty(), ".GetShortcuts: Recent folder is missing");
   m_application.shellServices.RefreshRecentFolder();
+  m_nearbyDays.Forget();
   const std::string prefix = m_recentFolder + "\\";
   CShortcut shortcut(m_application);
   for (const auto& entry : Dir(m_application.desktop.files, prefix + "*.lnk", DirKinds::Files)) {
@@ -76,7 +77,7 @@ void FMain::ProcessShortcut(CShortcut* shortcut) {
   if (decision == filing::Decision::Unchanged)
     return m_filedShortcuts.Remember(shortcut->File(), destination, shortcut->LastWritten());
   const bool isMissing = decision == filing::Decision::FirstOfTheDay;
-  if (isMissing && filing::IsFiledNearby(files, m_repository, *shortcut)) return;
+  if (isMissing && m_nearbyDays.Hold(*shortcut)) return;
   filing::CreateDayFolder(files, m_repository.DailyPath(), *shortcut);
   // What lies there may be the shortcut of a program with the document's name, and then the document is not filed yet.
   const bool isFirst = isMissing || programshortcut::MoveAside(m_application, destination, shortcut->TargetFile());

@@ -15,15 +15,6 @@ Decision Decide(platform::FileSystem& files, const CShortcut& shortcut, const st
   return copy->written == shortcut.LastWritten() ? Decision::Unchanged : Decision::Replace;
 }
 
-bool IsFiledNearby(platform::FileSystem& files, const CRepository& repository, const CShortcut& shortcut) {
-  for (const int days : {-2, -1, 1, 2}) {  // time zones lie up to 26 hours apart
-    const auto copy =
-        files.Status(repository.DayFolder(shortcut.Modified().AddDays(days)) + "\\" + shortcut.FileName());
-    if (copy && copy->written == shortcut.LastWritten()) return true;
-  }
-  return false;
-}
-
 std::string DayFolder(const std::string& dailyPath, const CShortcut& shortcut) {
   return dailyPath + "\\" + shortcut.Year() + "\\" + shortcut.Month() + "\\" + shortcut.Day();
 }

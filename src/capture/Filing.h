@@ -6,7 +6,6 @@
 #include "app/Date.h"
 #include "capture/CShortcut.h"
 #include "platform/FileSystem.h"
-#include "repository/CRepository.h"
 
 /// What capture decides about one shortcut, without a window.
 namespace dayvane::filing {
@@ -21,10 +20,6 @@ enum class Decision {
 /// A shortcut written exactly at the cut-off is filed.
 Decision Decide(platform::FileSystem& files, const CShortcut& shortcut, const std::string& destination,
                 const Date& cutOff);
-
-/// Whether a shortcut of that name and moment lies on another day close by: it was filed when the user's clock was that
-/// of another time zone, and is not a new opening.
-bool IsFiledNearby(platform::FileSystem& files, const CRepository& repository, const CShortcut& shortcut);
 
 /// The folder of the shortcut's day below the repository's root.
 std::string DayFolder(const std::string& dailyPath, const CShortcut& shortcut);

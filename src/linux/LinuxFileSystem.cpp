@@ -7,6 +7,7 @@
 #include <fcntl.h>
 #include <filesystem>
 #include <sys/stat.h>
+#include <unistd.h>
 #include <utility>
 
 #include "base/Error.h"
@@ -33,13 +34,13 @@ Place PlaceOf(const std::string& path) {
   return {Native(path), path};
 }
 
-/// Copies what the source holds from `position` to `end`.
+/// Copies what the source holds from `position` to `end`; what was copied before ends there or earlier.
 void CopyRange(int source, int target, off_t position, off_t end, const std::string& path) {
-  if (lseek(target, position, SEEK_SET) < 0 || lseek(source, position, SEEK_SET) < 0) Fail(path);
+  if (position > 0 && lseek(target, position, SEEK_SET) < 0) Fail(path);
   char buffer[65536];
   while (position < end) {
     const auto wanted = static_cast<std::size_t>(std::min<off_t>(end - position, sizeof buffer));
-    const ssize_t count = read(source, buffer, wanted);
+    const ssize_t count = pread(source, buffer, wanted, position);
     if (count < 0 && errno == EINTR) continue;
     if (count < 0) Fail(path);
     if (count == 0) return;

@@ -13,7 +13,8 @@ FMain::FMain(Application& application, CRepository& repository)
     : Asserting(application, kName),
       m_application(application),
       m_repository(repository),
-      m_filedShortcuts(application.desktop.files) {
+      m_filedShortcuts(application.desktop.files),
+      m_nearbyDays(application.desktop.files, repository) {
   application.activeForm = &form;
   ShowSuspendOrResume(true);
   ConnectControls();

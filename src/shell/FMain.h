@@ -11,6 +11,7 @@
 #include "app/CWaitCursor.h"
 #include "base/CheckedPointer.h"
 #include "capture/FiledShortcuts.h"
+#include "capture/NearbyDays.h"
 #include "repository/CRepository.h"
 #include "resources/StringTable.h"
 #include "shell/FMainControls.h"
@@ -162,6 +163,7 @@ class FMain : public FMainControls, private Asserting {
   bool m_visibleAtStart = true;
   std::string m_recentFolder;  ///< without a trailing "\"
   FiledShortcuts m_filedShortcuts;
+  NearbyDays m_nearbyDays;
   bool m_documentsChanged = false;
   bool m_inTreeClick = false;  ///< the calendar is being moved because a day was clicked in the tree
   bool m_isSuspended = false;  ///< by the user, not by a poll that failed

@@ -47,6 +47,24 @@ class OddDaysTest : public ::testing::Test, protected testing::MainWindow {
 constexpr std::int64_t kFirstHalfPastTwo = 1792888200;
 constexpr std::int64_t kHour = 3600;
 
+TEST_F(OddDaysTest, AnOpeningThatWasFiledOnAJourneyIsNotFiledAgainAtHome) {
+  constexpr std::int64_t kThreeInLondon = 1795230000;  // on 21 November 2026, still the day before in New York
+  desktop.clock.Set(2026, 11, 21, 5);
+  {
+    const LocalZone zone("Europe/London");
+    Open("home.odt", kThreeInLondon);
+    Load();
+  }
+  {
+    const LocalZone zone("America/New_York");
+    Open("away.odt", kThreeInLondon + kHour);
+    Tick();
+  }
+  const LocalZone zone("Europe/London");
+  Tick();
+  EXPECT_THAT(Filed(), ElementsAre("2026/November/20/away.odt.lnk", "2026/November/21/home.odt.lnk"));
+}
+
 TEST_F(OddDaysTest, BothHoursThatAClockSetBackShowsTwiceBelongToTheirDay) {
   const LocalZone zone("Europe/Berlin");
   Open("first.odt", kFirstHalfPastTwo);

@@ -17,7 +17,7 @@ constexpr QSize kLargeIcon{32, 32};
 constexpr QSize kSmallIcon{16, 16};
 constexpr int kLinesBelowIcon = 2;
 constexpr int kPadding = 4;
-constexpr int kGap = 4;  ///< between cells
+constexpr int kCellGap = 4;  ///< between cells
 
 // Cells grow with the user's font, never below these sizes, which suit the default one.
 constexpr QSize kLeastLargeCell{110, 64};
@@ -55,7 +55,7 @@ void SetIconStyle(QListView& view, RowDelegate& delegate, ListStyle style, ListA
   view.setWordWrap(large);
   view.setIconSize(large ? kLargeIcon : kSmallIcon);
   const QSize cell = large ? LargeCell(font) : SmallCell(font);
-  delegate.SetCell(cell - QSize(kGap, 0));
+  delegate.SetCell(cell - QSize(kCellGap, 0));
   view.setGridSize(cell);
 }
 

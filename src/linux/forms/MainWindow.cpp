@@ -18,7 +18,7 @@ namespace dayvane::widgets {
 namespace {
 
 // Logical pixels.
-constexpr int kMargin = 1;
+constexpr int kPaneMargin = 1;
 constexpr int kSplitterWidth = 4;
 constexpr int kLeastTreeHeight = 80;
 constexpr int kLeastListWidth = 220;
@@ -94,7 +94,7 @@ void MainWindow::Design() {
   m_main.sbrMain.Move(m_main.sbrMain.Left(), m_main.sbrMain.Top(), m_main.sbrMain.Width(),
                       ToTwips(statusHeight, *this));
   DesignDailyPane();
-  PutControl(m_main.picFavorites, {kMargin, kMargin}, *this);
+  PutControl(m_main.picFavorites, {kPaneMargin, kPaneMargin}, *this);
   const QSize calendar = m_calendar.sizeHint();
   m_client.setMinimumSize(calendar.width() + kSplitterWidth + kLeastListWidth,
                           calendar.height() + kSplitterWidth + kLeastTreeHeight + statusHeight);
@@ -103,7 +103,7 @@ void MainWindow::Design() {
 void MainWindow::DesignDailyPane() {
   const QSize calendar = m_calendar.sizeHint();
   const int left = std::max(calendar.width(), m_split);
-  PutControl(m_main.picDaily, {kMargin, kMargin}, *this);
+  PutControl(m_main.picDaily, {kPaneMargin, kPaneMargin}, *this);
   MoveControl(m_main.calMain, {0, 0, left, calendar.height()}, *this);
   m_main.tvwMain.Move(0, ToTwips(calendar.height() + kSplitterWidth, *this), ToTwips(left, *this),
                       m_main.tvwMain.Height());

@@ -13,10 +13,10 @@ namespace {
 
 // Logical pixels.
 constexpr QSize kLogo{168, 128};
-constexpr int kMargin = 24;
+constexpr int kSplashMargin = 24;
 constexpr int kTextWidth = 300;
 constexpr int kLineGap = 4;
-constexpr int kGap = 12;  ///< between groups of texts
+constexpr int kTextGap = 12;  ///< between groups of texts
 
 constexpr double kTitleSize = 2.4;  ///< times the usual font
 constexpr double kSmallSize = 0.9;
@@ -58,15 +58,15 @@ void SplashWindow::LayOut() {
   m_logo.setPixmap(PictureIcon(m_splash.imgLogo.Picture()).pixmap(kLogo, devicePixelRatioF()));
   m_texts.addStretch(1);
   for (QWidget* text : {static_cast<QWidget*>(&m_product), static_cast<QWidget*>(&m_version)}) m_texts.addWidget(text);
-  m_texts.addSpacing(kGap);
+  m_texts.addSpacing(kTextGap);
   m_texts.addWidget(&m_company);
   m_texts.addWidget(&m_copyright);
-  m_texts.addSpacing(kGap);
+  m_texts.addSpacing(kTextGap);
   m_texts.addWidget(&m_warning);
   m_texts.addStretch(1);
   m_warning.setFixedWidth(kTextWidth);
-  m_layout.setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-  m_layout.setSpacing(kMargin);
+  m_layout.setContentsMargins(kSplashMargin, kSplashMargin, kSplashMargin, kSplashMargin);
+  m_layout.setSpacing(kSplashMargin);
   m_layout.addWidget(&m_logo);
   m_layout.addLayout(&m_texts);
   setLayout(&m_layout);

@@ -11,7 +11,7 @@ namespace dayvane::widgets {
 namespace {
 
 // Logical pixels.
-constexpr int kMargin = 3;
+constexpr int kToolbarMargin = 3;
 constexpr int kGroupGap = 10;
 constexpr int kRuleHeight = 2;
 
@@ -24,7 +24,8 @@ bool BeginsGroup(const ToolbarRow& row) {
 ToolbarPresenter::ToolbarPresenter(controls::PictureBox& strip, std::span<controls::Button, kToolbarButtons> buttons,
                                    std::span<controls::Line> rules, QWidget* parent)
     : QWidget(parent), m_rules(rules), m_layout(this), m_link(strip, *this, [] {}) {
-  m_layout.setContentsMargins(kMargin, kRuleHeight + kMargin, kMargin, kRuleHeight + kMargin);
+  m_layout.setContentsMargins(kToolbarMargin, kRuleHeight + kToolbarMargin, kToolbarMargin,
+                              kRuleHeight + kToolbarMargin);
   m_layout.setSpacing(1);
   for (const ToolbarRow& row : kToolbarRows) AddButton(buttons[row.button], row);
   m_layout.addStretch();

@@ -2,11 +2,11 @@
 #include "tests/support/System.h"
 
 #include <cstdlib>
+#include <ctime>
 #include <fcntl.h>
 #include <filesystem>
 #include <stdexcept>
 #include <sys/stat.h>
-#include <time.h>
 
 #include "linux/LinuxFileSystem.h"
 #include "linux/files/NativePath.h"

@@ -15,13 +15,13 @@ constexpr int kLeast = 1;
 constexpr int kMostSeconds = 60;
 constexpr std::size_t kTimerField = 2;
 
-struct Field {
+struct OptionField {
   const char* caption;
   StringId rangeMessage;
   HelpContextId help;  ///< of its label, box and arrows
 };
 
-constexpr std::array<Field, FOptions::kFields> kFieldTable{{
+constexpr std::array<OptionField, FOptions::kFields> kFieldTable{{
     {"&Favorites Threshold (1 or more days accessed):", kThresholdRange, kHelpFavoritesThreshold},
     {"&Purge Age (1 or more days):", kPurgeAgeRange, kHelpPurgeAge},
     {"&Timer Interval (1 to 60 seconds):", kTimerIntervalRange, kHelpTimerInterval},

@@ -39,7 +39,12 @@ std::optional<std::string> DocumentPath(const std::string& href) {
   const glib::Text path(g_filename_from_uri(href.c_str(), &host, nullptr));
   const glib::Text ownedHost(host);
   if (!path || !IsThisMachine(host)) return std::nullopt;
-  std::string simple = Simplified(path.get());
+  return SimplePath(path.get());
+}
+
+std::optional<std::string> SimplePath(std::string_view nativePath) {
+  if (!nativePath.starts_with('/') || nativePath.find('\0') != std::string_view::npos) return std::nullopt;
+  std::string simple = Simplified(nativePath);
   if (simple.empty() || simple.size() >= PATH_MAX) return std::nullopt;
   return simple;
 }

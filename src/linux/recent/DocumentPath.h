@@ -14,6 +14,9 @@ namespace dayvane::recent {
 /// the same path here, so a path identifies its document. The disk is not touched.
 std::optional<std::string> DocumentPath(const std::string& href);
 
+/// The same for a native path as a program wrote it; nothing when it is not absolute.
+std::optional<std::string> SimplePath(std::string_view nativePath);
+
 /// Whether the path lies in the user's trash or in the trash of a removable disk.
 /// https://specifications.freedesktop.org/trash-spec/trashspec-latest.html
 bool LiesInTrash(std::string_view path, std::string_view dataHome);

@@ -58,6 +58,10 @@ std::optional<Moment> ParseEpochMoment(QStringView text) {
   return FromSeconds(seconds, 0);
 }
 
+std::optional<Moment> MomentFromSeconds(std::int64_t seconds) {
+  return FromSeconds(seconds, 0);
+}
+
 bool OnSameLocalDay(Moment a, Moment b) {
   return LocalDay(a) == LocalDay(b);
 }

@@ -20,6 +20,9 @@ std::optional<Moment> ParseIsoMoment(QStringView text);
 /// The same moment as older programs wrote it: whole seconds since 1970 ("1795218406").
 std::optional<Moment> ParseEpochMoment(QStringView text);
 
+/// The same again, as a number.
+std::optional<Moment> MomentFromSeconds(std::int64_t seconds);
+
 /// Whether two moments lie on the same day of the user's calendar.
 bool OnSameLocalDay(Moment a, Moment b);
 

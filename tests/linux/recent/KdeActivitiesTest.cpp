@@ -287,7 +287,8 @@ TEST_F(KdeActivitiesTest, WithoutTheRightToMakeTheFilesBesideItADatabaseIsTriedA
   const std::string copy = m_folder.Write("copy/database", testing::ReadFile(m_path));
   m_folder.Write("copy/database-wal", testing::ReadFile(m_path + "-wal"));
   fs::permissions(m_folder.Native(), fs::perms::all);
-  fs::permissions(m_folder / "copy", fs::perms::owner_all | fs::perms::others_read | fs::perms::others_exec);
+  fs::permissions(m_folder / "copy",
+                  fs::perms::owner_read | fs::perms::owner_exec | fs::perms::others_read | fs::perms::others_exec);
   fs::permissions(copy, fs::perms::all);
   KdeActivities source(copy);
   {
@@ -295,6 +296,7 @@ TEST_F(KdeActivitiesTest, WithoutTheRightToMakeTheFilesBesideItADatabaseIsTriedA
     EXPECT_THROW(source.Read(""), Error);
     EXPECT_TRUE(source.IsDue());
   }
+  fs::permissions(m_folder / "copy", fs::perms::all);
   EXPECT_THAT(source.Read("").openings, SizeIs(1));
 }
 

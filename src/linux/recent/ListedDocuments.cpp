@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "linux/recent/ListedDocuments.h"
 
+#include <algorithm>
 #include <optional>
 #include <unordered_map>
 
@@ -28,11 +29,17 @@ std::vector<ListedDocument> DocumentsOf(const std::vector<RecentEntry>& entries,
     auto path = PathOf(entry, dataHome);
     if (!path) continue;
     const auto [place, isNew] = places.try_emplace(*path, documents.size());
-    if (isNew) documents.push_back({std::move(*path), {}});
-    auto& openings = documents[place->second].openings;
-    openings.insert(openings.end(), entry.openings.begin(), entry.openings.end());
+    if (isNew) documents.push_back({*path, {}, entry.mimeType});
+    for (const RecentEntry::Use& use : entry.openings)
+      documents[place->second].openings.push_back({*path, use.moment, use.program, entry.mimeType});
   }
   return documents;
+}
+
+Opening LastOpening(const ListedDocument& document) {
+  const auto isEarlier = [](const Opening& a, const Opening& b) { return a.moment < b.moment; };
+  const auto last = std::max_element(document.openings.begin(), document.openings.end(), isEarlier);
+  return last == document.openings.end() ? Opening{document.path, 0, "", document.mimeType} : *last;
 }
 
 }  // namespace dayvane::recent

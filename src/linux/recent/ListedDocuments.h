@@ -5,14 +5,19 @@
 #include <vector>
 
 #include "linux/recent/RecentList.h"
+#include "linux/recent/Source.h"
 
 namespace dayvane::recent {
 
-/// A document of the recent list under its native path, with the times of all its entries.
+/// A document of a recent list under its native path, with the times of all its entries.
 struct ListedDocument {
   std::string path;
-  std::vector<Moment> openings;  ///< see RecentEntry
+  std::vector<Opening> openings;  ///< see RecentEntry
+  std::string mimeType;           ///< of its first entry; empty when not given
 };
+
+/// The latest of the document's openings; one at moment 0, which is unknown, where the list gives no time.
+Opening LastOpening(const ListedDocument& document);
 
 /// What one reading of the list says.
 struct Listing {

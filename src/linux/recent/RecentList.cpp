@@ -6,6 +6,7 @@
 #include <iterator>
 #include <optional>
 #include <pugixml.hpp>
+#include <set>
 #include <utility>
 
 #include "base/Utf8.h"
@@ -36,14 +37,26 @@ std::optional<Moment> MomentOf(xml_node node, const char* attribute) {
   return ParseIsoMoment(QString::fromUtf8(node.attribute(attribute).value()));
 }
 
-void ReadPart(xml_node part, RecentEntry& entry) {
+/// The name of an application, or else the first word of its command, which GTK puts in quotes: "'gedit %u'".
+std::string ProgramOf(xml_node application) {
+  const std::string_view name = application.attribute("name").value();
+  if (!name.empty()) return std::string(name);
+  constexpr std::string_view kBetween = "'\" \t";
+  std::string_view command = application.attribute("exec").value();
+  command.remove_prefix(std::min(command.find_first_not_of(kBetween), command.size()));
+  return std::string(command.substr(0, command.find_first_of(kBetween)));
+}
+
+/// Notes the program if it is one.
+void ReadPart(xml_node part, RecentEntry& entry, std::set<std::string>& programs) {
   const auto name = LocalName(part);
   if (name == "private") entry.isPrivate = true;
   if (name == "mime-type") entry.mimeType = part.attribute("type").value();
   if (name != "application") return;
+  const auto program = programs.insert(ProgramOf(part)).first;
   auto moment = MomentOf(part, "modified");
   if (!moment) moment = ParseEpochMoment(QString::fromUtf8(part.attribute("timestamp").value()));
-  if (moment) entry.openings.push_back(*moment);
+  if (moment) entry.openings.push_back({*moment, *program});
 }
 
 /// Calls `visit` for every node below this one, in the order of the text.
@@ -55,9 +68,12 @@ void ForEachBelow(xml_node node, Visit visit) {
 RecentEntry ReadBookmark(xml_node bookmark) {
   RecentEntry entry;
   entry.href = bookmark.attribute("href").value();
-  ForEachBelow(bookmark, [&](xml_node part) { ReadPart(part, entry); });
+  std::set<std::string> programs;
+  ForEachBelow(bookmark, [&](xml_node part) { ReadPart(part, entry, programs); });
+  // The times of the entry itself belong to its only program, or to nobody knows which.
+  const std::string only = programs.size() == 1 ? *programs.begin() : "";
   const auto take = [&](const char* attribute) {
-    if (const auto moment = MomentOf(bookmark, attribute)) entry.openings.push_back(*moment);
+    if (const auto moment = MomentOf(bookmark, attribute)) entry.openings.push_back({*moment, only});
   };
   const bool isTimedByProgram = !entry.openings.empty();
   if (!isTimedByProgram) {

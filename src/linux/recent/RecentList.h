@@ -11,6 +11,11 @@ namespace dayvane::recent {
 
 /// One document of the desktop's list of recent documents.
 struct RecentEntry {
+  struct Use {
+    Moment moment = 0;
+    std::string program;  ///< as the list names it; empty when it cannot be told
+  };
+
   std::string href;      ///< its address as written ("file:///home/ana/Report%201.odt"); may be empty
   std::string mimeType;  ///< "text/plain"; empty when not given
   bool isPrivate = false;
@@ -18,7 +23,7 @@ struct RecentEntry {
   /// The latest of these is the last opening; empty when no time is known. They are the times of the programs that
   /// opened the document, and "visited". "modified" and "added" count only where no program gives a time, because
   /// renaming an entry changes "modified". "visited" is mostly the first opening.
-  std::vector<Moment> openings;
+  std::vector<Use> openings;
 };
 
 /// What a list holds, as far as it can be read.

@@ -137,7 +137,9 @@ bool RecentShortcuts::TakeInDocument(const ListedDocument& listed, Moment now) {
       GiveName(*place);
   }
   if (document.isUnlinkable) return false;
-  const auto opening = TakeNewOpening(document, listed.openings, now);
+  std::vector<Moment> moments;
+  for (const Opening& told : listed.openings) moments.push_back(told.moment);
+  const auto opening = TakeNewOpening(document, moments, now);
   if (!opening) return isNew;
   AddPending(document, *opening);
   document.isToBeCleared = false;
@@ -148,7 +150,7 @@ bool RecentShortcuts::TakeInDocument(const ListedDocument& listed, Moment now) {
 
 bool RecentShortcuts::IsLongForgotten(const ListedDocument& listed) const {
   if (m_state.forgotten.latest == 0 || listed.openings.empty() || m_state.documents.contains(listed.path)) return false;
-  return *std::max_element(listed.openings.begin(), listed.openings.end()) <= m_state.forgotten.latest;
+  return LastOpening(listed).moment <= m_state.forgotten.latest;
 }
 
 void RecentShortcuts::MarkUnlinkable(Document& document) {

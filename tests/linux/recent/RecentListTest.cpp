@@ -61,6 +61,18 @@ RecentEntry Only(const RecentList& list) {
   return list.entries.empty() ? RecentEntry() : list.entries.front();
 }
 
+std::vector<Moment> Moments(const RecentEntry& entry) {
+  std::vector<Moment> moments;
+  for (const RecentEntry::Use& use : entry.openings) moments.push_back(use.moment);
+  return moments;
+}
+
+std::vector<std::string> Programs(const RecentEntry& entry) {
+  std::vector<std::string> programs;
+  for (const RecentEntry::Use& use : entry.openings) programs.push_back(use.program);
+  return programs;
+}
+
 /// A sound list but for what is in the address of its one entry.
 RecentList ListOf(const std::string& address) {
   return ParseRecentList(List("<bookmark href=\"" + address + "\"><title>t</title></bookmark>"));
@@ -102,8 +114,26 @@ TEST(RecentList, AnEntryOfGtkIsRead) {
   EXPECT_EQ(Only(list).href, "file:///home/ana/docs/first.txt");
   EXPECT_EQ(Only(list).mimeType, "text/plain");
   EXPECT_FALSE(Only(list).isPrivate);
-  EXPECT_THAT(Only(list).openings,
+  EXPECT_THAT(Moments(Only(list)),
               UnorderedElementsAre(At("2026-11-20T23:45:16.110427Z"), At("2026-11-20T23:45:16.110425Z")));
+}
+
+TEST(RecentList, EveryOpeningNamesTheProgramThatTheListNames) {
+  const RecentList list = ParseRecentList(List(
+      "<bookmark href=\"file:///a\" visited=\"2026-11-01T00:00:00Z\"><info><metadata><bookmark:applications>"
+      "<bookmark:application name=\"Mousepad\" exec=\"&apos;mousepad %u&apos;\" modified=\"2026-11-20T00:00:00Z\"/>"
+      "<bookmark:application exec=\"&apos;gedit %u&apos;\" modified=\"2026-11-21T00:00:00Z\"/>"
+      "<bookmark:application modified=\"2026-11-22T00:00:00Z\"/>"
+      "</bookmark:applications></metadata></info></bookmark>"));
+  EXPECT_THAT(Programs(Only(list)), ElementsAre("Mousepad", "gedit", "", ""));
+}
+
+TEST(RecentList, TheTimesOfAnEntryBelongToItsOnlyProgram) {
+  const RecentList list = ParseRecentList(
+      List("<bookmark href=\"file:///a\" modified=\"2026-11-01T00:00:00Z\" added=\"2026-11-01T00:00:00Z\"><info>"
+           "<metadata><bookmark:applications><bookmark:application name=\"Mousepad\"/></bookmark:applications>"
+           "</metadata></info></bookmark>"));
+  EXPECT_THAT(Programs(Only(list)), ElementsAre("Mousepad", "Mousepad"));
 }
 
 TEST(RecentList, AnEntryOfKdeIsRead) {
@@ -118,7 +148,7 @@ TEST(RecentList, AnEntryOfKdeIsRead) {
       "</metadata>\n    </info>\n  </bookmark>\n</xbel>\n");
   EXPECT_TRUE(list.isWellFormed);
   EXPECT_EQ(Only(list).href, "file:///home/ana/a;b%5Bc%5D.png");
-  EXPECT_THAT(Only(list).openings, ::testing::Each(At("2026-11-20T22:11:54.123000Z")));
+  EXPECT_THAT(Moments(Only(list)), ::testing::Each(At("2026-11-20T22:11:54.123000Z")));
 }
 
 TEST(RecentList, AnEntryOfLibreOfficeIsRead) {
@@ -130,8 +160,8 @@ TEST(RecentList, AnEntryOfLibreOfficeIsRead) {
       "<bookmark:group>office</bookmark:group></bookmark:groups><bookmark:applications><bookmark:application "
       "name=\"LibreOffice 7.4\" exec=\"&apos;soffice %u&apos;\" modified=\"2026-11-20T22:11:54.499000Z\" "
       "count=\"2\"/></bookmark:applications></metadata></info></bookmark>"));
-  EXPECT_EQ(*std::max_element(list.entries.at(0).openings.begin(), list.entries.at(0).openings.end()),
-            At("2026-11-20T22:11:54.499000Z"));
+  const auto moments = Moments(list.entries.at(0));
+  EXPECT_EQ(*std::max_element(moments.begin(), moments.end()), At("2026-11-20T22:11:54.499000Z"));
 }
 
 TEST(RecentList, AnEntryOfThePortalIsRead) {
@@ -155,7 +185,7 @@ TEST(RecentList, AnEntryOfCosmicIsReadWithItsFileTimes) {
       "<bookmark:application name=\"com.system76.CosmicEdit\" exec=\"&apos;cosmic-edit %u&apos;\" "
       "modified=\"2026-10-01T08:00:00Z\" count=\"1\"/></bookmark:applications></metadata></info></bookmark></xbel>");
   EXPECT_TRUE(list.isWellFormed);
-  EXPECT_THAT(Only(list).openings, UnorderedElementsAre(At("2026-10-01T08:00:00Z"), At("2026-11-20T08:00:00Z")));
+  EXPECT_THAT(Moments(Only(list)), UnorderedElementsAre(At("2026-10-01T08:00:00Z"), At("2026-11-20T08:00:00Z")));
 }
 
 TEST(RecentList, WithSeveralProgramsEachTimeCounts) {
@@ -165,7 +195,7 @@ TEST(RecentList, WithSeveralProgramsEachTimeCounts) {
            "<bookmark:application name=\"A\" modified=\"2026-11-20T00:00:00Z\" count=\"2\"/>"
            "<bookmark:application name=\"B\" modified=\"2026-11-21T00:00:00Z\" count=\"1\"/>"
            "</bookmark:applications></metadata></info></bookmark>"));
-  EXPECT_THAT(Only(list).openings,
+  EXPECT_THAT(Moments(Only(list)),
               ElementsAre(At("2026-11-20T00:00:00Z"), At("2026-11-21T00:00:00Z"), At("2026-11-01T00:00:00Z")))
       << "the entry's own \"modified\" also moves when the entry is renamed";
 }
@@ -173,21 +203,21 @@ TEST(RecentList, WithSeveralProgramsEachTimeCounts) {
 TEST(RecentList, WithoutAProgramTheEntrysModifiedAndAddedCount) {
   const RecentList list = ParseRecentList(
       List("<bookmark href=\"file:///x\" added=\"2026-11-01T00:00:00Z\" modified=\"2026-11-20T00:00:00Z\"/>"));
-  EXPECT_THAT(Only(list).openings, UnorderedElementsAre(At("2026-11-01T00:00:00Z"), At("2026-11-20T00:00:00Z")));
+  EXPECT_THAT(Moments(Only(list)), UnorderedElementsAre(At("2026-11-01T00:00:00Z"), At("2026-11-20T00:00:00Z")));
 }
 
 TEST(RecentList, AProgramWithoutATimeIsNoWitness) {
   const RecentList list = ParseRecentList(
       List("<bookmark href=\"file:///x\" modified=\"2026-11-20T00:00:00Z\" visited=\"2026-11-01T00:00:00Z\"><info>"
            "<bookmark:application name=\"A\" count=\"2\"/></info></bookmark>"));
-  EXPECT_THAT(Only(list).openings, ElementsAre(At("2026-11-20T00:00:00Z")));
+  EXPECT_THAT(Moments(Only(list)), ElementsAre(At("2026-11-20T00:00:00Z")));
 }
 
 TEST(RecentList, TheOldFormOfAProgramsTimeIsRead) {
   const RecentList list = ParseRecentList(
       List("<bookmark href=\"file:///x\" added=\"2009-05-08T12:00:00Z\"><info><metadata>"
            "<bookmark:application name=\"A\" timestamp=\"1795218406\" count=\"2\"/></metadata></info></bookmark>"));
-  EXPECT_THAT(Only(list).openings, ElementsAre(1795218406 * kNanosecondsPerSecond));
+  EXPECT_THAT(Moments(Only(list)), ElementsAre(1795218406 * kNanosecondsPerSecond));
 }
 
 TEST(RecentList, TimesThatAreMissingOrNoneAreUnknown) {
@@ -195,7 +225,7 @@ TEST(RecentList, TimesThatAreMissingOrNoneAreUnknown) {
        {"", "modified=\"\"", "modified=\"garbage\" visited=\"-1\"", "added=\"1970-01-01T00:00:00Z\""}) {
     const RecentList list = ParseRecentList(List("<bookmark href=\"file:///x\" " + std::string(times) + "/>"));
     EXPECT_TRUE(list.isWellFormed) << times;
-    EXPECT_THAT(Only(list).openings, IsEmpty()) << times;
+    EXPECT_THAT(Moments(Only(list)), IsEmpty()) << times;
   }
 }
 
@@ -219,7 +249,7 @@ TEST(RecentList, AnyPrefixWillDoAndNoneNeedBeDeclared) {
   EXPECT_TRUE(list.isWellFormed);
   EXPECT_EQ(Only(list).mimeType, "a/b");
   EXPECT_TRUE(Only(list).isPrivate);
-  EXPECT_THAT(Only(list).openings, ElementsAre(At("2026-11-20T00:00:00Z")));
+  EXPECT_THAT(Moments(Only(list)), ElementsAre(At("2026-11-20T00:00:00Z")));
 }
 
 TEST(RecentList, WhatIsUnknownIsPassedOver) {

@@ -26,7 +26,6 @@ struct Listing {
 
   Entries entries = Entries::Unclear;
   std::vector<ListedDocument> documents;
-  Moment readAt = 0;
 };
 
 /// The documents that a list names, each once, in the order of the list. Skips private entries, folders, the contents

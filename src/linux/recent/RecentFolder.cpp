@@ -47,24 +47,27 @@ Listing::Entries EntriesOf(const RecentList& list) {
 
 }  // namespace
 
-RecentFolder::RecentFolder(Clock now, const Paths& paths, LinkWriter writeLink, ReportEvent reportEvent)
+RecentFolder::RecentFolder(Clock now, const Paths& paths, LinkWriter writeLink, ReportEvent reportEvent,
+                           FurtherSources sources)
     : RecentFolder(std::move(now), paths.list, std::make_unique<RecentDisk>(paths.folder, paths.state),
-                   std::move(writeLink), std::move(reportEvent), RecentShortcuts::Limits()) {}
+                   std::move(writeLink), std::move(reportEvent), RecentShortcuts::Limits(), std::move(sources)) {}
 
 RecentFolder::RecentFolder(Clock now, const std::string& list, std::unique_ptr<RecentDisk> disk, LinkWriter writeLink,
-                           ReportEvent reportEvent, RecentShortcuts::Limits limits)
+                           ReportEvent reportEvent, RecentShortcuts::Limits limits, FurtherSources sources)
     : m_now(std::move(now)),
       m_reportEvent(std::move(reportEvent)),
       m_list(list),
       m_dataHome(list.substr(0, list.rfind('/'))),
       m_disk(std::move(disk)),
-      m_shortcuts(*m_disk, std::move(writeLink), limits) {}
+      m_sources(std::move(sources), m_reportEvent),
+      m_shortcuts(
+          *m_disk, std::move(writeLink), [this](const Opening& use) { return m_sources.BeganAt(use); }, limits) {}
 
 void RecentFolder::Refresh() {
   if (!Load()) return;
-  const auto listing = ReadList();
-  if (!listing && !m_shortcuts.IsWorkDue()) return;
-  const auto outcome = m_shortcuts.Refresh(listing);
+  const auto tidings = ReadAll();
+  if (!tidings && !m_shortcuts.IsWorkDue()) return;
+  const auto outcome = m_shortcuts.Refresh(tidings);
   // Before the first session there is no state, but then the folder is empty too.
   const bool wasMissing = std::exchange(m_memory, RecentShortcuts::Memory::Sound) == RecentShortcuts::Memory::Missing;
   if (wasMissing && outcome.isForeignFound)
@@ -77,8 +80,8 @@ void RecentFolder::Refresh() {
 }
 
 void RecentFolder::RememberOpenings() {
-  const auto listing = m_memory ? ReadList() : std::nullopt;
-  if (listing) ReportNews(m_shortcuts.Remember(*listing));
+  const auto tidings = m_memory ? ReadAll() : std::nullopt;
+  if (tidings) ReportNews(m_shortcuts.Remember(*tidings));
 }
 
 /// Whether the state that the last session left is loaded, or given up as lost.
@@ -98,6 +101,16 @@ bool RecentFolder::Load() {
   return true;
 }
 
+/// What the list and the further sources tell now; nothing when nothing is new.
+std::optional<Tidings> RecentFolder::ReadAll() {
+  Tidings tidings;
+  tidings.list = ReadList();
+  tidings.sources = m_sources.Read([this](const std::string& source) { return m_shortcuts.MemoryOf(source); });
+  if (!tidings.list && tidings.sources.empty()) return std::nullopt;
+  tidings.now = m_now();
+  return tidings;
+}
+
 /// What the list says now; nothing when it is unchanged or cannot be read.
 std::optional<Listing> RecentFolder::ReadList() {
   if (!m_list.IsDue()) return std::nullopt;
@@ -106,7 +119,7 @@ std::optional<Listing> RecentFolder::ReadList() {
   const bool isRead = reading.condition == ListCondition::Sound || reading.condition == ListCondition::Damaged ||
                       reading.condition == ListCondition::CutShort;
   if (!isRead) return std::nullopt;
-  return Listing{EntriesOf(reading.list), DocumentsOf(reading.list.entries, m_dataHome), m_now()};
+  return Listing{EntriesOf(reading.list), DocumentsOf(reading.list.entries, m_dataHome)};
 }
 
 void RecentFolder::ReportCondition(ListCondition condition) {

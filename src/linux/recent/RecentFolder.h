@@ -6,6 +6,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "base/ReportEvent.h"
 #include "linux/recent/RecentListFile.h"
@@ -22,6 +23,9 @@ namespace dayvane::recent {
 /// without entries counts as cleared by the user; the folder is then emptied too, once its shortcuts have been
 /// captured.
 ///
+/// Further sources tell of openings that the list does not know, and of others that it knows too: those count once (see
+/// RecentDocument.h). What they lose or empty means nothing.
+///
 /// An opening on a later day waits until the shortcut has been captured for its own day, so that the document is filed
 /// under both. The documents themselves are never touched: their drive may be asleep.
 class RecentFolder {
@@ -36,13 +40,17 @@ class RecentFolder {
     std::string state;   ///< see RecentState
   };
 
-  RecentFolder(Clock now, const Paths& paths, LinkWriter writeLink, ReportEvent reportEvent);
-  RecentFolder(Clock now, const std::string& list, std::unique_ptr<RecentDisk> disk, LinkWriter writeLink,
-               ReportEvent reportEvent, RecentShortcuts::Limits limits);
+  /// Besides the list, what else tells of opened documents.
+  using FurtherSources = std::vector<std::unique_ptr<Source>>;
 
-  /// Brings the folder up to date; to be called before the folder is listed. While the list is unchanged and nothing
-  /// waits, this costs one look at the list's status. Never fails: a problem is reported once, and the next call tries
-  /// again.
+  RecentFolder(Clock now, const Paths& paths, LinkWriter writeLink, ReportEvent reportEvent,
+               FurtherSources sources = {});
+  RecentFolder(Clock now, const std::string& list, std::unique_ptr<RecentDisk> disk, LinkWriter writeLink,
+               ReportEvent reportEvent, RecentShortcuts::Limits limits, FurtherSources sources = {});
+
+  /// Brings the folder up to date; to be called before the folder is listed. While nothing is new and nothing waits,
+  /// this costs one look at the status of the list and of each further source. Never fails: a problem is reported once,
+  /// and the next call tries again.
   void Refresh();
 
   /// Call when everything that the folder held after the last Refresh has been filed. No other Refresh may come between
@@ -51,12 +59,13 @@ class RecentFolder {
     if (m_memory) ReportFailure(m_shortcuts.Captured());
   }
 
-  /// Remembers new openings without changing the folder. Call it whenever the list has changed: the next program to
-  /// write the list may drop the entry. Does nothing before the first Refresh.
+  /// Remembers new openings of all sources without changing the folder. Call it whenever the list has changed: the next
+  /// program to write the list may drop the entry. Does nothing before the first Refresh.
   void RememberOpenings();
 
  private:
   bool Load();
+  std::optional<Tidings> ReadAll();
   std::optional<Listing> ReadList();
   void ReportCondition(ListCondition condition);
   void ReportNews(const RecentShortcuts::News& news);
@@ -67,6 +76,7 @@ class RecentFolder {
   RecentListFile m_list;
   std::string m_dataHome;
   std::unique_ptr<RecentDisk> m_disk;
+  Sources m_sources;
   RecentShortcuts m_shortcuts;
   std::optional<RecentShortcuts::Memory> m_memory;  ///< left by the last session; empty until loaded
   int m_failedLoads = 0;

@@ -36,13 +36,13 @@ RecentShortcuts::Memory RecentShortcuts::Load() {
   return reading.isDamaged ? Memory::Damaged : Memory::Sound;
 }
 
-RecentShortcuts::Outcome RecentShortcuts::Refresh(const std::optional<Listing>& listing) {
+RecentShortcuts::Outcome RecentShortcuts::Refresh(const std::optional<Tidings>& tidings) {
   Outcome outcome;
   Failure& failure = outcome.failure;
   const bool isFolderThere = Try(failure, [&] { m_disk.CreateFolder(); });
   const bool isFolderSeen = Try(failure, [&] { LookAtFolder(); });
   outcome.isForeignFound = !m_foreign.IsEmpty();
-  if (listing) outcome.news = TakeIn(*listing);
+  if (tidings) outcome.news = TakeIn(*tidings);
   Try(failure, [&] { Save(); });
   if (isFolderThere && isFolderSeen) Deliver(failure);
   if (isFolderSeen) m_folder = FolderView::Outdated;
@@ -51,8 +51,8 @@ RecentShortcuts::Outcome RecentShortcuts::Refresh(const std::optional<Listing>& 
   return outcome;
 }
 
-RecentShortcuts::News RecentShortcuts::Remember(const Listing& listing) {
-  const News news = TakeIn(listing);
+RecentShortcuts::News RecentShortcuts::Remember(const Tidings& tidings) {
+  const News news = TakeIn(tidings);
   Failure failure;
   Try(failure, [&] { Save(); });
   return news;
@@ -90,7 +90,7 @@ void RecentShortcuts::LookAtFolder() {
 void RecentShortcuts::LookAtShortcut(RecentDocument& document, const FolderItem& item) {
   // Shortcuts are not flushed to the disk one by one, so a power cut may have left this one with a name and no bytes.
   if (item.size == 0 && m_folder == FolderView::Never) {
-    if (document.pending.empty()) document.pending.push_back(document.seen);
+    if (document.pending.empty()) document.pending.push_back(LatestSeen(document));
     return;
   }
   document.isPresent = true;
@@ -100,57 +100,6 @@ void RecentShortcuts::LookAtShortcut(RecentDocument& document, const FolderItem&
     document.isCaptured = false;
   }
   if (!document.isCaptured) m_awaitsCapture = true;
-}
-
-RecentShortcuts::News RecentShortcuts::TakeIn(const Listing& listing) {
-  News news;
-  if (listing.entries == Listing::Entries::Some && std::exchange(m_state.isEmptied, false)) m_isChanged = true;
-  if (listing.entries == Listing::Entries::None) news.isEmptied = NoteEmptied();
-  ++m_readings;
-  for (const ListedDocument& listed : listing.documents)
-    if (TakeInDocument(listed, listing.readAt)) ++news.added;
-  Forget();
-  return news;
-}
-
-/// Everything now in the folder is deleted as soon as it is captured. False when the list was empty before, too.
-bool RecentShortcuts::NoteEmptied() {
-  if (std::exchange(m_state.isEmptied, true)) return false;
-  for (auto& [path, document] : m_state.documents)
-    if (!document.name.empty()) document.isToBeCleared = true;
-  m_isChanged = true;
-  m_awaitsCapture = true;
-  return true;
-}
-
-/// Returns whether the document is new.
-bool RecentShortcuts::TakeInDocument(const ListedDocument& listed, Moment now) {
-  if (IsLongForgotten(listed)) return false;
-  const auto [place, isNew] = m_state.documents.try_emplace(listed.path);
-  RecentDocument& document = place->second;
-  document.listedAt = m_readings;
-  if (isNew) {
-    m_isChanged = true;
-    if (!files::FromNative(listed.path))
-      MarkUnlinkable(*place);
-    else if (m_folder == FolderView::Current)
-      GiveName(*place);
-  }
-  if (document.isUnlinkable) return false;
-  std::vector<Moment> moments;
-  for (const Opening& told : listed.openings) moments.push_back(told.moment);
-  const auto opening = TakeNewOpening(document, moments, now);
-  if (!opening) return isNew;
-  AddPending(document, *opening);
-  document.isToBeCleared = false;
-  m_isChanged = true;
-  m_delivery = Delivery::Due;
-  return isNew;
-}
-
-bool RecentShortcuts::IsLongForgotten(const ListedDocument& listed) const {
-  if (m_state.forgotten.latest == 0 || listed.openings.empty() || m_state.documents.contains(listed.path)) return false;
-  return LastOpening(listed).moment <= m_state.forgotten.latest;
 }
 
 void RecentShortcuts::MarkUnlinkable(Document& document) {
@@ -206,10 +155,10 @@ void RecentShortcuts::Forget() {
     if (!memory.isPresent && memory.pending.empty() && memory.listedAt != m_readings) dispensable.push_back(document);
   }
   std::sort(dispensable.begin(), dispensable.end(),
-            [](const auto& a, const auto& b) { return a->second.seen < b->second.seen; });
+            [](const auto& a, const auto& b) { return LatestSeen(a->second) < LatestSeen(b->second); });
   dispensable.resize(std::min(dispensable.size(), m_state.documents.size() - m_limits.documents));
   for (const auto& document : dispensable) {
-    m_names.Forget(document->second.name, document->second.seen);
+    m_names.Forget(document->second.name, LatestSeen(document->second));
     m_state.documents.erase(document);
     m_isChanged = true;
   }

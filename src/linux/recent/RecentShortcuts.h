@@ -11,12 +11,23 @@
 #include "linux/recent/ListedDocuments.h"
 #include "linux/recent/RecentDisk.h"
 #include "linux/recent/RecentState.h"
+#include "linux/recent/Sources.h"
 #include "platform/Shell.h"
 
 namespace dayvane::recent {
 
 /// The bytes of a shell link.
 using LinkWriter = std::function<std::string(const platform::ShellLink&)>;
+
+/// Tells when a use of a document began that reached up to a moment; nothing when nobody knows.
+using BeganAt = std::function<std::optional<Moment>(const Opening& use)>;
+
+/// What the desktop's list and the further sources tell anew.
+struct Tidings {
+  std::optional<Listing> list;
+  std::vector<Sources::News> sources;
+  Moment now = 0;
+};
 
 /// The first thing that went wrong with the disk during one call.
 using Failure = std::optional<std::string>;
@@ -36,8 +47,12 @@ class RecentShortcuts {
     std::size_t documents = 10'000;
   };
 
-  RecentShortcuts(RecentDisk& disk, LinkWriter writeLink, Limits limits)
-      : m_disk(disk), m_writeLink(std::move(writeLink)), m_limits(limits), m_foreign(disk) {}
+  RecentShortcuts(RecentDisk& disk, LinkWriter writeLink, BeganAt beganAt, Limits limits)
+      : m_disk(disk),
+        m_writeLink(std::move(writeLink)),
+        m_beganAt(std::move(beganAt)),
+        m_limits(limits),
+        m_foreign(disk) {}
 
   /// The state that the last session left.
   enum class Memory { Sound, Missing, Damaged };
@@ -45,7 +60,10 @@ class RecentShortcuts {
   /// Reads that state. Fails with an Error when it cannot be read.
   Memory Load();
 
-  /// What a reading of the list brought.
+  /// What the state keeps of a further source; empty when nothing.
+  std::string MemoryOf(const std::string& source) const;
+
+  /// What the tidings brought.
   struct News {
     std::size_t added = 0;   ///< documents that were not remembered before
     bool isEmptied = false;  ///< the user has just emptied the list
@@ -59,15 +77,15 @@ class RecentShortcuts {
     Failure failure;
   };
 
-  /// Takes in the listing, if there is a new one, and brings the folder up to date as far as no opening would be lost
-  /// that is not captured yet. Every step is tried even if another one fails.
-  Outcome Refresh(const std::optional<Listing>& listing);
+  /// Takes in the tidings, if there are any, and brings the folder up to date as far as no opening would be lost that
+  /// is not captured yet. Every step is tried even if another one fails.
+  Outcome Refresh(const std::optional<Tidings>& tidings);
 
-  /// Whether a Refresh has something to do although the list is unchanged.
+  /// Whether a Refresh has something to do although there are no tidings.
   bool IsWorkDue() const { return m_delivery == Delivery::Due || m_isChanged; }
 
-  /// Takes in a listing without changing the folder. Where the state cannot be written, the next Refresh writes it.
-  News Remember(const Listing& listing);
+  /// Takes in tidings without changing the folder. Where the state cannot be written, the next Refresh writes it.
+  News Remember(const Tidings& tidings);
 
   /// Everything that the last Refresh left in the folder has been filed.
   Failure Captured();
@@ -84,10 +102,16 @@ class RecentShortcuts {
   void Save();
   void LookAtFolder();
   void LookAtShortcut(RecentDocument& document, const FolderItem& item);
-  News TakeIn(const Listing& listing);
-  bool TakeInDocument(const ListedDocument& listed, Moment now);
+  News TakeIn(const Tidings& tidings);
+  std::size_t TakeInList(const Listing& listing);
+  std::size_t TakeInOpenings(const Tidings& tidings);
   bool NoteEmptied();
-  bool IsLongForgotten(const ListedDocument& listed) const;
+  bool Note(const std::string& path, Moment opening);
+  void TakeInListed(const ListedDocument& listed, Moment now);
+  void TakeInTold(const std::string& source, const Opening& opening, Moment now);
+  void Count(RecentDocument& document, Moment opening);
+  void CountLate(RecentDocument& document, Moment opening);
+  RecentDocument* Find(const std::string& path);
   void MarkUnlinkable(Document& document);
   std::optional<std::string> LinkBytes(Document& document);
   void GiveName(Document& document);
@@ -103,6 +127,7 @@ class RecentShortcuts {
 
   RecentDisk& m_disk;
   LinkWriter m_writeLink;
+  BeganAt m_beganAt;
   Limits m_limits;
   RecentState m_state;
   ShortcutNames m_names{m_state.forgotten};

@@ -89,6 +89,9 @@ std::string DocumentLine(const std::string& path, const RecentDocument& document
   for (const std::string& field : {Decimal(document.seen), Decimal(document.written), Flags(document), Future(document),
                                    Join(document.pending, Decimal), name, Escape(path)})
     line += "\t" + field;
+  for (const auto& [source, telling] : document.told)
+    line += "\t" + Escape(source) + "\t" + Decimal(telling.seen) + "\t" + Decimal(telling.future) + "\t" +
+            Escape(telling.program);
   return line + "\n";
 }
 
@@ -145,6 +148,27 @@ bool ParseName(std::string_view text, RecentDocument& document) {
   return true;
 }
 
+constexpr std::size_t kDocumentFields = 8;
+constexpr std::size_t kTellingFields = 4;
+
+bool IsDocument(const std::vector<std::string_view>& fields) {
+  return fields[0] == "document" && fields.size() >= kDocumentFields &&
+         (fields.size() - kDocumentFields) % kTellingFields == 0;
+}
+
+/// Reads what the sources told, which follows the other fields.
+bool ParseTellings(const std::vector<std::string_view>& fields, RecentDocument& document) {
+  for (auto i = kDocumentFields; i < fields.size(); i += kTellingFields) {
+    const auto source = Unescape(fields[i]);
+    const auto seen = ParseNumber<Moment>(fields[i + 1]);
+    const auto future = ParseNumber<Moment>(fields[i + 2]);
+    const auto program = Unescape(fields[i + 3]);
+    if (!source || source->empty() || !seen || !future || !program) return false;
+    if (!document.told.emplace(*source, Telling{*seen, *future, *program}).second) return false;
+  }
+  return true;
+}
+
 class StateParser {
  public:
   StateReading Parse(std::string_view text) {
@@ -161,7 +185,8 @@ class StateParser {
 
  private:
   bool ParseLine(const std::vector<std::string_view>& fields) {
-    if (fields[0] == "document" && fields.size() == 8) return ParseDocument(fields);
+    if (IsDocument(fields)) return ParseDocument(fields);
+    if (fields[0] == "source" && fields.size() == 3) return ParseSource(fields);
     if (fields[0] == "forgotten" && fields.size() == 4) return ParseForgotten(fields);
     if (fields[0] == "end" && fields.size() == 2) return ParseEnd(fields);
     m_reading.state.isEmptied = m_reading.state.isEmptied || fields[0] == "emptied";
@@ -175,7 +200,8 @@ class StateParser {
     auto pending = ParseList<Moment>(fields[5], 10);
     const auto path = Unescape(fields[7]);
     if (!seen || !written || !pending || !path || !path->starts_with('/')) return false;
-    if (!ParseFlags(fields[3], document) || !ParseFuture(fields[4], document) || !ParseName(fields[6], document))
+    if (!ParseFlags(fields[3], document) || !ParseFuture(fields[4], document) || !ParseName(fields[6], document) ||
+        !ParseTellings(fields, document))
       return false;
     document.seen = *seen;
     document.written = *written;
@@ -184,6 +210,12 @@ class StateParser {
     if (!document.name.empty() && !m_names.insert(text::ToLower(document.name)).second) return false;
     m_reading.state.documents.emplace(*path, std::move(document));
     return true;
+  }
+
+  bool ParseSource(const std::vector<std::string_view>& fields) {
+    const auto source = Unescape(fields[1]);
+    const auto memory = Unescape(fields[2]);
+    return source && memory && m_reading.state.memories.emplace(*source, *memory).second;
   }
 
   bool ParseForgotten(const std::vector<std::string_view>& fields) {
@@ -214,6 +246,8 @@ std::string WriteState(const RecentState& state) {
   if (state.forgotten.latest > 0)
     text += "forgotten\t" + Decimal(state.forgotten.latest) + "\t" + std::to_string(state.forgotten.highestNumber) +
             "\t" + Join(state.forgotten.families, Hexadecimal) + "\n";
+  for (const auto& [source, memory] : state.memories)
+    text += "source\t" + Escape(source) + "\t" + Escape(memory) + "\n";
   for (const auto& [path, document] : state.documents) text += DocumentLine(path, document);
   return text + "end\t" + std::to_string(state.documents.size()) + "\n";
 }

@@ -17,16 +17,19 @@ namespace dayvane::recent {
 ///     dayvane-recent 1
 ///     emptied                                    the list was found empty, and has stayed so
 ///     forgotten  LATEST  NUMBER  HASH,HASH,...   see Forgotten; hashes in hexadecimal
-///     document  SEEN  WRITTEN  FLAGS  FUTURE  PENDING  NAME  PATH
+///     source  SOURCE  MEMORY                     see Source
+///     document  SEEN  WRITTEN  FLAGS  FUTURE  PENDING  NAME  PATH  [SOURCE  SEEN  FUTURE  PROGRAM]...
 ///     end  COUNT                                 of the documents
 ///
 /// Moments are nanoseconds since 1970. FLAGS is any of "c" (isCaptured), "o" (isUnlinkable) and "x" (isToBeCleared);
 /// FUTURE is two moments with a colon between them; PENDING is moments with commas between them; a field without a
-/// value is "-". In NAME and PATH a percent sign, a control character, and every byte beyond ASCII of a text that is
-/// not UTF-8 are written "%XX". A line of any other form, a second line for a path or a name, and a line without its
-/// line end are skipped; the rest of such a file still counts. A file without the first line is not read.
+/// value is "-". What the further sources told of a document follows its path. In texts a percent sign, a control
+/// character, and every byte beyond ASCII of a text that is not UTF-8 are written "%XX". A line of any other form, a
+/// second line for a path or a name, and a line without its line end are skipped; the rest of such a file still counts.
+/// A file without the first line is not read.
 struct RecentState {
   std::map<std::string, RecentDocument> documents;  ///< by native path
+  std::map<std::string, std::string> memories;      ///< of the further sources, by name
   Forgotten forgotten;
   bool isEmptied = false;
 };

@@ -43,6 +43,34 @@ std::string LocalDay(recent::Moment moment) {
 
 }  // namespace
 
+namespace {
+
+class TestSource : public recent::Source {
+ public:
+  TestSource(std::string name, SourceScript& script) : m_name(std::move(name)), m_script(script) {}
+
+  const std::string& Name() const override { return m_name; }
+  bool IsDue() override { return m_script.openings.size() != m_told; }
+  std::optional<recent::Moment> BeganAt(const recent::Opening& /*use*/) override { return m_script.began; }
+
+  Reading Read(const std::string& memory) override {
+    ++m_script.readings;
+    if (!m_script.failure.empty()) throw Error(kDeviceIoError, m_script.failure);
+    m_told = m_script.openings.size();
+    if (m_script.isForgetful) return {m_script.openings, ""};
+    const std::size_t known = memory.empty() ? 0 : std::stoul(memory);
+    return {{m_script.openings.begin() + static_cast<std::ptrdiff_t>(known), m_script.openings.end()},
+            std::to_string(m_told)};
+  }
+
+ private:
+  std::string m_name;
+  SourceScript& m_script;
+  std::size_t m_told = 0;
+};
+
+}  // namespace
+
 void TestDisk::BeforeChange() {
   if (m_control.changes++ == m_control.changesUntilEnd) throw SessionEnds();
   if (m_control.isFull) throw Error(kDiskFull, "No space left on device");
@@ -98,10 +126,17 @@ void RecentDesk::PutDocuments(const std::map<std::string, std::string>& document
   PutBookmarks(bookmarks);
 }
 
+void RecentDesk::Tell(const std::string& source, const std::string& path, const std::string& moment,
+                      const std::string& program) {
+  m_sources[source].openings.push_back({path, At(moment), program, ""});
+}
+
 recent::RecentFolder& RecentDesk::Start() {
+  std::vector<std::unique_ptr<recent::Source>> sources;
+  for (auto& [name, script] : m_sources) sources.push_back(std::make_unique<TestSource>(name, script));
   m_session = std::make_unique<recent::RecentFolder>(
       [this] { return m_now; }, m_list, std::make_unique<TestDisk>(m_recent, m_state, m_disk), LinkText,
-      [this](const std::string& event) { m_events.push_back(event); }, m_limits);
+      [this](const std::string& event) { m_events.push_back(event); }, m_limits, std::move(sources));
   return *m_session;
 }
 

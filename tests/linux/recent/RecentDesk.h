@@ -3,6 +3,7 @@
 
 #include <map>
 #include <memory>
+#include <optional>
 #include <set>
 #include <string>
 #include <vector>
@@ -46,6 +47,15 @@ class TestDisk : public recent::RecentDisk {
   Control& m_control;
 };
 
+/// What a further source of a test knows and does.
+struct SourceScript {
+  std::vector<recent::Opening> openings;  ///< all that it knows
+  bool isForgetful = false;               ///< tells all of it each time, and keeps no memory of what it told
+  std::string failure;                    ///< what reading it fails with; empty: it does not
+  std::optional<recent::Moment> began;    ///< of every use
+  int readings = 0;                       ///< so far
+};
+
 /// A user's desktop in a temporary folder: the list, the Recent folder kept from it, and a program that captures.
 /// The user lives in UTC unless the test says otherwise.
 class RecentDesk {
@@ -62,6 +72,10 @@ class RecentDesk {
 
   /// A list of documents and the times of their last openings: {{"/home/ana/a.txt", "2026-11-20T14:00:00.5Z"}}.
   void PutDocuments(const std::map<std::string, std::string>& documents);
+
+  /// Has a further source know of an opening.
+  void Tell(const std::string& source, const std::string& path, const std::string& moment,
+            const std::string& program = "editor");
 
   /// A session of the program. The one before ends without notice.
   recent::RecentFolder& Start();
@@ -88,6 +102,7 @@ class RecentDesk {
   std::vector<std::string> m_events;
   TestDisk::Control m_disk;
   recent::RecentShortcuts::Limits m_limits;
+  std::map<std::string, SourceScript> m_sources;  ///< by name; those that are there when a session starts are its
 
  private:
   LocalZone m_zone{"UTC"};

@@ -20,6 +20,9 @@ RecentState Example() {
   odd.futureFrom = 5;
   odd.futureTo = 6;
   odd.isToBeCleared = true;
+  odd.told["the list of\tan editor"] = {5, 9, "org.kde.50%"};
+  odd.told["another"] = {6, 0, ""};
+  state.memories = {{"the list of\tan editor", "1\n2"}, {"another", ""}};
   RecentDocument& unspellable = state.documents["/home/ana/\xFF\xFE"];
   unspellable.isUnlinkable = true;
   state.forgotten = {7, 2, {0x1, 0xABCD}};
@@ -33,6 +36,7 @@ TEST(RecentState, WhatIsWrittenIsReadBack) {
   EXPECT_FALSE(reading.isDamaged);
   EXPECT_EQ(reading.state.documents, state.documents);
   EXPECT_EQ(reading.state.forgotten, state.forgotten);
+  EXPECT_EQ(reading.state.memories, state.memories);
   EXPECT_TRUE(reading.state.isEmptied);
 }
 
@@ -96,6 +100,10 @@ TEST(RecentState, LinesThatCouldDoHarmAreRefused) {
                            "forgotten\t1\t9999999\t-",
                            "forgotten\t1\t1\t12345",
                            "forgotten\t0\t1\t-",
+                           "document\t1\t1\t-\t-\t-\ta.lnk\t/a\tKDE\t1\t0",
+                           "document\t1\t1\t-\t-\t-\ta.lnk\t/a\tKDE\tx\t0\tokular",
+                           "document\t1\t1\t-\t-\t-\ta.lnk\t/a\tKDE\t1\t0\tokular\tKDE\t1\t0\tokular",
+                           "source\tKDE\t%0",
                            "unknown",
                            ""}) {
     const StateReading reading = ReadState("dayvane-recent 1\n" + std::string(line) + "\nend\t0\n");

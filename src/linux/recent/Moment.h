@@ -12,6 +12,9 @@ using Moment = std::int64_t;
 
 inline constexpr Moment kNanosecondsPerSecond = 1'000'000'000;
 
+/// One opening is told of at moments that lie no further apart: some see the program start, some its file.
+inline constexpr Moment kOneOpening = 60 * kNanosecondsPerSecond;
+
 /// A date and time as the list has it: "2026-11-20T23:45:16.110424Z", with or without a fraction, with any offset.
 /// Without an offset it is the user's local time. Nothing for other text, and nothing for a date before 1990: no
 /// desktop kept such a list then, so the program that wrote the date did not know it.

@@ -10,9 +10,6 @@ namespace {
 /// Openings that may wait: one a day for almost three years without a single capture.
 constexpr std::size_t kMostPending = 1000;
 
-/// Sources tell of one opening at moments that lie no further apart: some see the program start, some its file.
-constexpr Moment kOneOpening = 60 * kNanosecondsPerSecond;
-
 bool IsClose(Moment a, Moment b) {
   return std::max(a, b) - std::min(a, b) <= kOneOpening;
 }

@@ -32,6 +32,8 @@ class RecentListFile {
   /// Whether it may hold something new. Costs one look at the file's status.
   bool IsDue() const { return m_isDue || CurrentVersion() != m_read; }
 
+  bool IsThere() const { return CurrentVersion().has_value(); }
+
   ListReading Read();
 
  private:

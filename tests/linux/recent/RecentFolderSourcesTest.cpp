@@ -19,7 +19,7 @@ using ::testing::Pair;
 using testing::RecentDesk;
 
 /// How the desktop's list is called where it is one of several sources.
-constexpr const char* kList = "";
+constexpr const char* kDesktopList = "";
 
 struct Told {
   std::string source;
@@ -33,7 +33,7 @@ std::set<std::string> FiledAfter(const std::vector<Told>& tellings) {
   desk.m_sources["A"];
   desk.m_sources["B"];
   for (const Told& told : tellings) {
-    if (told.source == kList)
+    if (told.source == kDesktopList)
       desk.PutDocuments({{kReport, told.moment}});
     else
       desk.Tell(told.source, kReport, told.moment, told.source);
@@ -47,7 +47,7 @@ std::set<std::string> FiledAfter(const std::vector<Told>& tellings) {
 std::set<std::string> FiledAtOnce(const std::vector<Told>& tellings) {
   RecentDesk desk;
   for (const Told& told : tellings) {
-    if (told.source == kList)
+    if (told.source == kDesktopList)
       desk.PutDocuments({{kReport, told.moment}});
     else
       desk.Tell(told.source, kReport, told.moment, told.source);
@@ -109,8 +109,8 @@ TEST(RecentFolderSources, OneOpeningAtMidnightIsOnTheFirstDayWhoeverTellsOfItFir
   const auto firstDay = ElementsAre("/home/ana/Report.odt 2026-11-20");
   const Told before{"A", "2026-11-20T23:59:50Z"};
   const Told after{"B", "2026-11-21T00:00:05Z"};
-  const Told listAfter{kList, "2026-11-21T00:00:05Z"};
-  const Told listBefore{kList, "2026-11-20T23:59:50Z"};
+  const Told listAfter{kDesktopList, "2026-11-21T00:00:05Z"};
+  const Told listBefore{kDesktopList, "2026-11-20T23:59:50Z"};
   EXPECT_THAT(FiledAfter({before, after}), firstDay);
   EXPECT_THAT(FiledAfter({before, listAfter}), firstDay);
   EXPECT_THAT(FiledAfter({listBefore, after}), firstDay);
@@ -162,7 +162,7 @@ TEST(RecentFolderSources, TheSameSourceTellingAgainTellsOfANewOpening) {
   EXPECT_THAT(FiledAfter({{"A", "2026-11-20T23:59:40Z"}, {"B", "2026-11-20T23:59:50Z"}, {"B", "2026-11-21T00:00:05Z"}}),
               ElementsAre("/home/ana/Report.odt 2026-11-20", "/home/ana/Report.odt 2026-11-21"));
   EXPECT_THAT(FiledAfter({{"A", "2026-11-20T23:59:40Z"}, {"A", "2026-11-21T00:00:05Z"}}), bothDays);
-  EXPECT_THAT(FiledAfter({{kList, "2026-11-20T23:59:40Z"}, {kList, "2026-11-21T00:00:05Z"}}), bothDays);
+  EXPECT_THAT(FiledAfter({{kDesktopList, "2026-11-20T23:59:40Z"}, {kDesktopList, "2026-11-21T00:00:05Z"}}), bothDays);
 }
 
 TEST(RecentFolderSources, OpeningsMoreThanAMinuteApartAreTwo) {

@@ -6,8 +6,22 @@
 #include "links/ShellLinkFormat.h"
 #include "linux/LinuxClock.h"
 #include "linux/files/NativePath.h"
+#include "linux/files/XdgFolders.h"
+#include "linux/recent/ProgramLists.h"
 
 namespace dayvane {
+
+namespace {
+
+/// The places that tell of opened documents besides the desktop's list, and what may be recorded.
+recent::RecentFolder::Surroundings SurroundingsOf(const xdg::Environment& environment) {
+  recent::RecentFolder::Surroundings surroundings;
+  surroundings.rules = recent::RulesOf(environment);
+  surroundings.sources = recent::KnownProgramLists(environment.home, xdg::DataFolder(environment));
+  return surroundings;
+}
+
+}  // namespace
 
 LinuxShell::LinuxShell(platform::FileSystem& files, const std::string& dataFolder, const ReportEvent& reportEvent)
     : m_files(files),
@@ -15,7 +29,7 @@ LinuxShell::LinuxShell(platform::FileSystem& files, const std::string& dataFolde
       m_links(files, reportEvent),
       m_launcher(reportEvent),
       m_recentFolder(LinuxClock::Nanoseconds, {recent::DefaultListPath(), m_recentPath, dataFolder + "/Recent.state"},
-                     links::WriteShellLink, reportEvent),
+                     links::WriteShellLink, reportEvent, SurroundingsOf(xdg::Environment::OfProcess())),
       m_watch(recent::DefaultListPath(),
               [this] { m_deferred.AfterWork([this] { m_recentFolder.RememberOpenings(); }); }) {}
 

@@ -45,8 +45,12 @@ bool IsFolder(const std::string& path) {
 
 Environment Environment::OfProcess() {
   const std::string home = Variable("HOME");
-  return {WithoutTrailingSlash(IsAbsolute(home) ? home : HomeOfUser()), Variable("XDG_DATA_HOME"),
-          Variable("XDG_CONFIG_HOME"), Variable("XDG_RUNTIME_DIR"), FolderOr(Variable("TMPDIR"), "/tmp")};
+  return {WithoutTrailingSlash(IsAbsolute(home) ? home : HomeOfUser()),
+          Variable("XDG_DATA_HOME"),
+          Variable("XDG_CONFIG_HOME"),
+          Variable("XDG_RUNTIME_DIR"),
+          FolderOr(Variable("TMPDIR"), "/tmp"),
+          Variable("XDG_CACHE_HOME")};
 }
 
 std::string DataFolder(const Environment& environment) {
@@ -55,6 +59,14 @@ std::string DataFolder(const Environment& environment) {
 
 std::string ConfigFolder(const Environment& environment) {
   return FolderOr(environment.configHome, environment.home + "/.config");
+}
+
+std::string CacheFolder(const Environment& environment) {
+  return FolderOr(environment.cacheHome, environment.home + "/.cache");
+}
+
+std::string RuntimeFolder(const Environment& environment) {
+  return FolderOr(environment.runtimeFolder, "/run/user/" + std::to_string(geteuid()));
 }
 
 void MakeFolder(const std::string& path) {

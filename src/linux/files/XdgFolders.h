@@ -13,6 +13,7 @@ struct Environment {
   std::string configHome;     ///< $XDG_CONFIG_HOME
   std::string runtimeFolder;  ///< $XDG_RUNTIME_DIR
   std::string temporary;      ///< folder for temporary files
+  std::string cacheHome;      ///< $XDG_CACHE_HOME as it stands, empty when unset
 
   /// Without a usable $HOME, the home folder is that of the user database.
   static Environment OfProcess();
@@ -21,6 +22,10 @@ struct Environment {
 /// A relative path counts as unset, as the base directory rules have it: it would depend on the current folder.
 std::string DataFolder(const Environment& environment);
 std::string ConfigFolder(const Environment& environment);
+std::string CacheFolder(const Environment& environment);
+
+/// Where the session's sockets and mounts are; where systems put it when the environment does not tell.
+std::string RuntimeFolder(const Environment& environment);
 
 /// Makes the folder and those above it that are missing, for the user alone (0700). An existing folder stays as it is.
 /// Fails with an Error that names the path and the reason.

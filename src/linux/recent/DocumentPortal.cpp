@@ -52,7 +52,7 @@ bool IsRefusal(const GError* error) {
 }  // namespace
 
 bool DocumentPortal::Shows(const std::string& path) const {
-  return path.starts_with(m_folder + "/");
+  return !m_folder.empty() && path.starts_with(m_folder + "/");
 }
 
 std::optional<std::string> DocumentPortal::Resolve(const std::string& path) {

@@ -48,20 +48,22 @@ Listing::Entries EntriesOf(const RecentList& list) {
 }  // namespace
 
 RecentFolder::RecentFolder(Clock now, const Paths& paths, LinkWriter writeLink, ReportEvent reportEvent,
-                           FurtherSources sources)
+                           Surroundings surroundings)
     : RecentFolder(std::move(now), paths.list, std::make_unique<RecentDisk>(paths.folder, paths.state),
-                   std::move(writeLink), std::move(reportEvent), RecentShortcuts::Limits(), std::move(sources)) {}
+                   std::move(writeLink), std::move(reportEvent), RecentShortcuts::Limits(), std::move(surroundings)) {}
 
 RecentFolder::RecentFolder(Clock now, const std::string& list, std::unique_ptr<RecentDisk> disk, LinkWriter writeLink,
-                           ReportEvent reportEvent, RecentShortcuts::Limits limits, FurtherSources sources)
+                           ReportEvent reportEvent, RecentShortcuts::Limits limits, Surroundings surroundings)
     : m_now(std::move(now)),
       m_reportEvent(std::move(reportEvent)),
       m_list(list),
       m_dataHome(list.substr(0, list.rfind('/'))),
       m_disk(std::move(disk)),
-      m_sources(std::move(sources), m_reportEvent),
+      m_sources(std::move(surroundings.sources), m_reportEvent),
+      m_admission(surroundings.rules),
       m_shortcuts(
-          *m_disk, std::move(writeLink), [this](const Opening& use) { return m_sources.BeganAt(use); }, limits) {}
+          *m_disk, std::move(writeLink), [this](const Opening& use) { return m_sources.BeganAt(use); }, limits),
+      m_awaited(surroundings.rules.drives, [this](const std::string& path) { return m_shortcuts.Knows(path); }) {}
 
 void RecentFolder::Refresh() {
   if (!Load()) return;
@@ -106,7 +108,12 @@ std::optional<Tidings> RecentFolder::ReadAll() {
   Tidings tidings;
   tidings.list = ReadList();
   tidings.sources = m_sources.Read([this](const std::string& source) { return m_shortcuts.MemoryOf(source); });
-  if (!tidings.list && tidings.sources.empty()) return std::nullopt;
+  if (!tidings.IsEmpty()) m_admission.Wake();
+  m_admission.Filter(tidings);
+  m_awaited.Exchange(tidings);
+  // What has waited may have been excluded meanwhile.
+  m_admission.Filter(tidings);
+  if (tidings.IsEmpty()) return std::nullopt;
   tidings.now = m_now();
   return tidings;
 }

@@ -9,6 +9,8 @@
 #include <vector>
 
 #include "base/ReportEvent.h"
+#include "linux/recent/Admission.h"
+#include "linux/recent/AwaitedDocuments.h"
 #include "linux/recent/RecentListFile.h"
 #include "linux/recent/RecentShortcuts.h"
 
@@ -27,7 +29,8 @@ namespace dayvane::recent {
 /// RecentDocument.h). What they lose or empty means nothing.
 ///
 /// An opening on a later day waits until the shortcut has been captured for its own day, so that the document is filed
-/// under both. The documents themselves are never touched: their drive may be asleep.
+/// under both. The documents themselves are never touched, because their drive may be asleep: only whether there is one
+/// is looked at, on a local drive, when it is told of for the first time.
 class RecentFolder {
  public:
   /// The present moment in nanoseconds since 1970, UTC.
@@ -40,13 +43,16 @@ class RecentFolder {
     std::string state;   ///< see RecentState
   };
 
-  /// Besides the list, what else tells of opened documents.
-  using FurtherSources = std::vector<std::unique_ptr<Source>>;
+  /// What there is besides the list.
+  struct Surroundings {
+    std::vector<std::unique_ptr<Source>> sources;  ///< that tell of opened documents too
+    Rules rules;                                   ///< by which documents are recorded
+  };
 
   RecentFolder(Clock now, const Paths& paths, LinkWriter writeLink, ReportEvent reportEvent,
-               FurtherSources sources = {});
+               Surroundings surroundings = {});
   RecentFolder(Clock now, const std::string& list, std::unique_ptr<RecentDisk> disk, LinkWriter writeLink,
-               ReportEvent reportEvent, RecentShortcuts::Limits limits, FurtherSources sources = {});
+               ReportEvent reportEvent, RecentShortcuts::Limits limits, Surroundings surroundings = {});
 
   /// Brings the folder up to date; to be called before the folder is listed. While nothing is new and nothing waits,
   /// this costs one look at the status of the list and of each further source. Never fails: a problem is reported once,
@@ -77,7 +83,9 @@ class RecentFolder {
   std::string m_dataHome;
   std::unique_ptr<RecentDisk> m_disk;
   Sources m_sources;
+  Admission m_admission;
   RecentShortcuts m_shortcuts;
+  AwaitedDocuments m_awaited;
   std::optional<RecentShortcuts::Memory> m_memory;  ///< left by the last session; empty until loaded
   int m_failedLoads = 0;
   ListCondition m_condition = ListCondition::Sound;  ///< as last reported

@@ -25,8 +25,11 @@ using BeganAt = std::function<std::optional<Moment>(const Opening& use)>;
 /// What the desktop's list and the further sources tell anew.
 struct Tidings {
   std::optional<Listing> list;
+  std::vector<ListedDocument> arrived;  ///< of earlier listings, whose documents have come to be only now
   std::vector<Sources::News> sources;
   Moment now = 0;
+
+  bool IsEmpty() const { return !list && arrived.empty() && sources.empty(); }
 };
 
 /// The first thing that went wrong with the disk during one call.
@@ -59,6 +62,9 @@ class RecentShortcuts {
 
   /// Reads that state. Fails with an Error when it cannot be read.
   Memory Load();
+
+  /// Whether the document is remembered, whatever became of its shortcut.
+  bool Knows(const std::string& path) const { return m_state.documents.contains(path); }
 
   /// What the state keeps of a further source; empty when nothing.
   std::string MemoryOf(const std::string& source) const;
@@ -103,7 +109,8 @@ class RecentShortcuts {
   void LookAtFolder();
   void LookAtShortcut(RecentDocument& document, const FolderItem& item);
   News TakeIn(const Tidings& tidings);
-  std::size_t TakeInList(const Listing& listing);
+  void TakeInListing(const Listing& listing);
+  std::size_t TakeInDocuments(const std::vector<ListedDocument>& documents);
   std::size_t TakeInOpenings(const Tidings& tidings);
   bool NoteEmptied();
   bool Note(const std::string& path, Moment opening);

@@ -12,11 +12,13 @@ namespace dayvane::recent {
 RecentShortcuts::News RecentShortcuts::TakeIn(const Tidings& tidings) {
   News news;
   if (tidings.list && tidings.list->entries == Listing::Entries::None) news.isEmptied = NoteEmptied();
-  if (tidings.list) news.added += TakeInList(*tidings.list);
+  if (tidings.list) TakeInListing(*tidings.list);
+  if (tidings.list) news.added += TakeInDocuments(tidings.list->documents);
+  news.added += TakeInDocuments(tidings.arrived);
   news.added += TakeInOpenings(tidings);
   for (const Sources::News& told : tidings.sources) {
-    if (MemoryOf(told.source) == told.memory) continue;
-    m_state.memories[told.source] = told.memory;
+    if (!told.memory || MemoryOf(told.source) == *told.memory) continue;
+    m_state.memories[told.source] = *told.memory;
     m_isChanged = true;
   }
   Forget();
@@ -28,14 +30,16 @@ std::string RecentShortcuts::MemoryOf(const std::string& source) const {
   return memory == m_state.memories.end() ? std::string() : memory->second;
 }
 
-/// Makes the documents of the list known, in its order, and returns how many are new.
-std::size_t RecentShortcuts::TakeInList(const Listing& listing) {
+void RecentShortcuts::TakeInListing(const Listing& listing) {
   if (listing.entries == Listing::Entries::Some && std::exchange(m_state.isEmptied, false)) m_isChanged = true;
   ++m_readings;
-  std::size_t added = 0;
-  for (const ListedDocument& listed : listing.documents)
-    if (Note(listed.path, LastOpening(listed).moment)) ++added;
-  return added;
+}
+
+/// Makes documents of the list known, in its order, and returns how many are new.
+std::size_t RecentShortcuts::TakeInDocuments(const std::vector<ListedDocument>& documents) {
+  return static_cast<std::size_t>(std::count_if(documents.begin(), documents.end(), [this](const auto& listed) {
+    return Note(listed.path, LastOpening(listed).moment);
+  }));
 }
 
 /// Takes in all openings in the order in which they happened, whoever tells of them. Returns how many documents are
@@ -43,9 +47,12 @@ std::size_t RecentShortcuts::TakeInList(const Listing& listing) {
 std::size_t RecentShortcuts::TakeInOpenings(const Tidings& tidings) {
   std::size_t added = 0;
   std::vector<std::pair<Moment, std::function<void()>>> steps;
-  if (tidings.list)
-    for (const ListedDocument& listed : tidings.list->documents)
+  const auto addListed = [&](const std::vector<ListedDocument>& documents) {
+    for (const ListedDocument& listed : documents)
       steps.emplace_back(LastOpening(listed).moment, [&] { TakeInListed(listed, tidings.now); });
+  };
+  if (tidings.list) addListed(tidings.list->documents);
+  addListed(tidings.arrived);
   for (const Sources::News& told : tidings.sources)
     for (const Opening& opening : told.openings)
       steps.emplace_back(opening.moment, [&] {

@@ -24,7 +24,7 @@ class Sources {
   struct News {
     std::string source;
     std::vector<Opening> openings;
-    std::string memory;  ///< to be kept together with the openings
+    std::optional<std::string> memory;  ///< to be kept together with the openings; nothing: what is kept stays
   };
 
   Sources(std::vector<std::unique_ptr<Source>> sources, ReportEvent reportEvent);

@@ -21,14 +21,24 @@ Environment Ana() {
 TEST(XdgFolders, AreBelowTheHomeFolderByDefault) {
   EXPECT_EQ(DataFolder(Ana()), "/home/ana/.local/share");
   EXPECT_EQ(ConfigFolder(Ana()), "/home/ana/.config");
+  EXPECT_EQ(CacheFolder(Ana()), "/home/ana/.cache");
+}
+
+TEST(XdgFolders, TheRuntimeFolderIsWhereSystemsPutItUnlessTheSessionSays) {
+  Environment environment = Ana();
+  EXPECT_TRUE(RuntimeFolder(environment).starts_with("/run/user/"));
+  environment.runtimeFolder = "/sessions/7/";
+  EXPECT_EQ(RuntimeFolder(environment), "/sessions/7");
 }
 
 TEST(XdgFolders, AreWhereTheUserSays) {
   Environment environment = Ana();
   environment.dataHome = "/data/ana/";
   environment.configHome = "/etc/ana";
+  environment.cacheHome = "/fast/ana";
   EXPECT_EQ(DataFolder(environment), "/data/ana");
   EXPECT_EQ(ConfigFolder(environment), "/etc/ana");
+  EXPECT_EQ(CacheFolder(environment), "/fast/ana");
 }
 
 TEST(XdgFolders, ARelativePathIsIgnored) {

@@ -6,6 +6,7 @@
 
 #include "linux/recent/DocumentPortal.h"
 #include "tests/linux/BusService.h"
+#include "tests/linux/recent/RecentDesk.h"
 
 namespace dayvane::recent {
 namespace {
@@ -116,6 +117,21 @@ TEST(DocumentPortal, APortalThatDoesNotAnswerIsAskedAgainOnlyWhenSomethingNewIsT
   portal.isHanging = false;
   documents.Wake();
   EXPECT_NE(documents.Resolve("/run/user/1000/doc/report/Report.odt"), std::nullopt);
+}
+
+TEST(DocumentPortal, ADocumentOfASandboxIsFiledUnderThePathThatItHasOutside) {
+  const testing::PrivateBus bus;
+  const FakePortal portal(bus);
+  testing::RecentDesk desk;
+  desk.m_rules.portalFolder = kPortalFolder;
+  desk.m_rules.ownFolders = {"/run/user/1000"};
+  desk.PutDocuments({{"/run/user/1000/doc/papers/Papers/Plan.odt", "2026-11-20T08:00:00Z"},
+                     {"/home/ana/Papers/Plan.odt", "2026-11-20T07:00:00Z"},
+                     {"/run/user/1000/doc/gone/x", "2026-11-20T08:00:00Z"}});
+  desk.Poll();
+  EXPECT_THAT(desk.Shortcuts(),
+              ::testing::ElementsAre(::testing::Pair("Plan.odt.lnk", "2026-11-20T08:00:00.000000000Z")));
+  EXPECT_THAT(desk.Filed(), ::testing::ElementsAre("/home/ana/Papers/Plan.odt 2026-11-20"));
 }
 
 TEST(DocumentPortal, WithoutAPortalOrABusNothingIsResolved) {

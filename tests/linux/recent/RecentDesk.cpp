@@ -132,11 +132,12 @@ void RecentDesk::Tell(const std::string& source, const std::string& path, const 
 }
 
 recent::RecentFolder& RecentDesk::Start() {
-  std::vector<std::unique_ptr<recent::Source>> sources;
-  for (auto& [name, script] : m_sources) sources.push_back(std::make_unique<TestSource>(name, script));
+  recent::RecentFolder::Surroundings surroundings;
+  surroundings.rules = m_rules;
+  for (auto& [name, script] : m_sources) surroundings.sources.push_back(std::make_unique<TestSource>(name, script));
   m_session = std::make_unique<recent::RecentFolder>(
       [this] { return m_now; }, m_list, std::make_unique<TestDisk>(m_recent, m_state, m_disk), LinkText,
-      [this](const std::string& event) { m_events.push_back(event); }, m_limits, std::move(sources));
+      [this](const std::string& event) { m_events.push_back(event); }, m_limits, std::move(surroundings));
   return *m_session;
 }
 

@@ -102,6 +102,7 @@ class RecentDesk {
   std::vector<std::string> m_events;
   TestDisk::Control m_disk;
   recent::RecentShortcuts::Limits m_limits;
+  recent::Rules m_rules;                          ///< none at first
   std::map<std::string, SourceScript> m_sources;  ///< by name; those that are there when a session starts are its
 
  private:

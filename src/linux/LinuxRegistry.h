@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <utility>
 
 #include "linux/LinuxClock.h"
 #include "linux/registry/DocumentClasses.h"
@@ -18,6 +19,11 @@ class LinuxRegistry : public platform::Registry {
  public:
   LinuxRegistry(std::string settingsFile, ReportEvent reportEvent,
                 registry::DocumentClasses::Clock clock = LinuxClock::CoarseTime);
+
+  /// See DocumentClasses.
+  void AskForPrograms(registry::DocumentClasses::LastProgram lastProgram) {
+    m_classes.AskForPrograms(std::move(lastProgram));
+  }
 
   std::unique_ptr<platform::RegistryKey> KeyFromRoot(std::uint32_t root) override;
   std::unique_ptr<platform::RegistryKey> KeyFromPath(const std::string& path) override;

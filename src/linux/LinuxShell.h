@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "base/ReportEvent.h"
@@ -23,6 +24,10 @@ class LinuxShell : public platform::Shell {
   std::string SpecialFolderPath(int number) override;
   void RefreshRecentFolder() override { m_recentFolder.Refresh(); }
   void RecentFolderCaptured() override { m_recentFolder.Captured(); }
+  /// The program that last opened a document of a content type, as the desktop names it; nothing when nobody knows.
+  std::optional<std::string> LastProgramFor(const std::string& type) const {
+    return m_recentFolder.LastProgramFor(type);
+  }
   platform::ReadLink ReadShellLink(const std::string& path) override { return m_links.Read(path); }
   void CreateShellLink(const std::string& path, const platform::ShellLink& link) override;
   int Open(const std::string& target, const std::string& workingDirectory, std::int32_t /*showCommand*/) override {

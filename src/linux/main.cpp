@@ -98,6 +98,7 @@ int Run() {
   LinuxShell shell(files, folders.data, reportEvent);
   LinuxShellIcons shellIcons(shell);
   LinuxRegistry registry(DefaultSettingsFile(), reportEvent);
+  registry.AskForPrograms([&shell](const std::string& type) { return shell.LastProgramFor(type); });
   const widgets::Appearance appearance;
   widgets::LinuxWindowing windowing;
   help::LinuxHelp help(folders.resources);

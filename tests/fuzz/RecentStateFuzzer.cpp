@@ -16,8 +16,8 @@ using recent::RecentState;
 using recent::WriteState;
 
 bool IsSame(const RecentState& a, const RecentState& b) {
-  return a.documents == b.documents && a.memories == b.memories && a.forgotten == b.forgotten &&
-         a.isEmptied == b.isEmptied;
+  return a.documents == b.documents && a.memories == b.memories && a.programs == b.programs &&
+         a.forgotten == b.forgotten && a.isEmptied == b.isEmptied;
 }
 
 bool IsPartOf(const RecentState& part, const RecentState& whole) {

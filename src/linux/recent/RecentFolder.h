@@ -69,6 +69,9 @@ class RecentFolder {
   /// program to write the list may drop the entry. Does nothing before the first Refresh.
   void RememberOpenings();
 
+  /// See RecentShortcuts.
+  std::optional<std::string> LastProgramFor(const std::string& type) const { return m_shortcuts.LastProgramFor(type); }
+
  private:
   bool Load();
   std::optional<Tidings> ReadAll();

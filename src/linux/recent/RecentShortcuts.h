@@ -66,6 +66,9 @@ class RecentShortcuts {
   /// Whether the document is remembered, whatever became of its shortcut.
   bool Knows(const std::string& path) const { return m_state.documents.contains(path); }
 
+  /// The program that last opened a document of the type, as its source named it; nothing when nobody knows.
+  std::optional<std::string> LastProgramFor(const std::string& type) const { return m_state.programs.Find(type); }
+
   /// What the state keeps of a further source; empty when nothing.
   std::string MemoryOf(const std::string& source) const;
 

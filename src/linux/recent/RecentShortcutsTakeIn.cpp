@@ -106,6 +106,7 @@ void RecentShortcuts::TakeInListed(const ListedDocument& listed, Moment now) {
   m_isChanged = true;
   Opening use = LastOpening(listed);
   use.moment = *opening;
+  m_state.programs.Note(use);
   // An editor that is closed after midnight tells of its document again, which was opened the day before.
   const auto began = m_beganAt(use);
   if (began && *began <= before) return;
@@ -120,6 +121,7 @@ void RecentShortcuts::TakeInTold(const std::string& source, const Opening& openi
   const auto moment = TakeNewOpening(*document, source, opening, now);
   if (!moment) return;
   m_isChanged = true;
+  m_state.programs.Note({opening.path, *moment, opening.program, opening.mimeType});
   if (IsToldByOthers(*document, source, before, *moment)) return;
   if (*moment > latest)
     Count(*document, *moment);

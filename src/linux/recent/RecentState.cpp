@@ -186,6 +186,7 @@ class StateParser {
  private:
   bool ParseLine(const std::vector<std::string_view>& fields) {
     if (IsDocument(fields)) return ParseDocument(fields);
+    if (fields[0] == "program" && fields.size() == 4) return ParseProgram(fields);
     if (fields[0] == "source" && fields.size() == 3) return ParseSource(fields);
     if (fields[0] == "forgotten" && fields.size() == 4) return ParseForgotten(fields);
     if (fields[0] == "end" && fields.size() == 2) return ParseEnd(fields);
@@ -218,6 +219,13 @@ class StateParser {
     return source && memory && m_reading.state.memories.emplace(*source, *memory).second;
   }
 
+  bool ParseProgram(const std::vector<std::string_view>& fields) {
+    const auto type = Unescape(fields[1]);
+    const auto moment = ParseNumber<Moment>(fields[2]);
+    const auto program = Unescape(fields[3]);
+    return type && moment && program && m_reading.state.programs.Add(*type, {*moment, *program});
+  }
+
   bool ParseForgotten(const std::vector<std::string_view>& fields) {
     const auto latest = ParseNumber<Moment>(fields[1]);
     const auto number = ParseNumber<int>(fields[2]);
@@ -248,6 +256,8 @@ std::string WriteState(const RecentState& state) {
             "\t" + Join(state.forgotten.families, Hexadecimal) + "\n";
   for (const auto& [source, memory] : state.memories)
     text += "source\t" + Escape(source) + "\t" + Escape(memory) + "\n";
+  for (const auto& [type, last] : state.programs.All())
+    text += "program\t" + Escape(type) + "\t" + Decimal(last.moment) + "\t" + Escape(last.program) + "\n";
   for (const auto& [path, document] : state.documents) text += DocumentLine(path, document);
   return text + "end\t" + std::to_string(state.documents.size()) + "\n";
 }

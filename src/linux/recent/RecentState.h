@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "linux/recent/LastPrograms.h"
 #include "linux/recent/RecentDocument.h"
 #include "linux/recent/ShortcutNames.h"
 
@@ -18,6 +19,7 @@ namespace dayvane::recent {
 ///     emptied                                    the list was found empty, and has stayed so
 ///     forgotten  LATEST  NUMBER  HASH,HASH,...   see Forgotten; hashes in hexadecimal
 ///     source  SOURCE  MEMORY                     see Source
+///     program  TYPE  MOMENT  PROGRAM             see LastPrograms
 ///     document  SEEN  WRITTEN  FLAGS  FUTURE  PENDING  NAME  PATH  [SOURCE  SEEN  FUTURE  PROGRAM]...
 ///     end  COUNT                                 of the documents
 ///
@@ -30,6 +32,7 @@ namespace dayvane::recent {
 struct RecentState {
   std::map<std::string, RecentDocument> documents;  ///< by native path
   std::map<std::string, std::string> memories;      ///< of the further sources, by name
+  LastPrograms programs;
   Forgotten forgotten;
   bool isEmptied = false;
 };

@@ -7,6 +7,7 @@
 #include "base/Text.h"
 #include "linux/files/NativePath.h"
 #include "linux/launch/Applications.h"
+#include "linux/registry/DefaultApplication.h"
 
 namespace dayvane::registry {
 
@@ -46,15 +47,15 @@ Answer DefaultIcon(const std::string& type) {
   return std::string(names[0]) + ",0";
 }
 
-Answer OpenCommand(const std::string& type) {
-  const glib::Object<GAppInfo> application(g_app_info_get_default_for_type(type.c_str(), FALSE));
+Answer OpenCommand(const std::string& type, const DocumentClasses::LastProgram& lastProgram) {
+  const auto application = ApplicationFor(type, lastProgram ? lastProgram(type) : std::nullopt);
   const auto program = application ? applications::ProgramOf(application.get()) : std::nullopt;
   const auto path = program ? files::FromNative(*program) : std::nullopt;
   if (!path) return std::nullopt;
   return "\"" + *path + "\" \"%1\"";
 }
 
-Answer AskDesktop(std::string_view path) {
+Answer AskDesktop(std::string_view path, const DocumentClasses::LastProgram& lastProgram) {
   const auto separator = std::min(path.find('\\'), path.size());
   const std::string_view first = path.substr(0, separator);
   const std::string_view rest = path.substr(std::min(separator + 1, path.size()));
@@ -63,7 +64,7 @@ Answer AskDesktop(std::string_view path) {
   const std::string type(first);
   if (rest.empty()) return Description(type);
   if (text::CompareIgnoringCase(rest, "DefaultIcon") == 0) return DefaultIcon(type);
-  if (text::CompareIgnoringCase(rest, "shell\\open\\command") == 0) return OpenCommand(type);
+  if (text::CompareIgnoringCase(rest, "shell\\open\\command") == 0) return OpenCommand(type, lastProgram);
   return std::nullopt;
 }
 
@@ -95,7 +96,8 @@ std::shared_ptr<const ClassKeyAnswer> DocumentClasses::Find(std::string_view pat
   }
   const auto known = m_answers.find(path);
   if (known != m_answers.end()) return known->second;
-  auto answer = std::make_shared<const ClassKeyAnswer>(ClassKeyAnswer{std::string(path), AskDesktop(path)});
+  auto answer =
+      std::make_shared<const ClassKeyAnswer>(ClassKeyAnswer{std::string(path), AskDesktop(path, m_lastProgram)});
   m_answers.emplace(answer->path, answer);
   return answer;
 }

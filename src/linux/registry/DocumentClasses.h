@@ -9,6 +9,7 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <utility>
 
 #include "linux/LinuxClock.h"
 #include "linux/glib/GlibHandles.h"
@@ -38,11 +39,18 @@ class DocumentClasses {
   using Clock = std::function<std::chrono::steady_clock::time_point()>;
   static constexpr std::chrono::seconds kLongestKept{60};
 
+  /// The program that last opened a document of a content type, by any name; nothing when nobody knows.
+  using LastProgram = std::function<std::optional<std::string>(const std::string& type)>;
+
   /// Reading an exact clock would be half of the work of an answer that is known.
   explicit DocumentClasses(Clock clock = LinuxClock::CoarseTime);
   DocumentClasses(const DocumentClasses&) = delete;
   DocumentClasses& operator=(const DocumentClasses&) = delete;
   ~DocumentClasses();
+
+  /// Where nobody has chosen the application for a class, the one that was last used for it is taken (see
+  /// DefaultApplication.h).
+  void AskForPrograms(LastProgram lastProgram) { m_lastProgram = std::move(lastProgram); }
 
   /// The default value of a key, by its path below the root. Never null.
   std::shared_ptr<const ClassKeyAnswer> Find(std::string_view path);
@@ -51,6 +59,7 @@ class DocumentClasses {
   static void ApplicationsChanged(GAppInfoMonitor* monitor, gpointer self);
 
   Clock m_clock;
+  LastProgram m_lastProgram;
   glib::Object<GAppInfoMonitor> m_monitor;
   gulong m_connection;
   std::unordered_map<std::string_view, std::shared_ptr<const ClassKeyAnswer>> m_answers;  ///< by the path inside

@@ -266,6 +266,21 @@ TEST(RecentFolderSources, TheLogTellsAtTheStartWhatIsRead) {
   EXPECT_THAT(desk.m_events[1], HasSubstr("there is the list of Editor"));
 }
 
+TEST(RecentFolderSources, TheProgramThatLastOpenedADocumentOfATypeIsKnown) {
+  RecentDesk desk;
+  desk.Tell("A", "/home/ana/a.letter", "2026-11-20T10:00:00Z", "Letters");
+  desk.Tell("A", "/home/ana/b.letter", "2026-11-20T09:00:00Z", "Paint");
+  desk.Tell("A", "/home/ana/c.letter", "2026-11-20T11:00:00Z", "xdg-desktop-portal-gnome");
+  desk.PutBookmarks(RecentDesk::Bookmark("file:///home/ana/noext", "2026-11-20T10:00:00Z"));
+  desk.Poll();
+  RecentFolder& folder = desk.Start();
+  folder.Refresh();
+  EXPECT_EQ(folder.LastProgramFor("application/x-letter"), "Letters");
+  EXPECT_EQ(folder.LastProgramFor("text/plain"), "Editor")
+      << "where the name says nothing, the type in the list counts";
+  EXPECT_EQ(folder.LastProgramFor("application/x-sketch"), std::nullopt);
+}
+
 TEST(RecentFolderSources, AKillNeitherLosesNorDoublesWhatASourceToldOf) {
   const auto live = [](int changesUntilEnd) {
     RecentDesk desk;

@@ -23,6 +23,7 @@ RecentState Example() {
   odd.told["the list of\tan editor"] = {5, 9, "org.kde.50%"};
   odd.told["another"] = {6, 0, ""};
   state.memories = {{"the list of\tan editor", "1\n2"}, {"another", ""}};
+  state.programs.Add("text/plain", {8, "An\teditor"});
   RecentDocument& unspellable = state.documents["/home/ana/\xFF\xFE"];
   unspellable.isUnlinkable = true;
   state.forgotten = {7, 2, {0x1, 0xABCD}};
@@ -37,6 +38,7 @@ TEST(RecentState, WhatIsWrittenIsReadBack) {
   EXPECT_EQ(reading.state.documents, state.documents);
   EXPECT_EQ(reading.state.forgotten, state.forgotten);
   EXPECT_EQ(reading.state.memories, state.memories);
+  EXPECT_EQ(reading.state.programs, state.programs);
   EXPECT_TRUE(reading.state.isEmptied);
 }
 

@@ -67,6 +67,35 @@ TEST(DocumentClasses, AClassIsOpenedByItsDefaultApplication) {
             CommandFor(desktop::Program("letter-writer")));
 }
 
+constexpr const char* kCommandForFolders = "inode/directory\\shell\\open\\command";
+
+DocumentClasses::LastProgram LastlyOpenedWith(const std::string& program) {
+  return
+      [program](const std::string& type) { return type == "inode/directory" ? std::optional(program) : std::nullopt; };
+}
+
+TEST(DocumentClasses, WithoutAChoiceAClassIsOpenedByTheProgramThatLastOpenedSuchADocument) {
+  EXPECT_EQ(DocumentClasses().Find(kCommandForFolders)->text, CommandFor(desktop::Program("letter-writer")));
+  for (const char* name : {"Files", "files", "/usr/bin/files", "FILES 7.4"}) {
+    DocumentClasses classes;
+    classes.AskForPrograms(LastlyOpenedWith(name));
+    EXPECT_EQ(classes.Find(kCommandForFolders)->text, CommandFor(desktop::Program("files"))) << name;
+  }
+}
+
+TEST(DocumentClasses, AProgramThatDoesNotClaimTheClassIsNotItsProgram) {
+  DocumentClasses classes;
+  classes.AskForPrograms(LastlyOpenedWith("Paint"));
+  EXPECT_EQ(classes.Find(kCommandForFolders)->text, CommandFor(desktop::Program("letter-writer")));
+}
+
+TEST(DocumentClasses, TheUsersChoiceStaysWhateverOpenedADocumentLast) {
+  const ChosenApplication chosen("inode/directory=a-viewer.desktop");
+  DocumentClasses classes;
+  classes.AskForPrograms(LastlyOpenedWith("Files"));
+  EXPECT_EQ(classes.Find(kCommandForFolders)->text, CommandFor(desktop::Program("letter-writer")));
+}
+
 TEST(DocumentClasses, NamesOfSubKeysIgnoreTheirCase) {
   DocumentClasses classes;
   EXPECT_EQ(classes.Find("application/x-letter\\DEFAULTICON")->text, "application-x-letter,0");

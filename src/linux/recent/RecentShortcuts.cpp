@@ -176,6 +176,9 @@ void RecentShortcuts::Deliver(Failure& failure) {
 void RecentShortcuts::DeliverTo(Document& document) {
   RecentDocument& memory = document.second;
   if (memory.name.empty()) GiveName(document);
+  // A source may tell of many days at once, of which each capture files one. The last is not to wait for all others.
+  const bool isHistory = !memory.isPresent && memory.pending.size() > 1;
+  if (isHistory && !Write(document, memory.pending.back())) return;
   while (!memory.pending.empty()) {
     const Moment opening = memory.pending.front();
     const bool isSameDay = memory.isPresent && OnSameLocalDay(memory.written, opening);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <filesystem>
 #include <gmock/gmock.h>
+#include <tuple>
 
 #include "linux/recent/RecentFolder.h"
 #include "tests/linux/recent/RecentDesk.h"
@@ -80,6 +81,14 @@ TEST(RecentFolderSources, EveryDayThatASourceTellsOfIsFiled) {
   EXPECT_THAT(desk.Filed(), ElementsAre("/home/ana/Report.odt 2026-11-20", "/home/ana/Report.odt 2026-11-21",
                                         "/home/ana/Report.odt 2026-11-23"));
   EXPECT_THAT(desk.Shortcuts(), ElementsAre(Pair("Report.odt.lnk", "2026-11-23T10:00:00.000000000Z")));
+}
+
+TEST(RecentFolderSources, OfADocumentsManyDaysTheLastIsFiledFirst) {
+  RecentDesk desk;
+  for (const char* day : {"2026-11-20", "2026-11-21", "2026-11-23"})
+    desk.Tell("KDE", kReport, std::string(day) + "T10:00:00Z");
+  desk.Poll();
+  EXPECT_THAT(desk.Filed(), ElementsAre("/home/ana/Report.odt 2026-11-23"));
 }
 
 TEST(RecentFolderSources, ADayToldOfLateIsFiledAndTheShortcutShowsTheLastOpening) {
@@ -282,26 +291,34 @@ TEST(RecentFolderSources, TheProgramThatLastOpenedADocumentOfATypeIsKnown) {
 }
 
 TEST(RecentFolderSources, AKillNeitherLosesNorDoublesWhatASourceToldOf) {
-  const auto live = [](int changesUntilEnd) {
+  const auto poll = [](RecentDesk& desk) {
+    try {
+      desk.Poll();
+    } catch (const testing::SessionEnds&) {
+      desk.Start();
+      desk.Poll();
+    }
+  };
+  const auto live = [&](int changesUntilEnd) {
     RecentDesk desk;
     desk.PutDocuments({});
     desk.m_disk.changesUntilEnd = changesUntilEnd;
-    desk.m_sources["A"];
+    for (const char* day : {"2026-11-20", "2026-11-22", "2026-11-24"})
+      desk.Tell("A", "/home/ana/x", std::string(day) + "T10:00:00Z");
     for (const char* moment : {"2026-11-20T10:00:00Z", "2026-11-21T10:00:00Z", "2026-11-22T10:00:00Z"}) {
       desk.Tell("A", kReport, moment);
-      try {
-        desk.Poll();
-      } catch (const testing::SessionEnds&) {
-        desk.Start();
-        desk.Poll();
-      }
+      poll(desk);
     }
-    for (int poll = 0; poll < 3; ++poll) desk.Poll();
-    return std::pair(desk.Filed(), desk.m_disk.changes);
+    for (int i = 0; i < 4; ++i) poll(desk);
+    return std::tuple(desk.Filed(), desk.Shortcuts(), desk.m_disk.changes);
   };
-  const auto [filed, changes] = live(-1);
-  ASSERT_EQ(filed.size(), 3U);
-  for (int change = 0; change < changes; ++change) EXPECT_EQ(live(change).first, filed) << change;
+  const auto [filed, shortcuts, changes] = live(-1);
+  ASSERT_EQ(filed.size(), 6U);
+  for (int change = 0; change < changes; ++change) {
+    const auto [filedWithKill, shortcutsWithKill, ignored] = live(change);
+    EXPECT_EQ(filedWithKill, filed) << change;
+    EXPECT_EQ(shortcutsWithKill, shortcuts) << change;
+  }
 }
 
 }  // namespace

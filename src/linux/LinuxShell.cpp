@@ -7,6 +7,8 @@
 #include "linux/LinuxClock.h"
 #include "linux/files/NativePath.h"
 #include "linux/files/XdgFolders.h"
+#include "linux/recent/KdeActivities.h"
+#include "linux/recent/LibreOfficePicks.h"
 #include "linux/recent/ProgramLists.h"
 
 namespace dayvane {
@@ -14,10 +16,14 @@ namespace dayvane {
 namespace {
 
 /// The places that tell of opened documents besides the desktop's list, and what may be recorded.
-recent::RecentFolder::Surroundings SurroundingsOf(const xdg::Environment& environment) {
+recent::RecentFolder::Surroundings SurroundingsOf(const xdg::Environment& environment,
+                                                  const recent::Exclusions& exclusions) {
   recent::RecentFolder::Surroundings surroundings;
   surroundings.rules = recent::RulesOf(environment);
+  surroundings.rules.isExcluded = [&exclusions](const recent::Opening& opening) { return exclusions.Covers(opening); };
   surroundings.sources = recent::KnownProgramLists(environment.home, xdg::DataFolder(environment));
+  surroundings.sources.push_back(std::make_unique<recent::KdeActivities>(recent::DefaultActivityDatabase()));
+  surroundings.sources.push_back(std::make_unique<recent::LibreOfficePicks>(recent::DefaultLibreOfficeFolder()));
   return surroundings;
 }
 
@@ -28,10 +34,15 @@ LinuxShell::LinuxShell(platform::FileSystem& files, const std::string& dataFolde
       m_recentPath(dataFolder + "/Recent"),
       m_links(files, reportEvent),
       m_launcher(reportEvent),
+      m_exclusions(recent::DefaultExclusionsFile(), xdg::Environment::OfProcess().home, reportEvent),
       m_recentFolder(LinuxClock::Nanoseconds, {recent::DefaultListPath(), m_recentPath, dataFolder + "/Recent.state"},
-                     links::WriteShellLink, reportEvent, SurroundingsOf(xdg::Environment::OfProcess())),
-      m_watch(recent::DefaultListPath(),
-              [this] { m_deferred.AfterWork([this] { m_recentFolder.RememberOpenings(); }); }) {}
+                     links::WriteShellLink, reportEvent, SurroundingsOf(xdg::Environment::OfProcess(), m_exclusions)),
+      m_watch(recent::DefaultListPath(), [this] {
+        m_deferred.AfterWork([this] {
+          m_exclusions.Refresh();
+          m_recentFolder.RememberOpenings();
+        });
+      }) {}
 
 std::string LinuxShell::SpecialFolderPath(int number) {
   if (number != platform::kRecentFolder)

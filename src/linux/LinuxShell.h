@@ -8,6 +8,7 @@
 #include "controls/Deferred.h"
 #include "links/ShellLinkReader.h"
 #include "linux/launch/Launcher.h"
+#include "linux/recent/Exclusions.h"
 #include "linux/recent/RecentFolder.h"
 #include "linux/recent/RecentListWatch.h"
 #include "platform/Shell.h"
@@ -22,8 +23,12 @@ class LinuxShell : public platform::Shell {
   LinuxShell(platform::FileSystem& files, const std::string& dataFolder, const ReportEvent& reportEvent);
 
   std::string SpecialFolderPath(int number) override;
-  void RefreshRecentFolder() override { m_recentFolder.Refresh(); }
+  void RefreshRecentFolder() override {
+    m_exclusions.Refresh();
+    m_recentFolder.Refresh();
+  }
   void RecentFolderCaptured() override { m_recentFolder.Captured(); }
+
   /// The program that last opened a document of a content type, as the desktop names it; nothing when nobody knows.
   std::optional<std::string> LastProgramFor(const std::string& type) const {
     return m_recentFolder.LastProgramFor(type);
@@ -42,6 +47,7 @@ class LinuxShell : public platform::Shell {
   std::string m_recentPath;  ///< native
   links::ShellLinkReader m_links;
   launch::Launcher m_launcher;
+  recent::Exclusions m_exclusions;
   recent::RecentFolder m_recentFolder;
   controls::Deferred m_deferred;
   recent::RecentListWatch m_watch;

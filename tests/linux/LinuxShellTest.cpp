@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include <gtest/gtest.h>
+#include <filesystem>
+#include <gmock/gmock.h>
 
 #include "base/Text.h"
 #include "linux/LinuxFileSystem.h"
 #include "linux/LinuxShell.h"
+#include "tests/linux/EnvironmentVariable.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace dayvane {
@@ -33,6 +35,41 @@ TEST_F(LinuxShellTest, ALinkNamesItsDocumentInTheLettersThatTheDiskHas) {
 TEST_F(LinuxShellTest, ALinkToWhatIsNotThereStaysAsItIs) {
   EXPECT_EQ(TargetOfLinkTo(Path("gone.odt")), Path("gone.odt"));
   EXPECT_EQ(TargetOfLinkTo("Q:\\gone.odt"), "Q:\\gone.odt");
+}
+
+TEST_F(LinuxShellTest, TheFirstStartLeavesAFileInWhichTheUserCanSayWhatToLeaveOut) {
+  const testing::EnvironmentVariable config("XDG_CONFIG_HOME", m_folder / "config");
+  const LinuxShell shell(m_files, m_folder / "state", [](const std::string&) {});
+  EXPECT_THAT(testing::ReadFile(m_folder / "config/dayvane/exclude"), ::testing::HasSubstr("#~/Downloads"));
+}
+
+TEST_F(LinuxShellTest, TheEventLogNamesThePlacesThatTellOfOpenings) {
+  m_folder.Write("share/kactivitymanagerd/resources/database", "");
+  m_folder.Write("config/libreoffice/4/user/registrymodifications.xcu", "");
+  const testing::EnvironmentVariable config("XDG_CONFIG_HOME", m_folder / "config");
+  const testing::EnvironmentVariable data("XDG_DATA_HOME", m_folder / "share");
+  std::vector<std::string> events;
+  LinuxShell shell(m_files, m_folder / "state", [&](const std::string& event) { events.push_back(event); });
+  shell.RefreshRecentFolder();
+  EXPECT_THAT(events,
+              ::testing::Contains(::testing::AllOf(::testing::HasSubstr("KDE's record of activities"),
+                                                   ::testing::HasSubstr("LibreOffice's list of recent documents"))));
+}
+
+TEST_F(LinuxShellTest, WhatTheUserExcludesNeverReachesTheRecentFolder) {
+  m_folder.Write("config/dayvane/exclude", "/home/ana/Private\n");
+  const auto bookmark = [](const std::string& path) {
+    return "<bookmark href=\"file://" + path + "\" modified=\"2026-11-20T08:00:00Z\"/>";
+  };
+  m_folder.Write("share/recently-used.xbel",
+                 "<xbel>" + bookmark("/home/ana/Private/Diary.odt") + bookmark("/home/ana/Report.odt") + "</xbel>");
+  const testing::EnvironmentVariable config("XDG_CONFIG_HOME", m_folder / "config");
+  const testing::EnvironmentVariable data("XDG_DATA_HOME", m_folder / "share");
+  LinuxShell shell(m_files, m_folder / "state", [](const std::string&) {});
+  shell.RefreshRecentFolder();
+  EXPECT_TRUE(std::filesystem::exists(m_folder / "state/Recent/Report.odt.lnk"));
+  EXPECT_FALSE(std::filesystem::exists(m_folder / "state/Recent/Diary.odt.lnk"));
+  EXPECT_THAT(testing::ReadFile(m_folder / "state/Recent.state"), ::testing::Not(::testing::HasSubstr("Diary")));
 }
 
 }  // namespace

@@ -66,7 +66,7 @@ DocumentPortal::HostPath DocumentPortal::PathOf(const std::string& id) {
   const auto known = m_answers.find(id);
   if (known != m_answers.end()) return known->second;
   if (m_isSilent) return std::nullopt;
-  const HostPath answer = Ask(id);
+  HostPath answer = Ask(id);
   if (!m_isSilent) m_answers.emplace(id, answer);
   return answer;
 }

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """What Dayvane costs, as ratios: each measurement beside its yardstick, taken in one run on one machine.
 
-    ratios.py build/release/bench/dayvane_bench
+    ratios.py build/release/bench/dayvane_bench build/release/bench/dayvane_linux_bench
 
 Ends with 1 when one of them costs more than it may in each of three runs: whatever else the machine does only adds.
 The files lie below TMPDIR; on a tmpfs no disk disturbs what is compared.
@@ -18,19 +18,26 @@ RATIOS = [
     ("Rebuild_Repository", "Rebuild_Yardstick_ReadLoop", 3),
     ("Tree_RefreshDaily", "Tree_Yardstick_FindFolders", 3),
     ("Sort_ColumnClick", "Sort_Yardstick_StableSort", 4),
+    ("Sources_Unchanged", "Sources_Yardstick_Status", 3),
+    ("Activities_ReadSinceLastLook", "Activities_Yardstick_Rows", 8),
 ]
 
 
 RUNS = 3
+MILLISECONDS = {"ns": 1e-6, "us": 1e-3, "ms": 1.0, "s": 1e3}
 
 
 def measure(names):
-    """Milliseconds of each benchmark that is to be run; None of one that failed."""
+    """Milliseconds of each benchmark that is to be run and did not fail."""
     pattern = "|".join(f"^{name}(/|$)" for name in names)
-    command = [sys.argv[1], "--benchmark_format=json", "--benchmark_filter=" + pattern]
-    run = subprocess.run(command, check=True, capture_output=True, text=True)
-    found = json.loads(run.stdout)["benchmarks"]
-    return {b["name"].split("/")[0]: None if b.get("error_occurred") else b["real_time"] for b in found}
+    times = {}
+    for program in sys.argv[1:]:
+        command = [program, "--benchmark_format=json", "--benchmark_filter=" + pattern]
+        run = subprocess.run(command, check=True, capture_output=True, text=True)
+        for found in json.loads(run.stdout or '{"benchmarks": []}')["benchmarks"]:
+            if not found.get("error_occurred"):
+                times[found["name"].split("/")[0]] = found["real_time"] * MILLISECONDS[found["time_unit"]]
+    return times
 
 
 def too_costly(ratios):
@@ -43,7 +50,7 @@ def too_costly(ratios):
             print(f"{name:28} could not be measured")
             costly.append((name, yardstick, most))
             continue
-        print(f"{name:28} {mine:9.1f} ms / {least:9.1f} ms = {mine / least:5.2f}  (at most {most})")
+        print(f"{name:28} {mine:9.3g} ms / {least:9.3g} ms = {mine / least:5.2f}  (at most {most})")
         if mine / least > most:
             costly.append((name, yardstick, most))
     return costly

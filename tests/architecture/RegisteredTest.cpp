@@ -12,8 +12,9 @@ using ::testing::IsEmpty;
 
 /// A build without a desktop leaves the desktop's tests out on purpose.
 bool IsMeantToRun(const std::string& file) {
-  return DAYVANE_HAS_DESKTOP != 0 || (!file.starts_with("linux/") && !file.starts_with("faults/") &&
-                                      !file.starts_with("session/") && !file.starts_with("scripts/"));
+  return DAYVANE_HAS_DESKTOP != 0 ||
+         (!file.starts_with("linux/") && !file.starts_with("faults/") && !file.starts_with("session/") &&
+          !file.starts_with("programs/") && !file.starts_with("scripts/"));
 }
 
 /// The test files with the ending that are meant to run and that the text does not name.

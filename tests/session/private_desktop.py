@@ -31,9 +31,10 @@ def need(*programs):
 
 
 class PrivateDesktop:
-    def __init__(self, size="1280x1024"):
+    def __init__(self, size="1280x1024", below=None):
+        """`below` is where the scratch user's home is made, if not among the temporary files."""
         self.size = size
-        self.folder = pathlib.Path(tempfile.mkdtemp(prefix="dayvane-"))
+        self.folder = pathlib.Path(tempfile.mkdtemp(prefix="dayvane-", dir=below))
         self.home = self.folder / "ana"
         self.data = self.home / ".local/share"
         self.config = self.home / ".config"

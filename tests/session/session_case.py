@@ -27,7 +27,7 @@ class SessionTest(unittest.TestCase):
     @classmethod
     def arrange(cls):
         """The desktop and the installed program, which does not run yet and has no settings."""
-        cls.desktop = PrivateDesktop()
+        cls.desktop = cls.make_desktop()
         cls.addClassCleanup(cls.desktop.close)
         # Printed always, because ctest shows it only where a test failed.
         cls.addClassCleanup(lambda: print(f"--- the programs of the desktop said:\n{cls.desktop.said()}---"))
@@ -38,6 +38,10 @@ class SessionTest(unittest.TestCase):
         cls.list = RecentList(cls.desktop.data)
         cls.dayvane = Dayvane(cls.desktop, stage)
         cls.user = User(cls.desktop, cls.dayvane)
+
+    @classmethod
+    def make_desktop(cls):
+        return PrivateDesktop()
 
     @classmethod
     def document(cls, name):

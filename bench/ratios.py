@@ -13,7 +13,7 @@ import sys
 
 # What is measured, its yardstick, how many times the yardstick it may take.
 RATIOS = [
-    ("Poll_UnchangedShortcuts", "Poll_Yardstick_ReadLoop", 1.5),
+    ("Poll_UnchangedShortcuts", "Poll_Yardstick_ReadLoop", 2),  # 1.5 on a disk, where reading costs more
     ("FirstFiling_WithFavorites", "FirstFiling_Yardstick_CopyArchive", 3),
     ("Rebuild_Repository", "Rebuild_Yardstick_ReadLoop", 3),
     ("Tree_RefreshDaily", "Tree_Yardstick_FindFolders", 3),

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <algorithm>
 #include <filesystem>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -63,6 +64,25 @@ TEST_F(OddDaysTest, AnOpeningThatWasFiledOnAJourneyIsNotFiledAgainAtHome) {
   const LocalZone zone("Europe/London");
   Tick();
   EXPECT_THAT(Filed(), ElementsAre("2026/November/20/away.odt.lnk", "2026/November/21/home.odt.lnk"));
+}
+
+TEST_F(OddDaysTest, AnOpeningIsFiledOnceAlsoOnAJourneyBetweenTheOutermostZones) {
+  constexpr std::int64_t kHalfPastTen =
+      1795257000;  // UTC on 21 November 2026: the 22nd in the one, the 20th in the other
+  using Zones = std::pair<const char*, const char*>;
+  for (const auto& [first, second] :
+       {Zones("Pacific/Kiritimati", "Etc/GMT+12"), Zones("Etc/GMT+12", "Pacific/Kiritimati")}) {
+    testing::MainWindow user;
+    user.desktop.clock.Set(2026, 11, 22, 23);
+    const LocalZone before(first);
+    testing::SetWritten(user.desktop.OpenDocument("Z:\\home\\ana\\a.odt", "2026-11-21 09:15:00"), kHalfPastTen);
+    user.Load();
+    const LocalZone after(second);
+    user.Tick();
+    const auto filed = fs::recursive_directory_iterator(user.Daily(""));
+    EXPECT_EQ(std::count_if(begin(filed), end(filed), [](const auto& entry) { return entry.is_regular_file(); }), 1)
+        << first;
+  }
 }
 
 TEST_F(OddDaysTest, BothHoursThatAClockSetBackShowsTwiceBelongToTheirDay) {

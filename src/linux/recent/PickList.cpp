@@ -116,10 +116,11 @@ void PickListReader::ReadNode(std::string_view node) {
 }
 
 void PickListReader::KeepTail(std::string_view bytes) {
-  const auto last = bytes.find_last_not_of(" \t\r\n");
-  if (last == std::string_view::npos) return;
-  bytes = bytes.substr(0, last + 1);
-  m_tail += bytes.substr(bytes.size() - std::min(bytes.size(), kEnd.size()));
+  static constexpr std::string_view kBlanks = " \t\r\n";
+  std::string tail;
+  for (auto byte = bytes.rbegin(); byte != bytes.rend() && tail.size() < kEnd.size(); ++byte)
+    if (kBlanks.find(*byte) == std::string_view::npos) tail += *byte;
+  m_tail.append(tail.rbegin(), tail.rend());
   m_tail.erase(0, m_tail.size() - std::min(m_tail.size(), kEnd.size()));
 }
 

@@ -76,6 +76,11 @@ TEST(PickList, ItDoesNotMatterHowTheFileIsCutIntoPieces) {
   for (std::size_t atOnce = 1; atOnce < 200; ++atOnce) EXPECT_EQ(Picks(text, atOnce), Picks(text)) << atOnce;
 }
 
+TEST(PickList, BlanksInTheEndAreTheSameHoweverTheFileIsCut) {
+  const std::string text = "<oor:items>\n" + PickItem("0", "file:///a") + "</oor:\n \nitems>\n\n";
+  for (std::size_t atOnce = 1; atOnce < 20; ++atOnce) EXPECT_EQ(Picks(text, atOnce), Picks(text)) << atOnce;
+}
+
 TEST(PickList, SettingsWithoutAnEndAreNotWhole) {
   const std::string text = Settings(PickItem("0", "file:///a"));
   for (std::size_t length = 0; length < text.size() - 1; ++length)

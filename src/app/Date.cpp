@@ -140,6 +140,10 @@ std::chrono::year_month_day Date::Calendar() const {
   return std::chrono::year_month_day{kDayZero + days{DayNumber()}};
 }
 
+std::chrono::local_days Date::LocalDay() const {
+  return std::chrono::local_days{Calendar()};
+}
+
 Date Date::AddDays(std::int64_t count) const {
   return Date(m_seconds + count * kSecondsPerDay);
 }

@@ -33,6 +33,8 @@ class Date {
   int Minute() const { return SecondOfDay() / 60 % 60; }
   int Second() const { return SecondOfDay() % 60; }
 
+  std::chrono::local_days LocalDay() const;  ///< without the time of day
+
   Date AddDays(std::int64_t count) const;
   Date Midnight() const;
 

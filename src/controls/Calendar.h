@@ -3,6 +3,7 @@
 
 #include <array>
 #include <chrono>
+#include <cstddef>
 #include <optional>
 
 #include "controls/Control.h"
@@ -42,11 +43,19 @@ class Calendar : public Control {
   std::optional<Day> ListedDay() const { return m_listed; }
   void SetListedDay(std::optional<Day> day) { Assign(m_listed, day); }
 
+  /// How many documents a day has, which is asked only where the day is spoken: none as long as nobody can tell.
+  std::size_t Documents(Day day) {
+    std::size_t count = 0;
+    DocumentsWanted.Raise(day, count);
+    return count;
+  }
+
   /// Shows highlights that were set since.
   void Redraw() { Changed.Raise(); }
 
-  Signal<Day, Day> DateChange;             ///< old, new
-  Signal<Day, Day, bool&> WillChangeDate;  ///< old, new, cancel
+  Signal<Day, Day> DateChange;                ///< old, new
+  Signal<Day, Day, bool&> WillChangeDate;     ///< old, new, cancel
+  Signal<Day, std::size_t&> DocumentsWanted;  ///< how many a day has
 
  private:
   Day m_current{std::chrono::days{0}};

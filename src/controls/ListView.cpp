@@ -33,6 +33,11 @@ void ListView::SetColumns(std::vector<ColumnHeader> columns) {
   m_columns = std::move(columns);
 }
 
+bool ListView::HasDesignWidths() const {
+  return std::ranges::all_of(m_columns,
+                             [](const ColumnHeader& column) { return column.width == ColumnHeader::kDesignWidth; });
+}
+
 ListItem& ListView::Add(const std::string& key, std::string text, int icon) {
   auto item = std::make_unique<ListItem>(ListItem{key, std::move(text), icon, {}});
   if (!m_items.emplace(key, item.get()).second) throw Error(kKeyNotUnique, "Key is not unique in the list: " + key);

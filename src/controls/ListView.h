@@ -15,10 +15,16 @@ namespace dayvane::controls {
 
 enum class Alignment { Left = 0, Right = 1 };
 
+/// What a column holds, which tells how much room it wants and where a text too long for it is cut.
+enum class ColumnKind { Short, Name, Path };
+
 struct ColumnHeader {
+  static constexpr double kDesignWidth = 1440;
+
   std::string text;
-  double width = 1440;  ///< twips
+  ColumnKind kind = ColumnKind::Short;
   Alignment alignment = Alignment::Left;
+  double width = kDesignWidth;  ///< twips
 };
 
 /// One row: the text of the first column and those of the others.
@@ -48,6 +54,11 @@ class ListView : public Control, public UpdateTarget {
   const std::vector<ColumnHeader>& Columns() const { return m_columns; }
   void SetColumns(std::vector<ColumnHeader> columns);
   void SetColumnWidth(std::size_t column, double twips) { Assign(m_columns.at(column).width, twips); }
+  bool HasDesignWidths() const;  ///< no column was ever given another width: presenters draw them as wide as they like
+
+  /// What a presenter paints where the rows would be while there are none; empty for nothing.
+  const std::string& EmptyText() const { return m_emptyText; }
+  void SetEmptyText(const std::string& text) { Assign(m_emptyText, text); }
 
   std::size_t Count() const { return m_rows.size(); }
   const ListItem& Row(std::size_t row) const { return *m_rows[row]; }  ///< in the order shown
@@ -111,6 +122,7 @@ class ListView : public Control, public UpdateTarget {
   }
 
   std::vector<ColumnHeader> m_columns;
+  std::string m_emptyText;
   std::vector<std::unique_ptr<ListItem>> m_rows;
   std::unordered_map<std::string, ListItem*> m_items;
   ListItem* m_selected = nullptr;

@@ -12,6 +12,15 @@ namespace dayvane::controls {
 
 class Menu;
 
+/// What an entry that can be checked is drawn with; an entry of a choice is one of several, of which one holds.
+enum class MenuMark { None, Check, Choice };
+
+/// A key that chooses an entry from anywhere in its window; key 0 for none. Codes and masks are those of Keys.h.
+struct MenuKey {
+  int key = 0;
+  int modifiers = 0;
+};
+
 /// One entry of a menu. "&" in a caption marks the access key; the caption "-" is a separator.
 class MenuItem : public Control {
  public:
@@ -21,12 +30,18 @@ class MenuItem : public Control {
   bool IsSeparator() const { return m_caption == "-"; }
   bool Checked() const { return m_checked; }
   void SetChecked(bool checked) { Assign(m_checked, checked); }
-  Menu* Submenu() const { return m_submenu; }  ///< not owned; nullptr for an entry that is chosen
+  MenuMark Mark() const { return m_mark; }
+  void SetMark(MenuMark mark) { Assign(m_mark, mark); }
+  const MenuKey& Key() const { return m_key; }
+  void SetKey(const MenuKey& key) { m_key = key; }  ///< before the menu is presented
+  Menu* Submenu() const { return m_submenu; }       ///< not owned; nullptr for an entry that is chosen
 
  private:
   std::string m_caption;
   Menu* m_submenu;
   bool m_checked = false;
+  MenuMark m_mark = MenuMark::None;
+  MenuKey m_key;
 };
 
 /// A menu as a control array: one event for all its entries, which carry their index.

@@ -15,7 +15,13 @@ TreeNode& TreeView::AddChild(const std::string& parentKey, const std::string& ke
 TreeNode& TreeView::Insert(std::vector<std::unique_ptr<TreeNode>>& siblings, TreeNode* parent, const std::string& key,
                            std::string text, int image) {
   const UpdateScope update(*this);
-  auto node = std::make_unique<TreeNode>(TreeNode{key, std::move(text), image, parent, siblings.size(), {}});
+  auto node = std::make_unique<TreeNode>(TreeNode{.key = key,
+                                                  .text = std::move(text),
+                                                  .image = image,
+                                                  .day = {},
+                                                  .parent = parent,
+                                                  .row = siblings.size(),
+                                                  .children = {}});
   if (!m_nodes.emplace(key, node.get()).second) throw Error(kKeyNotUnique, "Key is not unique in the tree: " + key);
   siblings.push_back(std::move(node));
   return *siblings.back();

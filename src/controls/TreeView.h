@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <chrono>
 #include <memory>
+#include <optional>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -16,7 +18,8 @@ namespace dayvane::controls {
 struct TreeNode {
   std::string key;
   std::string text;
-  int image = 0;  ///< number in the tree's image list
+  int image = 0;                                    ///< number in the tree's image list
+  std::optional<std::chrono::local_days> day = {};  ///< that the node stands for
   TreeNode* parent = nullptr;
   std::size_t row = 0;  ///< place among its parent's children
   std::vector<std::unique_ptr<TreeNode>> children;

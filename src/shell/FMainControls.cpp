@@ -8,6 +8,8 @@ namespace dayvane {
 
 namespace {
 
+using controls::Alignment;
+using controls::ColumnKind;
 using controls::Menu;
 
 static_assert(kFileCaptions.size() == kFileExit + 1 && kViewCaptions.size() == kViewOptions + 1 &&
@@ -48,14 +50,31 @@ FMainControls::FMainControls()
                                                                {kListViewArrangeIcons, &mnuArrangeIconsPopup}})) {
   picFavorites.SetVisible(false);  // One pane at a time, also when the settings name no view that exists.
   BuildLists();
+  MarkMenus();
+  for (const CommandKey& key : kFileKeys) mnuFilePopup[key.item].SetKey({key.key, key.modifiers});
+  for (const CommandKey& key : kViewKeys) mnuViewPopup[key.item].SetKey({key.key, key.modifiers});
   for (const ToolbarRow& row : kToolbarRows) sftToolbar[row.button].SetToolTipText(row.tip);
+}
+
+void FMainControls::MarkMenus() {
+  using controls::MenuMark;
+  for (const int view : {kViewDaily, kViewFavorites}) mnuViewPopup[view].SetMark(MenuMark::Choice);
+  for (int style = kStyleLargeIcons; style <= kStyleDetails; ++style) {
+    mnuViewPopup[kViewLargeIcons + style].SetMark(MenuMark::Choice);
+    mnuArrangeViewPopup[style].SetMark(MenuMark::Choice);
+  }
+  for (Menu* menu : {&mnuViewArrangePopup, &mnuArrangeIconsPopup}) (*menu)[kArrangeAuto].SetMark(MenuMark::Check);
 }
 
 void FMainControls::BuildLists() {
   lvwDaily.SetName("lvwDaily");
-  lvwDaily.SetColumns({{"Name"}, {"Type"}, {"Path"}, {"Modified"}});
+  lvwDaily.SetColumns({{"Name", ColumnKind::Name}, {"Type"}, {"Path", ColumnKind::Path}, {"Modified"}});
   lvwFavorites.SetName("lvwFavorites");
-  lvwFavorites.SetColumns({{"Name"}, {"Type"}, {"Path"}, {"Days Accessed"}, {"Last Accessed"}});
+  lvwFavorites.SetColumns({{"Name", ColumnKind::Name},
+                           {"Type"},
+                           {"Path", ColumnKind::Path},
+                           {"Days Accessed", ColumnKind::Short, Alignment::Right},
+                           {"Last Accessed"}});
   for (const int level : {kRepositoryPicture, kYearPicture, kMonthPicture, kDayPicture})
     imlMain.Add(ResourcePicture(level));
   for (controls::ImageList* images : {&imlLarge, &imlSmall, &imlFavoritesLarge, &imlFavoritesSmall})

@@ -63,6 +63,7 @@ class FMainControls {
 
  private:
   void BuildLists();
+  void MarkMenus();
 };
 
 }  // namespace dayvane

@@ -4,6 +4,7 @@
 #include <array>
 #include <cstddef>
 
+#include "controls/Keys.h"
 #include "resources/MHelpConstants.h"
 #include "resources/MResourceConstants.h"
 
@@ -76,6 +77,18 @@ inline constexpr std::array kListViewCaptions{"&Open", "-", "&View", "-", "Arran
 /// The context menu's submenu of list styles, in their order.
 enum StyleItem : int { kStyleLargeIcons, kStyleSmallIcons, kStyleList, kStyleDetails };
 inline constexpr std::array kStyleCaptions{"Lar&ge Icons", "S&mall Icons", "&List", "&Details"};
+
+/// Keys that everyone tries, for entries of the File and the View menu.
+struct CommandKey {
+  int item;
+  int key;
+  int modifiers;
+};
+inline constexpr std::array kFileKeys{CommandKey{kFileHide, 'W', controls::kCtrlMask},
+                                      CommandKey{kFileExit, 'Q', controls::kCtrlMask}};
+inline constexpr std::array kViewKeys{CommandKey{kViewDaily, '1', controls::kCtrlMask},
+                                      CommandKey{kViewFavorites, '2', controls::kCtrlMask}};
+inline constexpr int kWindowHelpKey = controls::kKeyF1;  ///< presses kHelpButton
 
 enum ToolbarButton : std::size_t {
   kDailyButton,

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "views/CCalendar.h"
 
+#include "app/IgnoreErrors.h"
 #include "app/ReportErrors.h"
 #include "base/Text.h"
 #include "fs/Dir.h"
@@ -15,19 +16,21 @@ Date ToDate(controls::Calendar::Day day) {
   return std::chrono::local_seconds(day);
 }
 
-controls::Calendar::Day ToDay(const Date& date) {
-  return std::chrono::local_days{std::chrono::year{date.Year()} / static_cast<int>(date.Month()) /
-                                 static_cast<int>(date.Day())};
+/// The shortcuts of the day's programs lie beside those of its documents, and bear no extension before their own.
+bool IsOfDocument(std::string_view shortcutFileName) {
+  return shortcutFileName.find('.') != shortcutFileName.rfind('.');
 }
 
 }  // namespace
 
 void CCalendar::SetCalendar(controls::Calendar* calendar) {
   m_calendar = calendar;
-  m_dateChange =
-      calendar == nullptr
-          ? controls::Connection()
-          : calendar->DateChange.ConnectScoped([this](auto, auto newDay) { Calendar_DateChange(ToDate(newDay)); });
+  m_dateChange = {};
+  m_documentsWanted = {};
+  if (calendar == nullptr) return;
+  m_dateChange = calendar->DateChange.ConnectScoped([this](auto, auto newDay) { Calendar_DateChange(ToDate(newDay)); });
+  m_documentsWanted =
+      calendar->DocumentsWanted.ConnectScoped([this](auto day, std::size_t& count) { count = Documents(ToDate(day)); });
 }
 
 Date CCalendar::Value() const {
@@ -36,7 +39,7 @@ Date CCalendar::Value() const {
 
 void CCalendar::SetValue(const Date& date) {
   Assert(!date.IsZero(), ".Value: Invalid date");
-  Demand(m_calendar, ".Value: Calendar is Nothing").SetCurrentDate(ToDay(date));
+  Demand(m_calendar, ".Value: Calendar is Nothing").SetCurrentDate(date.LocalDay());
 }
 
 void CCalendar::HighlightDays(const Date& date) {
@@ -55,9 +58,20 @@ void CCalendar::HighlightDays(const Date& date) {
   m_calendar->Redraw();
 }
 
-void CCalendar::SetListed(const Date& date) {
-  if (m_calendar == nullptr) return;
-  m_calendar->SetListedDay(date.IsZero() ? std::nullopt : std::optional(ToDay(date)));
+std::size_t CCalendar::Documents(const Date& day) const {
+  const auto& dates = m_application.desktop.dates;
+  const std::string folder = DailyPath + "\\" + Format(day, "yyyy", dates) + "\\" + Format(day, "mmmm", dates) + "\\" +
+                             Format(day, "dd", dates);
+  std::size_t count = 0;
+  IgnoreErrors([&] {
+    for (const auto& entry : Dir(m_application.desktop.files, folder + "\\*.lnk", DirKinds::Files))
+      if (IsOfDocument(entry.name)) ++count;
+  });
+  return count;
+}
+
+void CCalendar::SetListed(std::optional<controls::Calendar::Day> day) {
+  if (m_calendar != nullptr) m_calendar->SetListedDay(day);
 }
 
 void CCalendar::Calendar_DateChange(const Date& newDate) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "app/Application.h"
@@ -29,17 +30,19 @@ class CCalendar : private Asserting {
   void HighlightDays(const Date& date);
   void Refresh() { Demand(m_calendar, ".Refresh: Calendar is Nothing").Redraw(); }
 
-  /// Shows which day's documents are listed; the zero date for none.
-  void SetListed(const Date& date);
+  /// Shows which day's documents are listed.
+  void SetListed(std::optional<controls::Calendar::Day> day);
 
   controls::Signal<const Date&> DateChange;  ///< the new date
 
  private:
   void Calendar_DateChange(const Date& newDate);
+  std::size_t Documents(const Date& day) const;
 
   Application& m_application;
   controls::Calendar* m_calendar = nullptr;
   controls::Connection m_dateChange;
+  controls::Connection m_documentsWanted;
   std::string m_month;  ///< of the date shown last
   std::string m_year;
 };

@@ -14,6 +14,7 @@
 #include "fs/Dir.h"
 #include "shell/FMain.h"
 #include "views/DailyTree.h"
+#include "views/EmptyWords.h"
 #include "views/Keys.h"
 
 namespace dayvane {
@@ -68,6 +69,7 @@ void FMain::RefreshDaily() {
   tvwMain.AddRoot(KeyOf(root), ResourceString(kDaily), kRepositoryPicture);
   LoadDailyTreeViewFolder(root, dailytree::kYearLevel);
   if (!nodeKey.empty()) SelectAgain(nodeKey, rowKey);
+  lvwDaily.SetEmptyText(emptywords::OfDay(tvwMain));
   FollowSelection();
 }
 
@@ -97,8 +99,11 @@ void FMain::LoadDailyTreeViewFolder(const std::string& folder, int level) {
   dailytree::Arrange(names, level, m_application.desktop.dates, m_application.monthLanguages);
   for (const std::string& name : names) {
     const std::string path = folder + "\\" + name;
-    tvwMain.AddChild(KeyOf(folder), KeyOf(path), name, level);
-    if (level != dailytree::kDayLevel) LoadDailyTreeViewFolder(path, level + 1);
+    auto& node = tvwMain.AddChild(KeyOf(folder), KeyOf(path), name, level);
+    if (level == dailytree::kDayLevel)
+      IgnoreErrors([&] { node.day = PathToDate(m_application, path).LocalDay(); });  // a folder may have any name
+    else
+      LoadDailyTreeViewFolder(path, level + 1);
   }
 }
 
@@ -129,13 +134,12 @@ void FMain::LoadDailyListView(const controls::TreeNode* node) {
     AddDocument(KeyOf(shortcut.File()), shortcut);
   }
   lvwDaily.SetSorted(lvwDaily.Sorted());
+  lvwDaily.SetEmptyText(emptywords::OfDay(tvwMain));
 }
 
 /// A day without documents can be chosen in the calendar: there it is seen that the list is still of another.
 void FMain::ShowListedDay(const controls::TreeNode* node) {
-  Date day;
-  if (node != nullptr && IsDay(*node)) IgnoreErrors([&] { day = PathToDate(m_application, node->key); });
-  if (m_oCalendar) m_oCalendar->SetListed(day);
+  if (m_oCalendar) m_oCalendar->SetListed(node == nullptr ? std::nullopt : node->day);
 }
 
 void FMain::AddDocument(const std::string& key, const CShortcut& shortcut) {

@@ -5,6 +5,7 @@
 #include "app/IgnoreErrors.h"
 #include "base/Text.h"
 #include "shell/FMain.h"
+#include "views/EmptyWords.h"
 #include "views/FavoritesTable.h"
 #include "views/Keys.h"
 
@@ -60,6 +61,7 @@ void FMain::RefreshFavorites() {
   // By the list's own key and order: icons that were arranged stay so, whatever column was clicked last.
   lvwFavorites.SetSorted(true);
   lvwFavorites.SetSelectedItem(lvwFavorites.Find(selectedKey));
+  lvwFavorites.SetEmptyText(emptywords::OfFavorites(m_favoritesThreshold));
   FollowSelection();
 }
 

@@ -169,7 +169,7 @@ TEST_F(PurgeTest, BeforeTheWindowHasLoadedAPurgeIsLoggedAndReported) {
 
 TEST_F(PurgeTest, BeforeTheWindowHasLoadedTheFavoritesObjectIsMissing) {
   File("2026/November/19", "Z:\\home\\a.odt", "2026-11-19 10:00:00");
-  const controls::TreeNode node{Key("2026\\November\\19"), "19", 4, nullptr, 0, {}};
+  const controls::TreeNode node{Key("2026\\November\\19"), "19", 4, {}, nullptr, 0, {}};
   EXPECT_ANY_THROW(window.PurgeDay(&node));
   EXPECT_THAT(desktop.LogLines("EventLog.txt"), Contains("2\tFMain.PurgeDay: Favorites object is nothing"));
 }

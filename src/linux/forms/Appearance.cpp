@@ -4,7 +4,10 @@
 #include <QApplication>
 #include <QStyle>
 #include <QStyleFactory>
+#include <cmath>
 #include <cstring>
+
+#include "linux/forms/ContrastStyle.h"
 
 namespace dayvane::widgets {
 
@@ -33,6 +36,20 @@ glib::Variant Unwrap(GVariant* boxed) {
 
 bool IsDark(const QColor& background, const QColor& text) {
   return background.lightness() < text.lightness();
+}
+
+QColor Ink(const QPalette& palette, qreal strength) {
+  const QColor base = palette.color(QPalette::Base);
+  const QColor text = palette.color(QPalette::Text);
+  const auto mix = [strength](int background, int ink) {
+    return static_cast<int>(std::lround(background * (1 - strength) + ink * strength));
+  };
+  return {mix(base.red(), text.red()), mix(base.green(), text.green()), mix(base.blue(), text.blue())};
+}
+
+QColor MutedSelection(const QPalette& palette) {
+  constexpr qreal kGrey = 0.18;
+  return Ink(palette, kGrey);
 }
 
 QPalette HighContrastPalette(bool dark) {
@@ -98,7 +115,8 @@ void Appearance::Show() {
   const bool themeIsDark = IsDark(m_usualPalette.color(QPalette::Window), m_usualPalette.color(QPalette::WindowText));
   const bool usual = !m_highContrast && (!m_dark || themeIsDark);
   // Other styles draw parts of their own and would mix light and dark.
-  QApplication::setStyle(QStyleFactory::create(usual ? m_usualStyle : QStringLiteral("Fusion")));
+  QApplication::setStyle(m_highContrast ? new ContrastStyle
+                                        : QStyleFactory::create(usual ? m_usualStyle : QStringLiteral("Fusion")));
   QApplication::setPalette(usual            ? m_usualPalette
                            : m_highContrast ? HighContrastPalette(m_dark || themeIsDark)
                                             : DarkPalette());

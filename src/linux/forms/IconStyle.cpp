@@ -13,14 +13,14 @@ namespace {
 using controls::ListArrange;
 using controls::ListStyle;
 
-constexpr QSize kLargeIcon{32, 32};
+constexpr QSize kLargeIcon{48, 48};
 constexpr QSize kSmallIcon{16, 16};
 constexpr int kLinesBelowIcon = 2;
 constexpr int kPadding = 4;
 constexpr int kCellGap = 4;  ///< between cells
 
 // Cells grow with the user's font, never below these sizes, which suit the default one.
-constexpr QSize kLeastLargeCell{110, 64};
+constexpr QSize kLeastLargeCell{120, 88};
 constexpr QSize kLeastSmallCell{220, 20};
 constexpr int kLettersInLargeCell = 16;
 constexpr int kLettersInSmallCell = 32;

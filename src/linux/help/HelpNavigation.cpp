@@ -19,6 +19,8 @@ HelpNavigation::HelpNavigation() {
   m_tree.setHeaderHidden(true);
   m_found.setAccessibleName(QStringLiteral("Topics found"));
   m_found.setWordWrap(true);
+  m_tree.setItemDelegate(&m_rows);
+  m_found.setItemDelegate(&m_rows);
   m_pages.addWidget(&m_tree);
   m_pages.addWidget(&m_found);
 

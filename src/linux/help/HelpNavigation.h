@@ -9,6 +9,7 @@
 #include <QVBoxLayout>
 
 #include "help/HelpFile.h"
+#include "linux/widgets/RowDelegate.h"
 
 namespace dayvane::help {
 
@@ -41,7 +42,8 @@ class HelpNavigation : public QWidget {
   QHash<QString, QTreeWidgetItem*> m_items;
   QVBoxLayout m_layout{this};
   QLineEdit m_search;
-  QStackedWidget m_pages;  // before what is shown in it, which it would delete
+  QStackedWidget m_pages;       // before what is shown in it, which it would delete
+  widgets::RowDelegate m_rows;  // before the views that it draws
   QTreeWidget m_tree;
   QListWidget m_found;
 };

@@ -5,10 +5,13 @@
 #include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPainter>
+#include <QString>
 #include <functional>
 
 #include "controls/Keys.h"
 #include "linux/widgets/Keys.h"
+#include "linux/widgets/RowDelegate.h"
 
 namespace dayvane::widgets {
 
@@ -32,6 +35,9 @@ class ClassicView : public View {
     View::setDragDropMode(QAbstractItemView::NoDragDrop);
   }
 
+  /// Words painted where the rows would be while there are none.
+  void SetEmptyText(const QString& text) { m_emptyText = text; }
+
   void SetEvents(ViewEvents&& events) { m_events = std::move(events); }
 
   /// Whether a change of the selection now comes from the mouse, which `press` reports.
@@ -41,9 +47,24 @@ class ClassicView : public View {
   void LayOut() { View::executeDelayedItemsLayout(); }
 
  protected:
+  void initViewItemOption(QStyleOptionViewItem* option) const override {
+    View::initViewItemOption(option);
+    MuteWithoutFocus(*option);
+  }
+
   QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index, const QEvent*) const override {
     if (!index.isValid()) return QItemSelectionModel::NoUpdate;
     return QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows;
+  }
+
+  void paintEvent(QPaintEvent* event) override {
+    View::paintEvent(event);
+    if (m_emptyText.isEmpty() || View::model() == nullptr || View::model()->rowCount() > 0) return;
+    constexpr int kMargin = 24;
+    QPainter painter(View::viewport());
+    painter.setPen(View::palette().color(QPalette::PlaceholderText));
+    const QRect room = View::viewport()->rect().adjusted(kMargin, kMargin, -kMargin, -kMargin);
+    painter.drawText(room, Qt::AlignCenter | Qt::TextWordWrap, m_emptyText);
   }
 
   void mousePressEvent(QMouseEvent* event) override {
@@ -105,6 +126,7 @@ class ClassicView : public View {
     if (key != 0 && m_events.keyUp) m_events.keyUp(key, modifiers);
   }
 
+  QString m_emptyText;
   ViewEvents m_events;
   bool m_pressing = false;
   int m_key = 0;

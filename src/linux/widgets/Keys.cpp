@@ -55,6 +55,20 @@ int ClassicModifiers(Qt::KeyboardModifiers modifiers) {
          (modifiers.testFlag(Qt::AltModifier) ? controls::kAltMask : 0);
 }
 
+QKeySequence KeySequenceOf(int classicKey, int classicModifiers) {
+  constexpr int kFunctionKeys = 24;
+  int key = 0;
+  if (IsBetween(classicKey, '0', '9') || IsBetween(classicKey, 'A', 'Z')) key = classicKey;
+  if (IsBetween(classicKey, controls::kKeyF1, controls::kKeyF1 + kFunctionKeys - 1))
+    key = Qt::Key_F1 + classicKey - controls::kKeyF1;
+  if (key == 0) return {};
+  Qt::KeyboardModifiers modifiers;
+  modifiers.setFlag(Qt::ShiftModifier, (classicModifiers & controls::kShiftMask) != 0);
+  modifiers.setFlag(Qt::ControlModifier, (classicModifiers & controls::kCtrlMask) != 0);
+  modifiers.setFlag(Qt::AltModifier, (classicModifiers & controls::kAltMask) != 0);
+  return QKeyCombination(modifiers, static_cast<Qt::Key>(key));
+}
+
 int ClassicButton(Qt::MouseButton button) {
   switch (button) {
     case Qt::LeftButton:

@@ -2,6 +2,7 @@
 #include "linux/widgets/ListModel.h"
 
 #include "linux/files/NativePath.h"
+#include "linux/widgets/RowDelegate.h"
 
 namespace dayvane::widgets {
 
@@ -33,7 +34,9 @@ QVariant ListModel::data(const QModelIndex& index, int role) const {
   const controls::ListItem& item = m_control.Row(static_cast<std::size_t>(index.row()));
   switch (role) {
     case Qt::DisplayRole:
-      return QString::fromStdString(files::ForReading(item.Text(static_cast<std::size_t>(index.column()))));
+      return IsPath(index.column()) ? FromHome(TextOf(item, index.column())) : TextOf(item, index.column());
+    case kWholeTextRole:
+      return IsPath(index.column()) ? QVariant(TextOf(item, index.column())) : QVariant();
     case Qt::DecorationRole:
       return index.column() == 0 ? QVariant(IconOf(item)) : QVariant();
     case Qt::TextAlignmentRole:
@@ -42,6 +45,21 @@ QVariant ListModel::data(const QModelIndex& index, int role) const {
     default:
       return {};
   }
+}
+
+QString ListModel::TextOf(const controls::ListItem& item, int column) {
+  return QString::fromStdString(files::ForReading(item.Text(static_cast<std::size_t>(column))));
+}
+
+QString ListModel::FromHome(const QString& path) const {
+  // The favorites show their folders in lower case.
+  if (m_home.size() < 2 || !path.startsWith(m_home, Qt::CaseInsensitive)) return path;
+  if (path.size() > m_home.size() && path[m_home.size()] != u'/') return path;
+  return u'~' + path.mid(m_home.size());
+}
+
+bool ListModel::IsPath(int column) const {
+  return m_control.Columns()[static_cast<std::size_t>(column)].kind == controls::ColumnKind::Path;
 }
 
 QVariant ListModel::headerData(int section, Qt::Orientation orientation, int role) const {

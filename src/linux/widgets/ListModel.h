@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QAbstractTableModel>
+#include <QDir>
 #include <vector>
 
 #include "controls/ListView.h"
@@ -29,11 +30,15 @@ class ListModel : public QAbstractTableModel {
  private:
   void BeginChange();
   void EndChange();
+  static QString TextOf(const controls::ListItem& item, int column);
+  QString FromHome(const QString& path) const;  ///< with "~" for the user's home folder
+  bool IsPath(int column) const;
   QIcon IconOf(const controls::ListItem& item) const;
   Qt::Alignment AlignmentOf(int column) const;
 
   controls::ListView& m_control;
   const Icons& m_icons;
+  QString m_home = QDir::homePath();
   bool m_changing = false;
   std::vector<controls::Connection> m_connections;
 };

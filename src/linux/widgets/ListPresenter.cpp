@@ -65,8 +65,9 @@ void ListPresenter::ListenToUser() {
     });
   }
   connect(header, &QHeaderView::sectionResized, this, [this](int column, int, int width) {
-    if (!m_showing) m_control.SetColumnWidth(static_cast<std::size_t>(column), ToTwips(width, *this));
+    if (!m_showing) TakeWidths(column, width);
   });
+  connect(header, &QHeaderView::geometriesChanged, this, [this] { ShowWidths(); });
 }
 
 ViewEvents ListPresenter::EventsOf(QAbstractItemView& view) {
@@ -87,14 +88,27 @@ void ListPresenter::showEvent(QShowEvent* event) {
   ScrollToSelection();
 }
 
+void ListPresenter::changeEvent(QEvent* event) {
+  QStackedWidget::changeEvent(event);
+  if (event->type() != QEvent::FontChange && event->type() != QEvent::StyleChange) return;
+  m_fit.Forget();
+  ShowWidths();
+}
+
 void ListPresenter::SetSpokenName(const QString& name) {
   for (QWidget* view : {static_cast<QWidget*>(&m_icons), static_cast<QWidget*>(&m_details)})
     view->setAccessibleName(name);
 }
 
+void ListPresenter::SetSpokenDetail(const QString& detail) {
+  m_spokenDetail = detail;
+  ShowEmptyText();
+}
+
 void ListPresenter::Show() {
   ShowStyle();
   ShowHeader();
+  ShowEmptyText();
   CurrentView().viewport()->update();
 }
 
@@ -112,11 +126,40 @@ void ListPresenter::ShowStyle() {
   ScrollToSelection();
 }
 
-void ListPresenter::ShowHeader() {
+void ListPresenter::ShowEmptyText() {
+  const QString text = QString::fromStdString(m_control.EmptyText());
+  m_icons.SetEmptyText(text);
+  m_details.SetEmptyText(text);
+  for (QWidget* view : {static_cast<QWidget*>(&m_icons), static_cast<QWidget*>(&m_details)})
+    view->setAccessibleDescription(m_control.Count() == 0 && !text.isEmpty() ? (m_spokenDetail + u' ' + text).trimmed()
+                                                                             : m_spokenDetail);
+}
+
+void ListPresenter::ShowWidths() {
   const QScopedValueRollback showing(m_showing, true);
   QHeaderView& header = *m_details.header();
-  for (int column = 0; column < std::min(header.count(), m_model.columnCount()); ++column)
-    header.resizeSection(column, ToPixels(m_control.Columns()[static_cast<std::size_t>(column)].width, *this));
+  const int count = std::min(header.count(), m_model.columnCount());
+  const std::vector<int> fitting = m_control.HasDesignWidths() ? m_fit.Widths() : std::vector<int>();
+  for (int column = 0; column < count; ++column) {
+    const auto index = static_cast<std::size_t>(column);
+    header.resizeSection(column, fitting.empty() ? ToPixels(m_control.Columns()[index].width, *this) : fitting[index]);
+  }
+}
+
+void ListPresenter::TakeWidths(int column, int width) {
+  std::vector<int> shown;
+  const bool all = m_control.HasDesignWidths();
+  for (int other = 0; other < m_model.columnCount(); ++other) shown.push_back(m_details.header()->sectionSize(other));
+  for (int other = 0; other < m_model.columnCount(); ++other)
+    if (all && other != column)
+      m_control.SetColumnWidth(static_cast<std::size_t>(other), ToTwips(shown[static_cast<std::size_t>(other)], *this));
+  m_control.SetColumnWidth(static_cast<std::size_t>(column), ToTwips(width, *this));
+}
+
+void ListPresenter::ShowHeader() {
+  ShowWidths();
+  const QScopedValueRollback showing(m_showing, true);
+  QHeaderView& header = *m_details.header();
   const bool ascending = m_control.Order() == controls::SortOrder::Ascending;
   header.setSortIndicatorShown(m_control.Sorted());
   const int sortColumn = m_control.SortKey() < m_control.Columns().size() ? static_cast<int>(m_control.SortKey()) : -1;
@@ -155,7 +198,9 @@ void ListPresenter::RememberScroll() {
 }
 
 void ListPresenter::RestoreScroll() {
+  m_fit.Forget();
   ShowHeader();
+  ShowEmptyText();
   if (m_control.Count() == 0) return;
   LayOut();
   m_scroll.Restore(CurrentView(), m_control.Find(m_scroll.KnownKey()) != nullptr);

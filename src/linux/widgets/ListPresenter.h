@@ -10,7 +10,9 @@
 #include "controls/Deferred.h"
 #include "controls/ListView.h"
 #include "linux/widgets/ClassicView.h"
+#include "linux/widgets/ColumnFit.h"
 #include "linux/widgets/ControlLink.h"
+#include "linux/widgets/DetailsTable.h"
 #include "linux/widgets/ListModel.h"
 #include "linux/widgets/RowDelegate.h"
 #include "linux/widgets/ScrollMemory.h"
@@ -23,7 +25,9 @@ class ListPresenter : public QStackedWidget {
  public:
   ListPresenter(controls::ListView& control, const Icons& icons, QWidget* parent = nullptr);
 
-  void SetSpokenName(const QString& name);  ///< for screen readers
+  // For screen readers.
+  void SetSpokenName(const QString& name);
+  void SetSpokenDetail(const QString& detail);
 
   QListView& IconView() { return m_icons; }
   QTreeView& DetailsView() { return m_details; }
@@ -31,6 +35,7 @@ class ListPresenter : public QStackedWidget {
 
  protected:
   void showEvent(QShowEvent* event) override;
+  void changeEvent(QEvent* event) override;
 
  private:
   void SetUpViews();
@@ -40,6 +45,9 @@ class ListPresenter : public QStackedWidget {
   void Show();
   void ShowStyle();
   void ShowHeader();
+  void ShowWidths();
+  void ShowEmptyText();
+  void TakeWidths(int column, int width);  ///< the user's: from now on every column has a width of its own
   void ShowSelection();
   void ScrollToSelection();
   void LayOut();  ///< rows that are not laid out cannot be scrolled
@@ -58,10 +66,12 @@ class ListPresenter : public QStackedWidget {
   RowDelegate m_rowDelegate;
   RowDelegate m_cellDelegate;
   ClassicView<QListView> m_icons;
-  ClassicView<QTreeView> m_details;
+  DetailsTable m_details;
+  ColumnFit m_fit{m_control, m_details};
   ScrollMemory m_scroll;
   std::optional<controls::ListStyle> m_shownStyle;
   std::optional<controls::ListArrange> m_shownArrange;
+  QString m_spokenDetail;
   controls::Deferred m_deferred;
   bool m_showing = false;  ///< what changes in the widgets is not the user's doing
   ControlLink m_link;

@@ -1,6 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "linux/widgets/MenuPresenter.h"
 
+#include <QStyleOptionMenuItem>
+#include <algorithm>
+
+#include "linux/widgets/Keys.h"
+
 namespace dayvane::widgets {
 
 MenuPresenter::MenuPresenter(controls::Menu& menu, QWidget* parent)
@@ -12,6 +17,14 @@ MenuPresenter::MenuPresenter(controls::Menu& menu, QWidget* parent)
   };
   m_connections.push_back(menu.Changed.ConnectScoped(showMenu));
   showMenu();
+}
+
+void MenuPresenter::initStyleOption(QStyleOptionMenuItem* option, const QAction* action) const {
+  QMenu::initStyleOption(option, action);
+  const auto shown = std::ranges::find(m_shown, action);
+  if (shown == m_shown.end()) return;
+  const auto mark = m_menu[static_cast<int>(shown - m_shown.begin())].Mark();
+  if (mark == controls::MenuMark::Choice) option->checkType = QStyleOptionMenuItem::Exclusive;
 }
 
 void MenuPresenter::SetDefaultItem(int index) {
@@ -40,6 +53,7 @@ void MenuPresenter::AddItem(int index) {
     m_shown.back()->setSeparator(true);
   else
     m_shown.back()->setText(QString::fromStdString(item.Caption()));
+  m_shown.back()->setShortcut(KeySequenceOf(item.Key().key, item.Key().modifiers));
   addAction(m_shown.back());
   m_connections.push_back(item.Changed.ConnectScoped([this, index] { ShowItem(index); }));
   ShowItem(index);
@@ -50,8 +64,8 @@ void MenuPresenter::ShowItem(int index) {
   QAction& action = *m_shown[static_cast<std::size_t>(index)];
   action.setEnabled(item.Enabled());
   action.setVisible(item.Visible());
-  // An item that was checked once is one of those that can be, which a screen reader says.
-  if (item.Checked()) action.setCheckable(true);
+  // Also while it is not checked, which a screen reader says.
+  action.setCheckable(item.Mark() != controls::MenuMark::None);
   action.setChecked(item.Checked());
 }
 

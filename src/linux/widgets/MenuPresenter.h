@@ -22,6 +22,9 @@ class MenuPresenter : public QMenu {
   /// The first item that is visible; -1 when there is none.
   int FirstVisibleItem() const;
 
+ protected:
+  void initStyleOption(QStyleOptionMenuItem* option, const QAction* action) const override;
+
  private:
   void AddItem(int index);
   void ShowItem(int index);

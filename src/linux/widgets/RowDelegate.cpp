@@ -5,27 +5,55 @@
 #include <QHelpEvent>
 #include <QToolTip>
 
+#include "linux/forms/Appearance.h"
+
 namespace dayvane::widgets {
 
 namespace {
 
-constexpr int kRoom = 4;  ///< logical pixels
+// Logical pixels.
+constexpr int kRoom = 4;
+constexpr int kRoomAfterNumber = 8;
 
 }  // namespace
+
+void MuteWithoutFocus(QStyleOptionViewItem& option) {
+  if (option.widget == nullptr || option.widget->hasFocus()) return;
+  const QPalette shown = option.palette;
+  option.palette.setColor(QPalette::All, QPalette::Highlight, MutedSelection(shown));
+  option.palette.setColor(QPalette::All, QPalette::HighlightedText, shown.color(QPalette::Text));
+}
+
+void RowDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const {
+  QStyledItemDelegate::initStyleOption(option, index);
+  if (index.data(kWholeTextRole).isValid()) option->textElideMode = Qt::ElideMiddle;
+  // Room at the end of a number, which would touch the text of the next column.
+  if (!option->displayAlignment.testFlag(Qt::AlignRight)) return;
+  option->features |= QStyleOptionViewItem::HasDecoration;
+  option->decorationPosition = QStyleOptionViewItem::Right;
+  option->decorationSize = QSize(kRoomAfterNumber, 1);
+}
 
 QSize RowDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
   return m_cell.isValid() ? m_cell : QStyledItemDelegate::sizeHint(option, index) + QSize(0, kRoom);
 }
 
-bool RowDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
-                            const QModelIndex& index) {
-  if (event->type() != QEvent::ToolTip || !index.isValid()) return false;
+QString RowDelegate::TipFor(const QStyleOptionViewItem& option, const QModelIndex& index) const {
+  const QString whole = index.data(kWholeTextRole).toString();
+  const QString shown = index.data().toString();
+  if (!whole.isEmpty() && whole != shown) return whole;
+  if (const QString tip = index.data(Qt::ToolTipRole).toString(); !tip.isEmpty()) return tip;
   QStyleOptionViewItem wide = option;
   wide.features.setFlag(QStyleOptionViewItem::WrapText, false);
   const bool fits = QStyledItemDelegate::sizeHint(wide, index).width() <= option.rect.width();
+  return fits ? QString() : shown;
+}
+
+bool RowDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
+                            const QModelIndex& index) {
+  if (event->type() != QEvent::ToolTip || !index.isValid()) return false;
   // Plain text: a name may look like markup.
-  const QString text = fits ? QString() : index.data().toString().toHtmlEscaped();
-  QToolTip::showText(event->globalPos(), text, view->viewport(), option.rect);
+  QToolTip::showText(event->globalPos(), TipFor(option, index).toHtmlEscaped(), view->viewport(), option.rect);
   return true;
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "linux/widgets/ToolbarPresenter.h"
 
+#include <QPainter>
 #include <QStyle>
 
 #include "linux/widgets/Lengths.h"
@@ -17,6 +18,22 @@ constexpr int kRuleHeight = 2;
 
 bool BeginsGroup(const ToolbarRow& row) {
   return row.button != 0 && row.group != kToolbarRows[row.button - 1].group;
+}
+
+/// With a picture for a disabled button that is plainly weaker, on light and dark windows alike: styles turn pictures
+/// grey, and on a dark window grey looks brighter than the picture did.
+QIcon WithDimmedPicture(QIcon icon, int size, qreal pixels) {
+  constexpr qreal kOpacity = 0.3;
+  const QPixmap usual = icon.pixmap(QSize(size, size), pixels);
+  QPixmap dimmed(usual.size());
+  dimmed.setDevicePixelRatio(usual.devicePixelRatio());
+  dimmed.fill(Qt::transparent);
+  QPainter painter(&dimmed);
+  painter.setOpacity(kOpacity);
+  painter.drawPixmap(0, 0, usual);
+  painter.end();
+  icon.addPixmap(dimmed, QIcon::Disabled);
+  return icon;
 }
 
 }  // namespace
@@ -45,7 +62,7 @@ void ToolbarPresenter::AddButton(controls::Button& button, const ToolbarRow& row
   if (*row.tip == '\0') return widget.hide();
   const int size = style()->pixelMetric(QStyle::PM_ToolBarIconSize, nullptr, this);
   widget.setIconSize({size, size});
-  widget.setIcon(PictureIcon(row.picture));
+  widget.setIcon(WithDimmedPicture(PictureIcon(row.picture), size, devicePixelRatioF()));
   widget.setAutoRaise(true);
   widget.setFocusPolicy(Qt::TabFocus);
   m_layout.addWidget(&widget);

@@ -1,11 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include <QAbstractItemModelTester>
 #include <QAccessible>
+#include <QDir>
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QScrollBar>
 #include <QTest>
+#include <QToolTip>
 #include <gmock/gmock.h>
 
+#include "base/Text.h"
 #include "linux/widgets/Lengths.h"
 #include "linux/widgets/ListPresenter.h"
 
@@ -103,8 +107,80 @@ TEST_F(ListPresenterTest, EveryCellShowsTheControlsText) {
   EXPECT_EQ(model.headerData(3, Qt::Horizontal).toString(), "Modified");
 }
 
+TEST_F(ListPresenterTest, APathInTheUsersHomeIsShort) {
+  m_control.SetColumns({{"Name"}, {"Path", controls::ColumnKind::Path}});
+  const std::string home = QDir::homePath().toStdString();
+  const std::vector<std::string> paths{
+      home, home + "/Documents", text::ToLower(home) + "/documents", home + "by/Documents", "/srv" + home, home + "/"};
+  for (const std::string& path : paths) m_control.Add(path + "#", "Report.odt", 1).subItems = {path};
+
+  QStringList shown;
+  const QAbstractItemModel& model = *Present().DetailsView().model();
+  for (int row = 0; row < model.rowCount(); ++row) shown.push_back(model.index(row, 1).data().toString());
+
+  EXPECT_THAT(shown, ElementsAre("~", "~/Documents", "~/documents", QString::fromStdString(paths[3]),
+                                 QString::fromStdString(paths[4]), "~/"));
+}
+
+TEST_F(ListPresenterTest, TheTipTellsThePathInFull) {
+  m_control.SetColumns({{"Name"}, {"Path", controls::ColumnKind::Path}});
+  const QString path = QDir::homePath() + "/Documents";
+  m_control.Add("K1", "Report.odt", 1).subItems = {path.toStdString()};
+  QTreeView& rows = Present().DetailsView();
+
+  const QPoint at = rows.visualRect(rows.model()->index(0, 1)).center();
+  QHelpEvent event(QEvent::ToolTip, at, rows.viewport()->mapToGlobal(at));
+  QCoreApplication::sendEvent(rows.viewport(), &event);
+
+  EXPECT_EQ(QToolTip::text(), path);
+  QToolTip::hideText();
+}
+
+TEST_F(ListPresenterTest, AListWithoutRowsSaysWhy) {
+  ListPresenter& presenter = Present();
+  const QImage silent = presenter.grab().toImage();
+
+  m_control.SetEmptyText("Nothing is on record yet.");
+  EXPECT_NE(presenter.grab().toImage(), silent);
+  EXPECT_EQ(presenter.DetailsView().accessibleDescription(), "Nothing is on record yet.");
+
+  m_control.SetView(ListStyle::LargeIcons);
+  const QImage words = presenter.grab().toImage();
+  m_control.SetEmptyText("");
+  EXPECT_NE(presenter.grab().toImage(), words);
+}
+
+TEST_F(ListPresenterTest, WordsAreOnlyForAListWithoutRows) {
+  Fill(1);
+  ListPresenter& presenter = Present();
+  const QImage rows = presenter.grab().toImage();
+
+  m_control.SetEmptyText("Nothing is on record yet.");
+
+  EXPECT_EQ(presenter.grab().toImage(), rows);
+  EXPECT_EQ(presenter.DetailsView().accessibleDescription(), "");
+}
+
+TEST_F(ListPresenterTest, TheSelectionHasItsColourWhereTheKeyboardIsAndIsGreyElsewhere) {
+  Fill(1);
+  m_control.SetSelectedItem(&m_control.Item("K0"));
+  ListPresenter& presenter = Present();
+  QTreeView& rows = presenter.DetailsView();
+  const auto colour = [&] {
+    return rows.viewport()->grab().toImage().pixelColor(rows.visualRect(rows.model()->index(0, 0)).topRight() +
+                                                        QPoint(-2, 2));
+  };
+  rows.setFocus();
+  const QColor focused = colour();
+
+  rows.clearFocus();
+
+  EXPECT_NE(colour(), focused);
+  EXPECT_NE(colour(), rows.palette().color(QPalette::Base));
+}
+
 TEST_F(ListPresenterTest, AColumnOfNumbersStandsToTheRight) {
-  m_control.SetColumns({{"Name"}, {"Days", 1440, controls::Alignment::Right}});
+  m_control.SetColumns({{"Name"}, {"Days", controls::ColumnKind::Short, controls::Alignment::Right}});
   Fill(1);
 
   const QModelIndex cell = Present().DetailsView().model()->index(0, 1);

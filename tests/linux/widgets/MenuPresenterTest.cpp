@@ -2,6 +2,7 @@
 #include <QCoreApplication>
 #include <gmock/gmock.h>
 
+#include "controls/Keys.h"
 #include "linux/widgets/MenuPresenter.h"
 
 namespace dayvane::widgets {
@@ -13,6 +14,7 @@ using ::testing::IsEmpty;
 class MenuPresenterTest : public ::testing::Test {
  protected:
   MenuPresenterTest() {
+    m_menu[0].SetMark(controls::MenuMark::Choice);
     m_menu.Click.Connect([this](int index) { m_chosen.push_back(index); });
   }
 
@@ -23,6 +25,7 @@ class MenuPresenterTest : public ::testing::Test {
 
   controls::Menu m_arrange{"", {{"by &Name"}, {"by &Type"}}};
   controls::Menu m_menu{"&View", {{"D&aily"}, {"-"}, {"Arrange &Icons", &m_arrange}, {"&Options"}}};
+  controls::Menu m_keys{"&Dayvane", {{"S&uspend"}, {"&Hide"}}};
   MenuPresenter m_presenter{m_menu};
   std::vector<int> m_chosen;
 };
@@ -80,6 +83,29 @@ TEST_F(MenuPresenterTest, ACheckMarkIsTheProgramsToSet) {
   Trigger(0);
 
   EXPECT_TRUE(m_presenter.actions().at(0)->isChecked());
+}
+
+TEST_F(MenuPresenterTest, AnEntryOfAChoiceIsOneAlsoWhileItIsNotChosen) {
+  EXPECT_TRUE(m_presenter.actions().at(0)->isCheckable());
+  EXPECT_FALSE(m_presenter.actions().at(0)->isChecked());
+  EXPECT_FALSE(m_presenter.actions().at(3)->isCheckable());
+}
+
+TEST_F(MenuPresenterTest, AnEntryOfAChoiceIsDrawnAsOneOfSeveral) {
+  m_menu[0].SetChecked(true);
+  const QImage choice = m_presenter.grab().toImage();
+
+  m_menu[0].SetMark(controls::MenuMark::Check);
+
+  EXPECT_NE(m_presenter.grab().toImage(), choice);
+}
+
+TEST_F(MenuPresenterTest, TheKeyOfAnEntryStandsBesideItAndChoosesIt) {
+  m_keys[1].SetKey({'W', controls::kCtrlMask});
+  MenuPresenter presenter(m_keys);
+
+  EXPECT_EQ(presenter.actions().at(1)->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_W));
+  EXPECT_TRUE(presenter.actions().at(0)->shortcut().isEmpty());
 }
 
 TEST_F(MenuPresenterTest, TheDefaultItemIsMarked) {

@@ -53,6 +53,20 @@ TEST_F(ToolbarPresenterTest, ButtonsAreReachedByTheKeyboard) {
   EXPECT_EQ(presses, 1);
 }
 
+TEST_F(ToolbarPresenterTest, ADisabledPictureIsWeakerThanAnEnabledOneOnADarkWindowToo) {
+  const QIcon icon = m_presenter->ButtonAt(kFindButton).icon();
+  const auto strength = [&](QIcon::Mode mode) {
+    const QImage picture = icon.pixmap(m_presenter->ButtonAt(kFindButton).iconSize(), mode).toImage();
+    double sum = 0;
+    for (int y = 0; y < picture.height(); ++y)
+      for (int x = 0; x < picture.width(); ++x) sum += picture.pixelColor(x, y).alphaF();
+    return sum;
+  };
+
+  EXPECT_GT(strength(QIcon::Disabled), 0);
+  EXPECT_LT(strength(QIcon::Disabled), strength(QIcon::Normal) / 2);
+}
+
 TEST_F(ToolbarPresenterTest, ADisabledButtonIsGreyed) {
   m_buttons[kDailyButton].SetEnabled(false);
 

@@ -11,8 +11,8 @@
 #include <glib.h>
 
 #include "controls/Deferred.h"
-#include "linux/files/NativePath.h"
 #include "linux/forms/FormPresenter.h"
+#include "linux/forms/MessageBox.h"
 #include "linux/widgets/Lengths.h"
 #include "linux/widgets/Pictures.h"
 #include "resources/MResourceConstants.h"
@@ -48,22 +48,6 @@ void WaitUntilPainted(QWidget& shown) {
   QCoreApplication::processEvents();
 }
 
-QMessageBox::Icon IconOf(const Message& message) {
-  switch (message.icon) {
-    case platform::MessageIcon::Information:
-      return QMessageBox::Information;
-    case platform::MessageIcon::Question:
-      return QMessageBox::Question;
-    case platform::MessageIcon::None:
-      break;
-  }
-  return QMessageBox::NoIcon;
-}
-
-QString TextOf(const Message& message) {
-  return QString::fromStdString(files::ForReading(message.text)).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
-}
-
 }  // namespace
 
 void LinuxWindowing::Register(FormPresenter& presenter) {
@@ -82,11 +66,8 @@ void LinuxWindowing::EndSession() {
 MessageAnswer LinuxWindowing::ShowMessage(const Message& message) {
   const bool question = message.buttons == platform::MessageButtons::YesNo;
   if (m_sessionEnds) return question ? MessageAnswer::No : MessageAnswer::Ok;
-  const QMessageBox::StandardButtons buttons = question ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok;
-  QMessageBox box(IconOf(message), QString::fromStdString(message.title), TextOf(message), buttons, OwnerOfBox());
-  box.setTextFormat(Qt::PlainText);  // a document's name may look like markup
-  if (question) box.setDefaultButton(QMessageBox::Yes);
-  if (question) box.setEscapeButton(QMessageBox::No);
+  MessageBox box(message, OwnerOfBox());
+  if (const QWidget* splash = ShownSplash()) box.PlaceBelow(*splash);
   const ArrowPointer arrow;
   const int answer = box.exec();
   if (!question) return MessageAnswer::Ok;
@@ -112,6 +93,8 @@ void LinuxWindowing::ShowAbout(const platform::About& about) {
               paragraph(about.version) + paragraph(about.copyright) + paragraph(about.warning) +
               paragraph("Built with " + libraries.toStdString()) +
               QStringLiteral("<p><a href=\"%1\">%1</a></p>").arg(QString::fromStdString(about.homePage)));
+  box.setStandardButtons(QMessageBox::Ok);
+  box.button(QMessageBox::Ok)->setIcon({});
   box.exec();
 }
 

@@ -21,6 +21,12 @@ enum PictureId : int {
 
   kDefaultDocumentPicture = 110,  ///< a document whose own icon cannot be had
 
+  // Of messages, and of the status bar while capture is suspended.
+  kInformationPicture = 120,
+  kQuestionPicture = 121,
+  kWarningPicture = 122,
+  kSuspendedPicture = 123,
+
   // The toolbar's buttons.
   kDailyViewPicture = 200,
   kFavoritesViewPicture = 201,

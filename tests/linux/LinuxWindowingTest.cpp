@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <QAbstractButton>
 #include <QApplication>
 #include <QLabel>
 #include <QMessageBox>
@@ -10,6 +11,8 @@
 #include "controls/Deferred.h"
 #include "linux/LinuxWindowing.h"
 #include "linux/forms/FormPresenter.h"
+#include "linux/widgets/Pictures.h"
+#include "resources/MResourceConstants.h"
 
 namespace dayvane::widgets {
 namespace {
@@ -44,11 +47,11 @@ class LinuxWindowingTest : public ::testing::Test {
 TEST_F(LinuxWindowingTest, AMessageShowsItsLinesIconAndTitle) {
   QString text;
   QString title;
-  QMessageBox::Icon icon{};
+  QImage picture;
   WhenAsked([&](QMessageBox& box) {
     text = box.text();
     title = box.windowTitle();
-    icon = box.icon();
+    picture = box.iconPixmap().toImage();
     box.accept();
   });
 
@@ -57,7 +60,39 @@ TEST_F(LinuxWindowingTest, AMessageShowsItsLinesIconAndTitle) {
   EXPECT_EQ(answer, MessageAnswer::Ok);
   EXPECT_EQ(text, "One\nTwo");
   EXPECT_EQ(title, "Dayvane");
-  EXPECT_EQ(icon, QMessageBox::Information);
+  EXPECT_EQ(picture, PictureIcon(kInformationPicture).pixmap(48).toImage());
+}
+
+TEST_F(LinuxWindowingTest, AQuestionHasAPictureOfItsOwnAndPlainButtons) {
+  QImage picture;
+  bool hasPictures = false;
+  WhenAsked([&](QMessageBox& box) {
+    picture = box.iconPixmap().toImage();
+    for (const QAbstractButton* button : box.buttons()) hasPictures = hasPictures || !button->icon().isNull();
+    box.accept();
+  });
+
+  m_windowing.ShowMessage({"Really?", "Dayvane", MessageButtons::YesNo, MessageIcon::Question});
+
+  EXPECT_EQ(picture, PictureIcon(kQuestionPicture).pixmap(48).toImage());
+  EXPECT_FALSE(hasPictures);
+}
+
+TEST_F(LinuxWindowingTest, TheNameOfADocumentIsNotBrokenOverTwoLines) {
+  const QString path = QStringLiteral("/home/ana/Documents/Harbour/Soil survey of the old quay with maps.pdf");
+  int room = 0;
+  int wanted = 0;
+  WhenAsked([&](QMessageBox& box) {
+    const auto* label = box.findChild<QLabel*>("qt_msgbox_label");
+    room = label->width();
+    wanted = label->fontMetrics().horizontalAdvance(QStringLiteral("The document ") + path);
+    box.accept();
+  });
+
+  const std::string document = "The document " + path.toStdString();
+  m_windowing.ShowMessage({document + "\r\nwas not found.", "Dayvane", MessageButtons::YesNo, MessageIcon::Question});
+
+  EXPECT_GE(room, wanted);
 }
 
 TEST_F(LinuxWindowingTest, AQuestionNamesADocumentAsItsUserDoes) {

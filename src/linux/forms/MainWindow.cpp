@@ -3,11 +3,15 @@
 
 #include <QEvent>
 #include <QMenuBar>
+#include <QShortcut>
 #include <QToolBar>
+#include <QVBoxLayout>
 #include <algorithm>
 #include <utility>
 
 #include "linux/forms/ScreenFit.h"
+#include "linux/widgets/DayWords.h"
+#include "linux/widgets/Keys.h"
 #include "linux/widgets/Lengths.h"
 #include "linux/widgets/Pictures.h"
 #include "resources/MResourceConstants.h"
@@ -19,7 +23,9 @@ namespace {
 
 // Logical pixels.
 constexpr int kPaneMargin = 1;
-constexpr int kSplitterWidth = 4;
+constexpr int kRoom = 6;  ///< beside the margin of the panes
+constexpr int kSplitterWidth = 7;
+constexpr int kHeadingRoom = 4;  ///< above and below the heading, and before it
 constexpr int kLeastTreeHeight = 80;
 constexpr int kLeastListWidth = 220;
 constexpr QSize kUsualSize{900, 600};
@@ -48,18 +54,26 @@ MainWindow::MainWindow(FMainControls& main, const Icons& icons, const platform::
       m_statusBar(main.sbrMain),
       m_timer(main.tmrMain),
       m_form(main.form, *this, m_client) {
-  setWindowIcon(PictureIcon(kNormalIcon));
   BuildMenusAndToolbar();
   BuildClient();
+  BuildStatus();
   NameForScreenReaders();
   Design();
   DesignForm();
   m_connections.push_back(main.form.Resize.ConnectScoped([this] { LayOut(); }));
   m_connections.push_back(main.picFavorites.Changed.ConnectScoped([this] { FocusWhenViewChanges(); }));
+  m_connections.push_back(main.tvwMain.SelectionChanged.ConnectScoped([this] { ShowHeading(); }));
+  m_connections.push_back(main.tvwMain.ContentsChanged.ConnectScoped([this] { ShowHeading(); }));
+  m_connections.push_back(main.tryMain.Changed.ConnectScoped([this] { ShowSuspended(); }));
+  ShowHeading();
+  ShowSuspended();
 }
 
 void MainWindow::BuildClient() {
-  setCentralWidget(&m_client);
+  setCentralWidget(&m_frame);
+  auto* room = new QVBoxLayout(&m_frame);
+  room->setContentsMargins(kRoom, kRoom, kRoom, 0);
+  room->addWidget(&m_client);
   BuildDailyPane();
   m_favorites.Add(m_main.lvwFavorites, m_favoritesList);
   m_placement.Add(m_main.picDaily, m_daily);
@@ -73,6 +87,18 @@ void MainWindow::BuildMenusAndToolbar() {
   strip->setMovable(false);
   strip->setContextMenuPolicy(Qt::PreventContextMenu);
   strip->addWidget(&m_toolbar);
+  auto* help = new QShortcut(KeySequenceOf(kWindowHelpKey, 0), this);
+  connect(help, &QShortcut::activated, this,
+          [this] { m_deferred.AfterWorkAndQuestions([this] { m_main.sftToolbar[kHelpButton].Press(); }); });
+}
+
+void MainWindow::BuildStatus() {
+  constexpr int kPictureSize = 16;
+  const QString words = QStringLiteral("Suspended: nothing is recorded until you choose Resume.");
+  m_suspended.setPixmap(PictureIcon(kSuspendedPicture).pixmap(QSize(kPictureSize, kPictureSize), devicePixelRatioF()));
+  m_suspended.setToolTip(words);
+  m_suspended.setAccessibleName(words);
+  m_statusBar.addPermanentWidget(&m_suspended);
 }
 
 void MainWindow::BuildDailyPane() {
@@ -80,6 +106,8 @@ void MainWindow::BuildDailyPane() {
   m_daily.Add(m_main.tvwMain, m_tree);
   m_daily.Add(m_main.lvwDaily, m_dailyList);
   m_splitter.setParent(&m_daily);
+  m_heading.setParent(&m_daily);
+  m_heading.setTextFormat(Qt::PlainText);
 }
 
 void MainWindow::NameForScreenReaders() {
@@ -90,6 +118,9 @@ void MainWindow::NameForScreenReaders() {
 }
 
 void MainWindow::Design() {
+  QFont bold = font();
+  bold.setBold(true);
+  m_heading.setFont(bold);
   const int statusHeight = m_statusBar.sizeHint().height();
   m_main.sbrMain.Move(m_main.sbrMain.Left(), m_main.sbrMain.Top(), m_main.sbrMain.Width(),
                       ToTwips(statusHeight, *this));
@@ -107,7 +138,23 @@ void MainWindow::DesignDailyPane() {
   MoveControl(m_main.calMain, {0, 0, left, calendar.height()}, *this);
   m_main.tvwMain.Move(0, ToTwips(calendar.height() + kSplitterWidth, *this), ToTwips(left, *this),
                       m_main.tvwMain.Height());
-  PutControl(m_main.lvwDaily, {left + kSplitterWidth, 0}, *this);
+  PutControl(m_main.lvwDaily, {left + kSplitterWidth, HeadingHeight()}, *this);
+}
+
+int MainWindow::HeadingHeight() const {
+  return m_heading.fontMetrics().height() + 2 * kHeadingRoom;
+}
+
+void MainWindow::ShowHeading() {
+  const QString words = NodeWords(m_main.tvwMain.SelectedItem());
+  m_heading.setText(words);
+  m_dailyList.SetSpokenDetail(words);
+}
+
+void MainWindow::ShowSuspended() {
+  const bool suspended = m_main.tryMain.Picture() == kSuspendedIcon;
+  m_suspended.setVisible(suspended);
+  setWindowIcon(PictureIcon(suspended ? kSuspendedIcon : kNormalIcon));
 }
 
 void MainWindow::SplitDailyPane(int left) {
@@ -135,6 +182,8 @@ void MainWindow::LayOut() {
   m_placement.PlaceAll();
   MoveControl(m_main.sbrMain, {0, m_client.height() - statusHeight, m_client.width(), statusHeight}, *this);
   m_splitter.setGeometry(ToPixels(m_main.lvwDaily.Left(), *this) - kSplitterWidth, 0, kSplitterWidth, m_daily.height());
+  const int listLeft = ToPixels(m_main.lvwDaily.Left(), *this) + kHeadingRoom;
+  m_heading.setGeometry(listLeft, 0, m_daily.width() - listLeft, HeadingHeight());
 }
 
 void MainWindow::FocusWhenViewChanges() {

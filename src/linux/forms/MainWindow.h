@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QLabel>
 #include <QMainWindow>
 #include <vector>
 
@@ -39,14 +40,18 @@ class MainWindow : public QMainWindow {
   void BuildClient();
   void BuildDailyPane();
   void BuildMenusAndToolbar();
+  void BuildStatus();
   void NameForScreenReaders();
   void Design();
   void DesignAnew();  ///< for another style or font
   void DesignDailyPane();
+  int HeadingHeight() const;
   void SplitDailyPane(int left);
   void FillDailyPane();
   void DesignForm();
   void LayOut();
+  void ShowHeading();
+  void ShowSuspended();
   void FocusWhenViewChanges();
   void FocusList() { (m_showsFavorites ? m_favoritesList : m_dailyList).setFocus(); }  ///< of the view that is shown
 
@@ -56,17 +61,21 @@ class MainWindow : public QMainWindow {
   MenuPresenter m_toolsMenu;
   MenuPresenter m_helpMenu;
   ToolbarPresenter m_toolbar;
+  QWidget m_frame;  ///< the room around the client area
   QWidget m_client;
   PanePresenter m_daily;
   PanePresenter m_favorites;
   CalendarPresenter m_calendar;
   TreePresenter m_tree;
   PaneSplitter m_splitter;
-  int m_split = 0;  ///< logical pixels; where the user dragged the splitter
+  int m_split = 0;   ///< logical pixels; where the user dragged the splitter
+  QLabel m_heading;  ///< which day, month or year the list beside the tree is of
   ListPresenter m_dailyList;
   ListPresenter m_favoritesList;
   StatusBarPresenter m_statusBar;
+  QLabel m_suspended;  ///< in the status bar, while capture is suspended
   Placement m_placement{m_client};
+  controls::Deferred m_deferred;
   bool m_showsFavorites = false;
   TimerPresenter m_timer;
   FormPresenter m_form;

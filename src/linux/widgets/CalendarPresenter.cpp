@@ -1,183 +1,108 @@
 // SPDX-License-Identifier: MIT
 #include "linux/widgets/CalendarPresenter.h"
 
-#include <QEvent>
-#include <QLocale>
-#include <QPainter>
-#include <QScopedValueRollback>
-#include <QTextCharFormat>
-#include <QTimer>
-#include <array>
-#include <utility>
+#include <algorithm>
 
-#include "linux/forms/Appearance.h"
+#include "linux/LinuxClock.h"
+#include "linux/widgets/DayWords.h"
 
 namespace dayvane::widgets {
 
 namespace {
 
-using Day = controls::Calendar::Day;
+using controls::Calendar;
 
-const QDate kDayZero(1970, 1, 1);
-constexpr int kBarHeight = 3;
-constexpr const char* kDaysPart = "qt_calendar_calendarview";  ///< Qt's own name (qcalendarwidget.cpp)
-
-// The style's own red can hardly be read on a dark background.
-constexpr QColor kWeekendOnLight(0xb0, 0x10, 0x20);
-constexpr QColor kWeekendOnDark(0xff, 0x9a, 0x8f);
-
-QDate ToQDate(Day day) {
-  return kDayZero.addDays(day.time_since_epoch().count());
+/// The day of a month as near to a wanted one as the month has.
+QDate DayOfMonth(int year, int month, int day) {
+  const QDate first(year, month, 1);
+  return {year, month, std::min(day, first.daysInMonth())};
 }
 
-Day ToDay(QDate date) {
-  return Day{std::chrono::days{kDayZero.daysTo(date)}};
+QDate WithinRange(QDate date) {
+  return std::clamp(date, ToQDate(Calendar::kFirstDay), ToQDate(Calendar::kLastDay));
 }
 
 }  // namespace
 
-CalendarPresenter::CalendarPresenter(controls::Calendar& control, Qt::DayOfWeek firstDayOfWeek, QWidget* parent)
-    : QCalendarWidget(parent), m_control(control), m_link(control, *this, [this] { Show(); }) {
-  setFirstDayOfWeek(firstDayOfWeek);
-  setDateRange(ToQDate(controls::Calendar::kFirstDay), ToQDate(controls::Calendar::kLastDay));
-  setVerticalHeaderFormat(NoVerticalHeader);
-  connect(this, &QCalendarWidget::selectionChanged, this, [this] { SelectionMoved(); });
-  for (const auto chosen : {&QCalendarWidget::clicked, &QCalendarWidget::activated})
-    connect(this, chosen, this, [this](QDate date) { ChooseAgain(date); });
-  connect(this, &QCalendarWidget::currentPageChanged, this, [this](int year, int month) { ShowMonth(year, month); });
-  NameParts();
-  ShowWeekend();
+QDate Today() {
+  return ToQDate(std::chrono::floor<std::chrono::days>(LinuxClock().Now()));
+}
+
+CalendarPresenter::CalendarPresenter(Calendar& control, Qt::DayOfWeek firstDayOfWeek, QWidget* parent,
+                                     const std::function<QDate()>& today)
+    : QFrame(parent),
+      m_control(control),
+      m_today(today),
+      m_model(control, firstDayOfWeek),
+      m_days(m_model, today),
+      m_header([this](int months) { ChangeMonths(months); },
+               [this](int year, int month) { Move(DayOfMonth(year, month, ShownDate().day())); }),
+      m_grid(m_model, m_days,
+             {[this](QDate date) { SetDate(date); }, [this](QDate date) { Move(date); },
+              [this](int months) { ChangeMonths(months); }}),
+      m_link(control, *this, [this] { Show(); }) {
+  setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
+  setFocusProxy(&m_grid);
+  m_grid.setAccessibleName(QStringLiteral("Days of the month"));
+  m_layout.setContentsMargins(0, 0, 0, 0);
+  m_layout.setSpacing(0);
+  m_layout.addWidget(&m_header);
+  m_layout.addWidget(&m_grid);
+  m_midnight.setSingleShot(true);
+  connect(&m_midnight, &QTimer::timeout, this, [this] { WaitForMidnight(); });
+  WaitForMidnight();
   m_link.Show();
 }
 
-void CalendarPresenter::NameParts() {
-  // Qt's own names of the parts (qcalendarwidget.cpp); it leaves some without words for screen readers.
-  static constexpr std::array<std::pair<const char*, const char*>, 3> kNames{
-      {{kDaysPart, "Days of the month"},
-       {"qt_calendar_prevmonth", "Previous month"},
-       {"qt_calendar_nextmonth", "Next month"}}};
-  for (const auto& [part, words] : kNames)
-    if (auto* widget = findChild<QWidget*>(QLatin1String(part))) widget->setAccessibleName(QLatin1String(words));
+void CalendarPresenter::WaitForMidnight() {
+  // Not all at once: a computer that slept, or whose clock was set, would be told late.
+  constexpr std::chrono::minutes kLookAgain{30};
+  const auto now = LinuxClock().Now();
+  const std::chrono::seconds left = std::chrono::ceil<std::chrono::days>(now + std::chrono::seconds(1)) - now;
+  m_midnight.start(std::min<std::chrono::milliseconds>(left, kLookAgain));
+  m_grid.viewport()->update();
 }
 
-bool CalendarPresenter::IsHighlighted(QDate date) const {
-  const QDate current = ToQDate(m_control.CurrentDate());
-  return date.year() == current.year() && date.month() == current.month() && m_control.Highlight(date.day());
-}
-
-bool CalendarPresenter::IsListed(QDate date) const {
-  const auto listed = m_control.ListedDay();
-  return listed && ToQDate(*listed) == date;
-}
-
-void CalendarPresenter::PaintFrame(QPainter& painter, const QRect& cell, QDate date) const {
-  constexpr int kThickness = 2;
-  painter.save();
-  painter.fillRect(cell, palette().color(QPalette::Base));
-  painter.setPen(palette().color(QPalette::Text));
-  painter.drawText(cell, Qt::AlignCenter, QString::number(date.day()));
-  painter.setPen(QPen(palette().color(QPalette::Highlight), kThickness));
-  painter.drawRect(cell.adjusted(1, 1, -kThickness, -kThickness));
-  painter.restore();
-}
-
-void CalendarPresenter::PaintFilled(QPainter& painter, const QRect& cell, QDate date) const {
-  painter.save();
-  painter.fillRect(cell, palette().color(QPalette::Highlight));
-  painter.setPen(palette().color(QPalette::HighlightedText));
-  QFont bold = font();
-  bold.setBold(IsHighlighted(date));
-  painter.setFont(bold);
-  painter.drawText(cell, Qt::AlignCenter, QString::number(date.day()));
-  painter.restore();
-}
-
-void CalendarPresenter::paintCell(QPainter* painter, const QRect& cell, QDate date) const {
-  if (IsListed(date) && date != selectedDate())
-    PaintFilled(*painter, cell, date);
-  else if (date == selectedDate() && !IsListed(date))
-    PaintFrame(*painter, cell, date);
-  else
-    QCalendarWidget::paintCell(painter, cell, date);
-  if (!IsHighlighted(date)) return;
-  const QColor colour = palette().color(IsListed(date) ? QPalette::HighlightedText : QPalette::Highlight);
-  const int width = cell.width() / 2;
-  painter->fillRect(cell.center().x() - width / 2, cell.bottom() - kBarHeight, width, kBarHeight, colour);
-}
-
-void CalendarPresenter::changeEvent(QEvent* event) {
-  QCalendarWidget::changeEvent(event);
-  if (event->type() == QEvent::PaletteChange) ShowWeekend();
+QDate CalendarPresenter::ShownDate() const {
+  return m_control.CurrentDate() == Calendar::Day{} ? m_today() : ToQDate(m_control.CurrentDate());
 }
 
 void CalendarPresenter::Show() {
-  const QScopedValueRollback showing(m_showing, true);
-  const Day day = m_control.CurrentDate();
-  if (day != Day{}) setSelectedDate(ToQDate(day));
-  ShowHighlights();
+  const QDate date = ShownDate();
+  m_header.Show(date.year(), date.month());
+  m_grid.SetCurrent(date);
   ShowExplanation();
 }
 
 QString CalendarPresenter::Explanation() const {
-  const QDate chosen = selectedDate();
-  if (IsListed(chosen)) return {};
-  const auto words = [](QDate date) { return QLocale().toString(date, QLocale::LongFormat); };
+  const QDate chosen = ShownDate();
+  if (m_model.IsListed(chosen)) return {};
   const auto listed = m_control.ListedDay();
   QString list =
-      listed ? QStringLiteral("The list is of %1.").arg(words(ToQDate(*listed))) : QStringLiteral("No day is listed.");
-  if (IsHighlighted(chosen)) return list;
-  return QStringLiteral("No documents on %1. %2").arg(words(chosen), list);
+      listed ? QStringLiteral("The list is of %1.").arg(DayWords(*listed)) : QStringLiteral("No day is listed.");
+  if (m_model.IsHighlighted(chosen)) return list;
+  return QStringLiteral("No documents on %1. %2").arg(DayWords(ToDay(chosen)), list);
 }
 
 void CalendarPresenter::ShowExplanation() {
   const QString text = Explanation();
   setToolTip(text);
-  // Where the keyboard is, a screen reader reads.
-  if (auto* days = findChild<QWidget*>(QLatin1String(kDaysPart))) days->setAccessibleDescription(text);
+  m_grid.setAccessibleDescription(text);  // where the keyboard is, a screen reader reads
 }
 
-void CalendarPresenter::ShowHighlights() {
-  QTextCharFormat bold;
-  bold.setFontWeight(QFont::Bold);
-  setDateTextFormat({}, {});
-  const QDate current = ToQDate(m_control.CurrentDate());
-  for (int day = 1; day <= current.daysInMonth(); ++day)
-    if (m_control.Highlight(day)) setDateTextFormat({current.year(), current.month(), day}, bold);
-  updateCells();
+void CalendarPresenter::ChangeMonths(int months) {
+  const QDate shown = ShownDate();
+  const QDate moved = QDate(shown.year(), shown.month(), 1).addMonths(months);
+  Move(DayOfMonth(moved.year(), moved.month(), shown.day()));
 }
 
-void CalendarPresenter::ShowWeekend() {
-  QTextCharFormat weekend;
-  weekend.setForeground(IsDark(palette().color(QPalette::Base), palette().color(QPalette::Text)) ? kWeekendOnDark
-                                                                                                 : kWeekendOnLight);
-  for (const Qt::DayOfWeek day : {Qt::Saturday, Qt::Sunday}) setWeekdayTextFormat(day, weekend);
-}
-
-void CalendarPresenter::ShowMonth(int year, int month) {
-  const QDate first(year, month, 1);
-  Choose({year, month, std::min(selectedDate().day(), first.daysInMonth())});
-}
-
-void CalendarPresenter::SelectionMoved() {
-  if (m_showing) return;
-  // The click that moved the selection is reported right after it.
-  m_selectionMoved = true;
-  QTimer::singleShot(0, this, [this] { m_selectionMoved = false; });
-  Choose(selectedDate());
-}
-
-void CalendarPresenter::ChooseAgain(QDate date) {
-  // Another day may have been listed since, by the tree.
-  if (!m_showing && !m_selectionMoved) SetDate(date);
-}
-
-void CalendarPresenter::Choose(QDate date) {
-  if (!m_showing && ToDay(date) != m_control.CurrentDate()) SetDate(date);
+void CalendarPresenter::Move(QDate date) {
+  if (WithinRange(date) != ShownDate()) SetDate(date);
 }
 
 void CalendarPresenter::SetDate(QDate date) {
   m_deferred.AfterWork([this, date] {
-    m_control.SetCurrentDate(ToDay(date));
+    m_control.SetCurrentDate(ToDay(WithinRange(date)));
     Show();  // the program may have refused
   });
 }

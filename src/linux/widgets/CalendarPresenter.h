@@ -1,48 +1,49 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QCalendarWidget>
+#include <QFrame>
+#include <QTimer>
+#include <QVBoxLayout>
 
 #include "controls/Calendar.h"
 #include "controls/Deferred.h"
+#include "linux/widgets/CalendarGrid.h"
+#include "linux/widgets/CalendarHeader.h"
+#include "linux/widgets/CalendarModel.h"
 #include "linux/widgets/ControlLink.h"
 
 namespace dayvane::widgets {
 
+QDate Today();
+
 /// Shows a calendar. Going to another month or year moves the current date there, so that the highlighted days are
-/// always those of the month shown. A highlighted day is bold and underlined by a bar: colour alone would not do. The
-/// day that is listed is filled; a chosen day that is not, because it has no documents, has a frame, and a tip tells
-/// so.
-class CalendarPresenter : public QCalendarWidget {
+/// always those of the month shown. Where the chosen day has no documents, a tip tells so, and which day is listed.
+class CalendarPresenter : public QFrame {
  public:
   /// A calendar that has no date yet shows today's month.
-  CalendarPresenter(controls::Calendar& control, Qt::DayOfWeek firstDayOfWeek, QWidget* parent = nullptr);
-
-  bool IsHighlighted(QDate date) const;
-
- protected:
-  void paintCell(QPainter* painter, const QRect& cell, QDate date) const override;
-  void changeEvent(QEvent* event) override;
+  CalendarPresenter(controls::Calendar& control, Qt::DayOfWeek firstDayOfWeek, QWidget* parent = nullptr,
+                    const std::function<QDate()>& today = Today);
 
  private:
-  bool IsListed(QDate date) const;
+  QDate ShownDate() const;
   QString Explanation() const;
-  void PaintFrame(QPainter& painter, const QRect& cell, QDate date) const;
-  void PaintFilled(QPainter& painter, const QRect& cell, QDate date) const;
-  void NameParts();
   void Show();
-  void ShowHighlights();
   void ShowExplanation();
-  void ShowWeekend();
-  void ShowMonth(int year, int month);
-  void SelectionMoved();
-  void Choose(QDate date);
-  void ChooseAgain(QDate date);
+  void WaitForMidnight();
+
+  // What the user wants.
+  void ChangeMonths(int months);
+  void Move(QDate date);
   void SetDate(QDate date);
 
   controls::Calendar& m_control;
-  bool m_selectionMoved = false;
-  bool m_showing = false;  ///< what changes in the widget is not the user's doing
+  std::function<QDate()> m_today;
+  CalendarModel m_model;
+  DayDelegate m_days;
+  CalendarHeader m_header;
+  CalendarGrid m_grid;
+  QVBoxLayout m_layout{this};
+  QTimer m_midnight;
   controls::Deferred m_deferred;
   ControlLink m_link;
 };

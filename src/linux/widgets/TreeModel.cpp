@@ -2,6 +2,7 @@
 #include "linux/widgets/TreeModel.h"
 
 #include "linux/files/NativePath.h"
+#include "linux/widgets/DayWords.h"
 
 namespace dayvane::widgets {
 
@@ -44,6 +45,9 @@ QVariant TreeModel::data(const QModelIndex& index, int role) const {
       return QString::fromStdString(files::ForReading(node->text));
     case Qt::DecorationRole:
       return m_icons.Of(m_control.Images(), node->image);
+    case Qt::ToolTipRole:
+    case Qt::AccessibleTextRole:
+      return node->day ? QVariant(DayWords(*node->day)) : QVariant();
     default:
       return {};
   }

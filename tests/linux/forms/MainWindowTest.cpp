@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include <QCalendarWidget>
+#include <QLabel>
 #include <QStatusBar>
 #include <QStyle>
+#include <QTableView>
 #include <QTest>
 #include <QToolButton>
 #include <QTreeView>
@@ -10,12 +11,14 @@
 
 #include "linux/forms/Appearance.h"
 #include "linux/forms/MainWindow.h"
+#include "linux/widgets/DayWords.h"
 #include "tests/support/MainWindow.h"
 
 namespace dayvane::widgets {
 namespace {
 
 using ::testing::ElementsAre;
+using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 
 /// The program's window over a temporary folder, filled with two days of documents.
@@ -40,12 +43,27 @@ class MainWindowTest : public ::testing::Test {
     return {widget.mapTo(m_window.centralWidget(), QPoint()), widget.size()};
   }
 
+  static constexpr int kRoom = 7;  ///< logical pixels between the panes and the window's edge
+  int RoomAtTheRight(const QRect& place) const { return m_window.centralWidget()->width() - 1 - place.right(); }
+
+  void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+    QTest::keyClick(&m_window, key, modifiers);
+    QCoreApplication::processEvents();
+  }
+
+  QLabel& HeadingLabel() {
+    for (QLabel* label : m_window.findChildren<QLabel*>())
+      if (label->parentWidget() == Find<CalendarPresenter>("Calendar").parentWidget()) return *label;
+    throw std::runtime_error("heading");
+  }
+  QString Heading() { return HeadingLabel().text(); }
+
   /// Of everything that the window lays out itself and that is visible, once what was posted has happened, and what
   /// that posted in turn.
   std::vector<QRect> Places() {
     constexpr int kRounds = 10;
     for (int round = 0; round < kRounds; ++round) QCoreApplication::processEvents();
-    return {PlaceOf(Find<QCalendarWidget>("Calendar")), PlaceOf(Find<QTreeView>("Days")),
+    return {PlaceOf(Find<CalendarPresenter>("Calendar")), PlaceOf(Find<QTreeView>("Days")),
             PlaceOf(Find<QTreeView>("Documents of the day")), PlaceOf(*m_window.findChild<QStatusBar*>())};
   }
 
@@ -67,7 +85,7 @@ class MainWindowTest : public ::testing::Test {
 };
 
 TEST_F(MainWindowTest, TheCalendarIsAboveTheDaysAndTheListToTheirRight) {
-  const QRect calendar = PlaceOf(Find<QCalendarWidget>("Calendar"));
+  const QRect calendar = PlaceOf(Find<CalendarPresenter>("Calendar"));
   const QRect days = PlaceOf(Find<QTreeView>("Days"));
   const QRect list = PlaceOf(Find<QTreeView>("Documents of the day"));
 
@@ -104,8 +122,8 @@ TEST_F(MainWindowTest, ThePanesFollowTheWindow) {
 
   const QRect list = PlaceOf(Find<QTreeView>("Documents of the day"));
 
-  EXPECT_EQ(list.right(), m_window.centralWidget()->width() - 2);
-  EXPECT_EQ(PlaceOf(*m_window.findChild<QStatusBar*>()).width(), m_window.centralWidget()->width());
+  EXPECT_EQ(RoomAtTheRight(list), kRoom);
+  EXPECT_GT(PlaceOf(*m_window.findChild<QStatusBar*>()).width(), list.width());
 }
 
 TEST_F(MainWindowTest, TheSmallestWindowFitsASmallScreen) {
@@ -119,21 +137,103 @@ TEST_F(MainWindowTest, TheFavoritesTakeTheWholeWidth) {
 
   const QRect list = PlaceOf(Find<QTreeView>("Favorites"));
 
-  EXPECT_FALSE(Find<QCalendarWidget>("Calendar").isVisible());
-  EXPECT_EQ(list.left(), 1);
-  EXPECT_EQ(list.right(), m_window.centralWidget()->width() - 2);
+  EXPECT_FALSE(Find<CalendarPresenter>("Calendar").isVisible());
+  EXPECT_EQ(list.left(), kRoom);
+  EXPECT_EQ(RoomAtTheRight(list), kRoom);
 }
 
 TEST_F(MainWindowTest, OpensAtTheLatestDay) {
-  EXPECT_EQ(Find<QCalendarWidget>("Calendar").selectedDate(), QDate(2026, 11, 21));
+  EXPECT_EQ(Find<QTableView>("Days of the month").currentIndex().data(), "21");
   EXPECT_EQ(Find<QTreeView>("Documents of the day").model()->index(0, 0).data().toString(), "New.odt");
 }
 
 TEST_F(MainWindowTest, ADayOfTheCalendarShowsItsDocumentsAndItsNode) {
-  Find<QCalendarWidget>("Calendar").setSelectedDate({2026, 11, 20});
+  QTest::keyClick(&Find<QTableView>("Days of the month"), Qt::Key_Left);
 
   EXPECT_EQ(Find<QTreeView>("Documents of the day").model()->index(0, 0).data().toString(), "Old.odt");
   EXPECT_EQ(Find<QTreeView>("Days").currentIndex().data().toString(), "20");
+}
+
+TEST_F(MainWindowTest, TheListSaysWhichDayItIsOf) {
+  EXPECT_EQ(Heading(), DayWords(std::chrono::local_days{std::chrono::year{2026} / 11 / 21}));
+  EXPECT_EQ(Find<QTreeView>("Documents of the day").accessibleDescription(), Heading());
+
+  m_main.tvwMain.Click(m_program.Node("2026\\November"));
+  EXPECT_EQ(Heading(), "November 2026");
+  m_main.tvwMain.Click(m_program.Node("2026"));
+  EXPECT_EQ(Heading(), "2026");
+  m_main.tvwMain.Click(*m_main.tvwMain.Roots().front());
+  EXPECT_EQ(Heading(), "");
+}
+
+TEST_F(MainWindowTest, ADayOfTheTreeIsSpokenInWords) {
+  const QModelIndex day = Find<QTreeView>("Days").currentIndex();
+  const QString words = DayWords(std::chrono::local_days{std::chrono::year{2026} / 11 / 21});
+
+  EXPECT_EQ(day.data(Qt::AccessibleTextRole).toString(), words);
+  EXPECT_EQ(day.data(Qt::ToolTipRole).toString(), words);
+  EXPECT_EQ(day.parent().data(Qt::ToolTipRole).toString(), "");
+}
+
+TEST_F(MainWindowTest, TheHeadingStandsAboveTheListAndBelowTheToolbar) {
+  const QRect heading = PlaceOf(HeadingLabel());
+  const QRect list = PlaceOf(Find<QTreeView>("Documents of the day"));
+
+  EXPECT_GE(heading.top(), kRoom - 1);
+  EXPECT_LT(heading.bottom(), list.top());
+  EXPECT_GE(heading.left(), list.left());
+  EXPECT_TRUE(HeadingLabel().font().bold());
+}
+
+TEST_F(MainWindowTest, PanesHaveRoomAroundThem) {
+  const QRect calendar = PlaceOf(Find<CalendarPresenter>("Calendar"));
+  const QRect days = PlaceOf(Find<QTreeView>("Days"));
+  const QRect list = PlaceOf(Find<QTreeView>("Documents of the day"));
+
+  EXPECT_EQ(calendar.left(), kRoom);
+  EXPECT_EQ(calendar.top(), kRoom);
+  EXPECT_EQ(days.top() - calendar.bottom() - 1, kRoom);
+  EXPECT_EQ(list.left() - days.right() - 1, kRoom);
+  EXPECT_EQ(RoomAtTheRight(list), kRoom);
+}
+
+TEST_F(MainWindowTest, ControlAndADigitChooseTheView) {
+  Press(Qt::Key_2, Qt::ControlModifier);
+  EXPECT_TRUE(m_main.picFavorites.Visible());
+
+  Press(Qt::Key_1, Qt::ControlModifier);
+  EXPECT_TRUE(m_main.picDaily.Visible());
+}
+
+TEST_F(MainWindowTest, ControlAndWHideTheWindow) {
+  Press(Qt::Key_W, Qt::ControlModifier);
+  EXPECT_FALSE(m_main.form.Visible());
+  EXPECT_FALSE(m_main.form.IsUnloaded());
+}
+
+TEST_F(MainWindowTest, ControlAndQEndTheProgramAsExitDoes) {
+  Press(Qt::Key_Q, Qt::ControlModifier);
+  EXPECT_THAT(m_program.desktop.windowing.posted, ElementsAre(platform::kWmClose));
+}
+
+TEST_F(MainWindowTest, F1ShowsTheHelpOfTheWindow) {
+  Press(Qt::Key_F1);
+  EXPECT_THAT(m_program.desktop.help.shown, ElementsAre(HasSubstr(std::to_string(kHelpMainWindow))));
+}
+
+TEST_F(MainWindowTest, SuspendedIsSeenInTheStatusBarAndInTheWindowsIcon) {
+  auto& picture = Find<QLabel>("Suspended: nothing is recorded until you choose Resume.");
+  const QImage usual = m_window.windowIcon().pixmap(32).toImage();
+  EXPECT_FALSE(picture.isVisible());
+
+  m_main.SetActive(false);
+  EXPECT_TRUE(picture.isVisible());
+  EXPECT_EQ(picture.toolTip(), "Suspended: nothing is recorded until you choose Resume.");
+  EXPECT_NE(m_window.windowIcon().pixmap(32).toImage(), usual);
+
+  m_main.SetActive(true);
+  EXPECT_FALSE(picture.isVisible());
+  EXPECT_EQ(m_window.windowIcon().pixmap(32).toImage(), usual);
 }
 
 TEST_F(MainWindowTest, EverythingThatTakesTheKeyboardHasASpokenName) {
@@ -200,7 +300,7 @@ TEST_F(MainWindowTest, TheFavoritesFillTheirPaneAlsoWhenTheDesktopTurnedDarkMean
   Places();
 
   const QWidget& list = Find<QTreeView>("Favorites");
-  EXPECT_EQ(PlaceOf(list).right(), m_window.centralWidget()->width() - 2);
+  EXPECT_EQ(RoomAtTheRight(PlaceOf(list)), kRoom);
   EXPECT_FALSE(IsBlank(list));
 }
 
@@ -260,7 +360,7 @@ TEST_F(MainWindowTest, EveryControlIsExplainedThatIsClickedInWhatsThisMode) {
     return QWhatsThis::inWhatsThisMode();
   };
 
-  EXPECT_FALSE(ask(Find<QCalendarWidget>("Calendar")));
+  EXPECT_FALSE(ask(Find<CalendarPresenter>("Calendar")));
   EXPECT_FALSE(ask(*Find<QTreeView>("Days").viewport()));
   EXPECT_FALSE(ask(*Find<QTreeView>("Documents of the day").viewport()));
   for (const char* button : {"Daily View", "Favorites View", "Explore Folder", "Open Folder", "Large Icon View",

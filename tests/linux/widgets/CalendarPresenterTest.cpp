@@ -1,12 +1,16 @@
 // SPDX-License-Identifier: MIT
-#include <QAbstractItemView>
+#include <QHeaderView>
+#include <QMenu>
 #include <QSpinBox>
+#include <QTableView>
 #include <QTest>
-#include <QTextCharFormat>
+#include <QToolButton>
 #include <QWheelEvent>
 #include <gmock/gmock.h>
 
+#include "linux/forms/Appearance.h"
 #include "linux/widgets/CalendarPresenter.h"
+#include "linux/widgets/DayWords.h"
 
 namespace dayvane::widgets {
 namespace {
@@ -22,6 +26,7 @@ Calendar::Day Day(int year, unsigned month, unsigned day) {
   return std::chrono::local_days{std::chrono::year{year} / static_cast<int>(month) / static_cast<int>(day)};
 }
 
+/// A calendar whose control stands on Wednesday, 20 May 2026, in a window of its own.
 class CalendarPresenterTest : public ::testing::Test {
  protected:
   CalendarPresenterTest() {
@@ -29,24 +34,60 @@ class CalendarPresenterTest : public ::testing::Test {
     m_control.DateChange.Connect([this](Calendar::Day, Calendar::Day to) { m_changes.push_back(to); });
   }
 
-  static void TurnWheel(QAbstractItemView& days, int delta) {
-    const QPointF centre = days.viewport()->rect().center();
-    QWheelEvent event(centre, days.viewport()->mapToGlobal(centre), {}, {0, delta}, Qt::NoButton, Qt::NoModifier,
-                      Qt::NoScrollPhase, false);
-    QCoreApplication::sendEvent(days.viewport(), &event);
+  /// A calendar that is shown, on a day long past today's, so that no ring is drawn.
+  void Present(Qt::DayOfWeek firstDayOfWeek = Qt::Monday) {
+    m_presenter.emplace(m_control, firstDayOfWeek, nullptr, [this] { return m_today; });
+    m_presenter->resize(350, 250);
+    m_presenter->show();
+    (void)QTest::qWaitForWindowActive(&*m_presenter);
+    Days().setFocus();
+    m_changes.clear();
   }
 
+  template <class Widget>
+  Widget& Find(const char* spokenName) {
+    for (Widget* widget : m_presenter->findChildren<Widget*>())
+      if (widget->accessibleName() == QLatin1String(spokenName)) return *widget;
+    throw std::runtime_error(spokenName);
+  }
+
+  QTableView& Days() { return Find<QTableView>("Days of the month"); }
+  QSpinBox& Year() { return Find<QSpinBox>("Year"); }
+  QString ShownDay() { return Days().currentIndex().data(Qt::AccessibleTextRole).toString(); }
+
+  void Press(int key) { QTest::keyClick(&Days(), static_cast<Qt::Key>(key)); }
+  void Click(const QModelIndex& cell) {
+    QTest::mouseClick(Days().viewport(), Qt::LeftButton, {}, Days().visualRect(cell).center());
+  }
+  void ClickButton(const char* spokenName) { QTest::mouseClick(&Find<QToolButton>(spokenName), Qt::LeftButton); }
+
+  void TurnWheel(int delta) {
+    const QPointF centre = Days().viewport()->rect().center();
+    QWheelEvent event(centre, Days().viewport()->mapToGlobal(centre), {}, {0, delta}, Qt::NoButton, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(Days().viewport(), &event);
+  }
+
+  QRect Cell(int row, int column) {
+    const QRect cell = Days().visualRect(Days().model()->index(row, column));
+    return cell.translated(Days().viewport()->mapTo(&*m_presenter, QPoint()));
+  }
+  QImage Picture() { return m_presenter->grab().toImage(); }
+  QColor At(QPoint point) { return Picture().pixelColor(point); }
+
+  QDate m_today{1999, 12, 31};
   Calendar m_control;
   std::vector<Calendar::Day> m_changes{};
+  std::optional<CalendarPresenter> m_presenter;
 };
 
 TEST_F(CalendarPresenterTest, ShowsTheCurrentDateWithoutChangingIt) {
-  const CalendarPresenter presenter(m_control, Qt::Monday);
+  Present();
 
   m_control.SetCurrentDate(Day(2026, 6, 1));
 
-  EXPECT_EQ(presenter.selectedDate(), QDate(2026, 6, 1));
-  EXPECT_EQ(presenter.monthShown(), 6);
+  EXPECT_EQ(ShownDay(), DayWords(Day(2026, 6, 1)) + ", no documents");
+  EXPECT_EQ(Year().value(), 2026);
   EXPECT_THAT(m_changes, ElementsAre(Day(2026, 6, 1)));
 }
 
@@ -55,224 +96,308 @@ TEST_F(CalendarPresenterTest, ACalendarWithoutADateShowsToday) {
 
   const CalendarPresenter presenter(fresh, Qt::Monday);
 
-  EXPECT_EQ(presenter.selectedDate(), QDate::currentDate());
+  const auto* days = presenter.findChild<QTableView*>();
+  EXPECT_EQ(days->currentIndex().data().toInt(), QDate::currentDate().day());
+  EXPECT_EQ(presenter.findChild<QSpinBox*>()->value(), QDate::currentDate().year());
   EXPECT_EQ(fresh.CurrentDate(), Calendar::Day{});
 }
 
-TEST_F(CalendarPresenterTest, ADayThatTheUserChoosesIsTheCurrentDate) {
-  CalendarPresenter presenter(m_control, Qt::Monday);
-
-  presenter.setSelectedDate({2026, 5, 21});
-
-  EXPECT_THAT(m_changes, ElementsAre(Day(2026, 5, 21)));
+TEST_F(CalendarPresenterTest, TheMonthStandsAboveItsDays) {
+  Present();
+  EXPECT_EQ(Find<QToolButton>("May").text(), "May");
+  EXPECT_TRUE(Find<QToolButton>("May").font().bold());
+  EXPECT_EQ(Days().model()->index(0, 4).data(), "1") << "Friday";
+  EXPECT_EQ(Days().model()->index(0, 0).data(), "27") << "Monday of the last week of April";
 }
 
 TEST_F(CalendarPresenterTest, TheCurrentDayCanBeChosenAgain) {
-  CalendarPresenter presenter(m_control, Qt::Monday);
-  presenter.show();
-  auto* days = presenter.findChild<QAbstractItemView*>();
+  Present();
 
-  QTest::mouseClick(days->viewport(), Qt::LeftButton, {}, days->visualRect(days->currentIndex()).center());
+  Click(Days().currentIndex());
+  Press(Qt::Key_Return);
 
-  EXPECT_THAT(m_changes, ElementsAre(Day(2026, 5, 20)));
+  EXPECT_THAT(m_changes, ElementsAre(Day(2026, 5, 20), Day(2026, 5, 20)));
 }
 
 TEST_F(CalendarPresenterTest, AClickOnAnotherDayIsOneChange) {
-  CalendarPresenter presenter(m_control, Qt::Monday);
-  presenter.show();
-  auto* days = presenter.findChild<QAbstractItemView*>();
-  const QModelIndex next = days->currentIndex().siblingAtColumn(days->currentIndex().column() + 1);
+  Present();
 
-  QTest::mouseClick(days->viewport(), Qt::LeftButton, {}, days->visualRect(next).center());
+  Click(Days().currentIndex().siblingAtColumn(3));
 
   EXPECT_THAT(m_changes, ElementsAre(Day(2026, 5, 21)));
 }
 
+TEST_F(CalendarPresenterTest, AClickOnADayOfTheMonthBeforeGoesThere) {
+  Present();
+
+  Click(Days().model()->index(0, 0));
+
+  EXPECT_THAT(m_changes, ElementsAre(Day(2026, 4, 27)));
+  EXPECT_EQ(Days().currentIndex(), Days().model()->index(4, 0));
+}
+
 TEST_F(CalendarPresenterTest, TheArrowKeysMoveByDays) {
-  CalendarPresenter presenter(m_control, Qt::Monday);
-  presenter.show();
-  auto* days = presenter.findChild<QAbstractItemView*>();
+  Present();
 
-  QTest::keyClick(days, Qt::Key_Right);
-  QTest::keyClick(days, Qt::Key_Down);
+  for (const int key : {Qt::Key_Right, Qt::Key_Down, Qt::Key_Left, Qt::Key_Up}) Press(key);
 
-  EXPECT_THAT(m_changes, ElementsAre(Day(2026, 5, 21), Day(2026, 5, 28)));
+  EXPECT_THAT(m_changes, ElementsAre(Day(2026, 5, 21), Day(2026, 5, 28), Day(2026, 5, 27), Day(2026, 5, 20)));
+}
+
+TEST_F(CalendarPresenterTest, WhereOneReadsFromTheRightTheArrowKeysGoTheOtherWay) {
+  Present();
+  m_presenter->setLayoutDirection(Qt::RightToLeft);
+
+  Press(Qt::Key_Left);
+
+  EXPECT_THAT(m_changes, ElementsAre(Day(2026, 5, 21)));
+}
+
+TEST_F(CalendarPresenterTest, TheArrowKeysGoOnIntoTheNextMonth) {
+  m_control.SetCurrentDate(Day(2026, 5, 31));
+  Present();
+
+  Press(Qt::Key_Right);
+
+  EXPECT_THAT(m_changes, ElementsAre(Day(2026, 6, 1)));
+  EXPECT_EQ(Find<QToolButton>("June").text(), "June");
+}
+
+TEST_F(CalendarPresenterTest, HomeAndEndAreTheFirstAndTheLastDayOfTheMonth) {
+  Present();
+
+  Press(Qt::Key_Home);
+  Press(Qt::Key_End);
+
+  EXPECT_THAT(m_changes, ElementsAre(Day(2026, 5, 1), Day(2026, 5, 31)));
+}
+
+TEST_F(CalendarPresenterTest, PageUpAndPageDownGoByMonths) {
+  Present();
+
+  Press(Qt::Key_PageDown);
+  Press(Qt::Key_PageUp);
+
+  EXPECT_THAT(m_changes, ElementsAre(Day(2026, 6, 20), Day(2026, 5, 20)));
 }
 
 TEST_F(CalendarPresenterTest, GoingToAnotherMonthMovesTheDateThere) {
-  CalendarPresenter presenter(m_control, Qt::Monday);
+  Present();
 
-  presenter.showNextMonth();
-  presenter.showPreviousYear();
+  ClickButton("Next month");
+  Year().setValue(2025);
+  ClickButton("Previous month");
 
-  EXPECT_THAT(m_changes, ElementsAre(Day(2026, 6, 20), Day(2025, 6, 20)));
+  EXPECT_THAT(m_changes, ElementsAre(Day(2026, 6, 20), Day(2025, 6, 20), Day(2025, 5, 20)));
+}
+
+TEST_F(CalendarPresenterTest, AMonthCanBeChosenByItsName) {
+  Present();
+
+  m_presenter->findChildren<QMenu*>().first()->actions().at(11)->trigger();
+
+  EXPECT_THAT(m_changes, ElementsAre(Day(2026, 12, 20)));
+}
+
+TEST_F(CalendarPresenterTest, TheWheelGoesByMonths) {
+  Present();
+
+  TurnWheel(-60);
+  EXPECT_THAT(m_changes, IsEmpty()) << "half a notch";
+  TurnWheel(-60);
+  TurnWheel(120);
+
+  EXPECT_THAT(m_changes, ElementsAre(Day(2026, 6, 20), Day(2026, 5, 20)));
 }
 
 TEST_F(CalendarPresenterTest, AYearBeforeTheFirstCannotBeTyped) {
-  CalendarPresenter presenter(m_control, Qt::Monday);
-  presenter.show();
-  auto* year = presenter.findChild<QSpinBox*>();
+  Present();
 
-  year->selectAll();
-  QTest::keyClicks(year, "-4");
-  QTest::keyClick(year, Qt::Key_Return);
-  year->setValue(-4);
+  Year().selectAll();
+  QTest::keyClicks(&Year(), "-4");
+  QTest::keyClick(&Year(), Qt::Key_Return);
+  Year().setValue(-4);
 
-  EXPECT_GE(year->minimum(), 100);
-  EXPECT_GE(presenter.selectedDate(), QDate(100, 1, 1));
+  EXPECT_GE(Year().minimum(), 100);
+  EXPECT_LE(Year().maximum(), 9999);
   EXPECT_THAT(m_changes, Each(Ge(Day(100, 1, 1))));
+}
+
+TEST_F(CalendarPresenterTest, AYearIsGoneToOnlyWhenItIsTypedWhole) {
+  Present();
+
+  Year().selectAll();
+  QTest::keyClicks(&Year(), "2024");
+  EXPECT_THAT(m_changes, IsEmpty());
+  QTest::keyClick(&Year(), Qt::Key_Return);
+
+  EXPECT_THAT(m_changes, ElementsAre(Day(2024, 5, 20)));
 }
 
 TEST_F(CalendarPresenterTest, TheFirstDayIsTheLastThatOneCanGoBackTo) {
   m_control.SetCurrentDate(Day(100, 1, 20));
-  CalendarPresenter presenter(m_control, Qt::Monday);
-  presenter.show();
-  auto* days = presenter.findChild<QAbstractItemView*>();
-  m_changes.clear();
+  Present();
 
-  presenter.showPreviousMonth();
-  presenter.showPreviousYear();
-  QTest::keyClick(days, Qt::Key_PageUp);
-  TurnWheel(*days, 120);
-  for (int i = 0; i < 25; ++i) QTest::keyClick(days, Qt::Key_Left);
+  ClickButton("Previous month");
+  Press(Qt::Key_PageUp);
+  TurnWheel(120);
+  for (int i = 0; i < 25; ++i) Press(Qt::Key_Left);
 
   EXPECT_EQ(m_control.CurrentDate(), Day(100, 1, 1));
-  EXPECT_EQ(presenter.selectedDate(), QDate(100, 1, 1));
+  EXPECT_EQ(ShownDay(), DayWords(Day(100, 1, 1)) + ", no documents");
   EXPECT_THAT(m_changes, Each(Ge(Day(100, 1, 1))));
 }
 
 TEST_F(CalendarPresenterTest, NoYearOfFiveDigitsCanBeGoneTo) {
   m_control.SetCurrentDate(Day(9999, 12, 20));
-  CalendarPresenter presenter(m_control, Qt::Monday);
-  presenter.show();
-  auto* days = presenter.findChild<QAbstractItemView*>();
-  m_changes.clear();
+  Present();
 
-  presenter.showNextMonth();
-  presenter.showNextYear();
-  TurnWheel(*days, -120);
-  for (int i = 0; i < 25; ++i) QTest::keyClick(days, Qt::Key_Right);
+  ClickButton("Next month");
+  TurnWheel(-120);
+  for (int i = 0; i < 25; ++i) Press(Qt::Key_Right);
+  Press(Qt::Key_Down);
 
-  EXPECT_EQ(presenter.maximumDate(), QDate(9999, 12, 31));
   EXPECT_EQ(m_control.CurrentDate(), Day(9999, 12, 31));
   EXPECT_THAT(m_changes, Each(Le(Day(9999, 12, 31))));
 }
 
 TEST_F(CalendarPresenterTest, AShorterMonthMovesTheDateToItsLastDay) {
   m_control.SetCurrentDate(Day(2026, 5, 31));
-  CalendarPresenter presenter(m_control, Qt::Monday);
-  m_changes.clear();
+  Present();
 
-  presenter.showNextMonth();
+  ClickButton("Next month");
 
   EXPECT_THAT(m_changes, ElementsAre(Day(2026, 6, 30)));
 }
 
 TEST_F(CalendarPresenterTest, ADateThatTheProgramRefusesIsNotShown) {
   m_control.WillChangeDate.Connect([](Calendar::Day, Calendar::Day, bool& cancel) { cancel = true; });
-  CalendarPresenter presenter(m_control, Qt::Monday);
+  Present();
 
-  presenter.setSelectedDate({2026, 5, 21});
+  Press(Qt::Key_Right);
+  ClickButton("Next month");
 
-  EXPECT_EQ(presenter.selectedDate(), QDate(2026, 5, 20));
+  EXPECT_EQ(Days().currentIndex().data(), "20");
+  EXPECT_EQ(Find<QToolButton>("May").text(), "May");
   EXPECT_THAT(m_changes, IsEmpty());
 }
 
-TEST_F(CalendarPresenterTest, HighlightedDaysOfTheMonthStandOutWhenDrawnAgain) {
-  const CalendarPresenter presenter(m_control, Qt::Monday);
-  m_control.SetHighlight(3, true);
-  m_control.SetHighlight(31, true);
+TEST_F(CalendarPresenterTest, AHighlightIsSeenWithoutColours) {
+  Present();
+  const QImage plain = Picture().convertToFormat(QImage::Format_Mono);
 
+  m_control.SetHighlight(3, true);
   m_control.Redraw();
-
-  EXPECT_TRUE(presenter.IsHighlighted({2026, 5, 3}));
-  EXPECT_FALSE(presenter.IsHighlighted({2026, 5, 4}));
-  EXPECT_FALSE(presenter.IsHighlighted({2026, 6, 3}));
-  EXPECT_EQ(presenter.dateTextFormat({2026, 5, 3}).fontWeight(), QFont::Bold);
-}
-
-TEST_F(CalendarPresenterTest, DaysThatAreNoLongerHighlightedArePlain) {
-  m_control.SetHighlight(3, true);
-  const CalendarPresenter presenter(m_control, Qt::Monday);
+  EXPECT_NE(Picture().convertToFormat(QImage::Format_Mono), plain);
 
   m_control.SetHighlight(3, false);
   m_control.Redraw();
-
-  EXPECT_THAT(presenter.dateTextFormat(), IsEmpty());
+  EXPECT_EQ(Picture().convertToFormat(QImage::Format_Mono), plain);
 }
 
-TEST_F(CalendarPresenterTest, AHighlightIsSeenWithoutColours) {
-  CalendarPresenter presenter(m_control, Qt::Monday);
-  const QImage plain = presenter.grab().toImage().convertToFormat(QImage::Format_Mono);
+TEST_F(CalendarPresenterTest, ADayOfAnotherMonthIsNotHighlighted) {
+  Present();
+  const QImage plain = Picture().copy(Cell(0, 0));  // 27 April
 
-  m_control.SetHighlight(3, true);
+  m_control.SetHighlight(27, true);
   m_control.Redraw();
 
-  EXPECT_NE(presenter.grab().toImage().convertToFormat(QImage::Format_Mono), plain);
+  EXPECT_EQ(Picture().copy(Cell(0, 0)), plain);
+}
+
+TEST_F(CalendarPresenterTest, TodayHasARingThatComesWithTheNewDay) {
+  Present();
+  const QImage plain = Picture().copy(Cell(1, 1));  // 5 May
+
+  m_today = {2026, 5, 5};
+  Days().viewport()->update();
+
+  EXPECT_NE(Picture().copy(Cell(1, 1)), plain);
+
+  m_today = {2026, 5, 6};
+  Days().viewport()->update();
+
+  EXPECT_EQ(Picture().copy(Cell(1, 1)), plain);
 }
 
 TEST_F(CalendarPresenterTest, TheWeekBeginsAsTheUserIsUsedTo) {
-  EXPECT_EQ(CalendarPresenter(m_control, Qt::Saturday).firstDayOfWeek(), Qt::Saturday);
+  Present(Qt::Saturday);
+  EXPECT_EQ(Days().model()->headerData(0, Qt::Horizontal).toString(), "Sat");
+  EXPECT_EQ(Days().model()->index(0, 6).data(), "1") << "Friday";
 }
 
-TEST_F(CalendarPresenterTest, TheWeekendCanBeReadOnADarkBackground) {
-  CalendarPresenter presenter(m_control, Qt::Monday);
-  const QColor light = presenter.weekdayTextFormat(Qt::Sunday).foreground().color();
+TEST_F(CalendarPresenterTest, CellsAreLargeEnoughToHit) {
+  Present();
+  m_presenter->resize(m_presenter->sizeHint());
+  QCoreApplication::processEvents();
+  EXPECT_GE(Cell(0, 0).width(), 24);
+  EXPECT_GE(Cell(0, 0).height(), 24);
+}
 
-  presenter.setPalette(QPalette(Qt::white, Qt::black, Qt::gray, Qt::black, Qt::darkGray, Qt::white, Qt::black));
+TEST_F(CalendarPresenterTest, EachDayIsSpokenWithTheNumberOfItsDocuments) {
+  m_control.DocumentsWanted.Connect(
+      [](Calendar::Day day, std::size_t& count) { count = day == Day(2026, 5, 21) ? 8 : day == Day(2026, 5, 22); });
+  Present();
 
-  EXPECT_GT(presenter.weekdayTextFormat(Qt::Sunday).foreground().color().lightness(), light.lightness());
+  QStringList spoken;
+  for (int i = 0; i < 3; ++i) {
+    spoken.push_back(ShownDay());
+    Press(Qt::Key_Right);
+  }
+
+  EXPECT_THAT(spoken,
+              ElementsAre(DayWords(Day(2026, 5, 20)) + ", no documents", DayWords(Day(2026, 5, 21)) + ", 8 documents",
+                          DayWords(Day(2026, 5, 22)) + ", 1 document"));
+}
+
+TEST_F(CalendarPresenterTest, WeekdaysAreSpokenByTheirWholeNames) {
+  Present();
+  EXPECT_EQ(Days().model()->headerData(0, Qt::Horizontal, Qt::AccessibleTextRole).toString(), "Monday");
 }
 
 /// The colour in the corner of a day's cell: of its frame or of what fills it.
 class ListedDayTest : public CalendarPresenterTest {
  protected:
   ListedDayTest() {
-    m_presenter.resize(350, 250);
-    m_presenter.show();
+    Present();
     m_control.SetHighlight(18, true);
     m_control.SetListedDay(Day(2026, 5, 18));
   }
 
-  QRect Cell(int row, int column) {
-    auto& days = *m_presenter.findChild<QAbstractItemView*>();
-    const QRect cell = days.visualRect(days.model()->index(row, column));
-    return cell.translated(days.viewport()->mapTo(&m_presenter, QPoint()));
-  }
-  QColor At(QPoint point) { return m_presenter.grab().toImage().pixelColor(point); }
-
-  CalendarPresenter m_presenter{m_control, Qt::Monday};
+  QRect Listed() { return Cell(3, 0); }  ///< Monday, 18 May 2026
+  QRect Chosen() { return Cell(3, 2); }  ///< Wednesday, 20 May
 };
 
 TEST_F(ListedDayTest, TheDayOfTheListIsFilledAndAChosenDayWithoutDocumentsOnlyFramed) {
-  const QColor highlight = m_presenter.palette().color(QPalette::Highlight);
-  const QColor base = m_presenter.palette().color(QPalette::Base);
-  const QRect listed = Cell(4, 0);  // Monday, 18 May 2026, below the names of the weekdays
-  const QRect chosen = Cell(4, 2);  // Wednesday, 20 May
+  const QColor highlight = m_presenter->palette().color(QPalette::Highlight);
+  const QColor base = m_presenter->palette().color(QPalette::Base);
 
-  EXPECT_EQ(At(listed.topLeft() + QPoint(4, 4)), highlight);
-  EXPECT_EQ(At(chosen.topLeft() + QPoint(4, 4)), base);
-  EXPECT_EQ(At(chosen.topLeft() + QPoint(1, 1)), highlight) << "the frame";
+  EXPECT_EQ(At(Listed().topLeft() + QPoint(4, 4)), highlight);
+  EXPECT_EQ(At(Chosen().topLeft() + QPoint(4, 4)), base);
+  EXPECT_EQ(At(Chosen().topLeft() + QPoint(1, 1)), highlight) << "the frame";
+}
+
+TEST_F(ListedDayTest, WithoutTheKeyboardTheDayOfTheListIsGrey) {
+  Year().setFocus();
+  EXPECT_EQ(At(Listed().topLeft() + QPoint(4, 4)), MutedSelection(m_presenter->palette()));
 }
 
 TEST_F(ListedDayTest, TheCalendarSaysThatTheChosenDayHasNoDocumentsAndWhichDayIsListed) {
-  const QLocale locale;
   const QString text = QStringLiteral("No documents on %1. The list is of %2.")
-                           .arg(locale.toString(QDate(2026, 5, 20), QLocale::LongFormat),
-                                locale.toString(QDate(2026, 5, 18), QLocale::LongFormat));
-  EXPECT_EQ(m_presenter.toolTip(), text);
-  EXPECT_EQ(m_presenter.findChild<QWidget*>("qt_calendar_calendarview")->accessibleDescription(), text);
+                           .arg(DayWords(Day(2026, 5, 20)), DayWords(Day(2026, 5, 18)));
+  EXPECT_EQ(m_presenter->toolTip(), text);
+  EXPECT_EQ(Days().accessibleDescription(), text);
 }
 
 TEST_F(ListedDayTest, OnTheDayOfTheListThereIsNothingToExplain) {
   m_control.SetCurrentDate(Day(2026, 5, 18));
-  EXPECT_EQ(m_presenter.toolTip(), "");
-  EXPECT_EQ(At(Cell(4, 0).topLeft() + QPoint(4, 4)), m_presenter.palette().color(QPalette::Highlight));
+  EXPECT_EQ(m_presenter->toolTip(), "");
+  EXPECT_EQ(At(Listed().topLeft() + QPoint(4, 4)), m_presenter->palette().color(QPalette::Highlight));
 }
 
 TEST_F(ListedDayTest, WhenNoDayIsListedTheCalendarSaysSo) {
   m_control.SetListedDay(std::nullopt);
-  EXPECT_TRUE(m_presenter.toolTip().endsWith("No day is listed."));
+  EXPECT_TRUE(m_presenter->toolTip().endsWith("No day is listed."));
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include <QDeadlineTimer>
 #include <QMessageBox>
 #include <QPointer>
+#include <QPushButton>
 #include <QWindow>
 #include <algorithm>
 #include <glib.h>

@@ -3,9 +3,9 @@
 import unittest
 
 from screen_reader import cells
-from user import DAYS, DOCUMENTS, FAVORITES, RIGHT_BUTTON, SOON_SECONDS
+from user import DAYS, DOCUMENTS, FAVORITES, RIGHT_BUTTON, SOON_SECONDS, shown
 from waiting import wait_until
-from week_case import FAVORITE_DOCUMENTS, WeekTest
+from week_case import FAVORITE_DOCUMENTS, WEEK, WeekTest
 
 STYLES = {
     "Large Icons": "Large Icon View",
@@ -23,7 +23,7 @@ class TheWeeksDays(WeekTest):
     def calendar_cell(self, days_ago):
         """The cell of a day; the calendar shows today's month and the last days before it."""
         days = self.user.calendar()
-        first = [cell.name for cell in days].index("1")
+        first = [shown(cell.name) for cell in days].index("01")
         return days[first + int(self.day_name(0)) - 1 - days_ago]
 
     def test_stand_in_the_tree_under_their_month_and_year(self):
@@ -48,8 +48,29 @@ class TheWeeksDays(WeekTest):
     def test_are_selected_in_the_calendar_when_clicked_in_the_tree(self):
         self.user.click_row(DAYS, self.day_name(1))
         self.wait_for(
-            [str(int(self.day_name(1)))],
-            lambda: [cell.name for cell in self.user.calendar() if "selected" in cell.states],
+            [self.day_name(1)],
+            lambda: [shown(cell.name) for cell in self.user.calendar() if "selected" in cell.states],
+        )
+
+    def test_are_spoken_with_their_documents_at_every_move_in_the_calendar(self):
+        self.user.click(self.calendar_cell(0).place)
+        spoken = self.desktop.spoken()
+
+        self.user.type("Left")
+
+        date = self.shortcut("", 1).parent.relative_to(self.dayvane.daily)
+        words = f"{int(date.parts[2])} {date.parts[1]} {date.parts[0]}, {len(WEEK[1])} document"
+        self.wait_for(True, lambda: any(words in name for name in self.desktop.spoken()[len(spoken) :]))
+
+    def test_name_themselves_above_their_list(self):
+        self.choose_day(1)
+        date = self.shortcut("", 1).parent.relative_to(self.dayvane.daily)
+        words = f"{int(date.parts[2])} {date.parts[1]} {date.parts[0]}"
+        self.wait_for(
+            True,
+            lambda: any(
+                widget.role == "label" and widget.name.endswith(words) for widget in self.user.reader.widgets()
+            ),
         )
 
     def test_tell_the_number_of_their_documents_in_the_status_bar(self):

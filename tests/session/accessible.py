@@ -114,7 +114,12 @@ class AccessibilityBus:
     def __init__(self, session_address):
         self._bus = connect(call(connect(session_address), "org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus.GetAddress"))
         self._popups = []
-        self._listen("object:state-changed:showing", "StateChanged")
+        self._spoken = []
+        for state in ("showing", "focused"):
+            self._register(f"object:state-changed:{state}")
+        self._bus.signal_subscribe(
+            None, PREFIX + "Event.Object", "StateChanged", None, None, Gio.DBusSignalFlags.NONE, self._remember
+        )
 
     def program(self, process):
         """The program with this process id; None when it is not on the bus, or not yet."""
@@ -129,8 +134,7 @@ class AccessibilityBus:
     @property
     def popup(self):
         """The menu that popped up last and is still there; such menus are no program's children."""
-        while GLib.MainContext.default().iteration(False):
-            pass
+        self._take_events()
         while self._popups:
             try:
                 if self._popups[-1].is_showing:
@@ -139,6 +143,17 @@ class AccessibilityBus:
                 pass
             self._popups.pop()
         return None
+
+    @property
+    def spoken(self):
+        """The names of what has got the keyboard so far."""
+        self._take_events()
+        return list(self._spoken)
+
+    @staticmethod
+    def _take_events():
+        while GLib.MainContext.default().iteration(False):
+            pass
 
     def _process(self, name):
         return call(
@@ -149,17 +164,16 @@ class AccessibilityBus:
             GLib.Variant("s", name),
         )
 
-    def _listen(self, event, signal):
+    def _register(self, event):
         call(self._bus, REGISTRY, "/org/a11y/atspi/registry", REGISTRY + ".RegisterEvent", GLib.Variant("s", event))
-        self._bus.signal_subscribe(
-            None, PREFIX + "Event.Object", signal, None, None, Gio.DBusSignalFlags.NONE, self._remember_popup
-        )
 
-    def _remember_popup(self, _, name, path, _interface, _signal, arguments):
+    def _remember(self, _, name, path, _interface, _signal, arguments):
         state, is_set, *_ = arguments.unpack()
         widget = Accessible(self._bus, name, path)
         try:
             if state == "showing" and is_set and widget.role == "popup menu":
                 self._popups.append(widget)
+            if state == "focused" and is_set:
+                self._spoken.append(widget.name)
         except Gone:
             pass

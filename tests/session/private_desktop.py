@@ -123,6 +123,10 @@ class PrivateDesktop:
 
         self._accessibility = AccessibilityBus(self.environment["DBUS_SESSION_BUS_ADDRESS"])
 
+    def spoken(self):
+        """The names of what has got the keyboard so far, which a screen reader says."""
+        return self._accessibility.spoken
+
     def screen_reader(self, process):
         """A screen reader for the windows of a program that was started here."""
         from screen_reader import ScreenReader

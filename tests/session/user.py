@@ -1,5 +1,7 @@
 """What a user does with Dayvane's windows, with mouse, keyboard and a screen reader, and what they see there."""
 
+import re
+
 from dayvane_program import WINDOW_TITLE
 from screen_reader import ABSENT, cells, walk
 from waiting import wait_until
@@ -10,6 +12,13 @@ DAYS = "Days"
 DOCUMENTS = "Documents of the day"
 FAVORITES = "Favorites"
 RIGHT_BUTTON = 3
+SPOKEN_DAY = re.compile(r"\w+, (\d{1,2}) \w+ \d+(, .*)?")  # the C locale's long date, in the calendar with a number
+
+
+def shown(name):
+    """What is on the screen where a day is spoken in words: "07". Any other name as it is."""
+    spoken = SPOKEN_DAY.fullmatch(name)
+    return f"{int(spoken[1]):02}" if spoken else name
 
 
 class User:
@@ -33,12 +42,12 @@ class User:
     def names(self, widget):
         """The first column of the rows; none while the widget is not on the screen or is being filled anew."""
         try:
-            return [row[0] for row in self.rows(widget)]
+            return [shown(row[0]) for row in self.rows(widget)]
         except ABSENT:
             return []
 
     def selected(self, widget):
-        return [row[0] for row in self.reader.selected(widget)]
+        return [shown(row[0]) for row in self.reader.selected(widget)]
 
     def status(self):
         """The text in the status bar."""
@@ -70,7 +79,7 @@ class User:
     def calendar(self):
         """The cells of the days that the calendar shows, in their order."""
         table = next(widget for widget in walk(self.reader.find(CALENDAR)) if "Table" in widget.interfaces)
-        return [cell for row in cells(table) for cell in row if cell.name.isdigit()]
+        return [cell for row in cells(table) for cell in row if SPOKEN_DAY.fullmatch(cell.name)]
 
     def header(self, widget, column):
         """Where a column's header is: x, y, width and height."""
@@ -120,7 +129,7 @@ class User:
         """Clicks the row with that name in its first column."""
 
         def place():
-            return next(row[0].place for row in cells(self.reader.find(widget)) if row[0].name == name)
+            return next(row[0].place for row in cells(self.reader.find(widget)) if shown(row[0].name) == name)
 
         self.click(self._patiently(f"{name} in {widget}", place), button, times)
 

@@ -61,7 +61,8 @@ void DayDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, c
   const QColor accent = listed ? ink : option.widget->palette().color(QPalette::Highlight);
   painter->save();
   painter->setRenderHint(QPainter::Antialiasing, false);
-  if (listed) painter->fillRect(cell, option.palette.color(QPalette::Highlight));
+  // In any case: the style has filled the selected cell, which is not the listed one's colour to have.
+  painter->fillRect(cell, option.palette.color(listed ? QPalette::Highlight : QPalette::Base));
   const auto* grid = qobject_cast<const QAbstractItemView*>(option.widget);
   if (!listed && grid != nullptr && grid->currentIndex() == index)
     DrawFrame(*painter, cell, focused ? accent : Ink(option.palette, kOtherMonthInk));
@@ -91,7 +92,7 @@ CalendarGrid::CalendarGrid(CalendarModel& model, DayDelegate& delegate, Events&&
   setItemDelegate(&delegate);
   setFrameShape(NoFrame);
   setShowGrid(false);
-  setSelectionMode(NoSelection);
+  setSelectionMode(SingleSelection);
   setEditTriggers(NoEditTriggers);
   setTabKeyNavigation(false);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

@@ -1,4 +1,5 @@
 # Fails unless an installation holds what the program and the desktop look for.
+set(id example.dayvane.Dayvane)
 set(expected ${BIN}/dayvane ${DATA}/dayvane/Dayvane.hlp ${DOC}/LICENSE ${DATA}/icons/hicolor/scalable/apps/dayvane.svg)
 foreach(size 16 22 24 32 48 64 128 256)
   list(APPEND expected ${DATA}/icons/hicolor/${size}x${size}/apps/dayvane.png)
@@ -22,8 +23,17 @@ foreach(size 16 22 24 32 48 64 128 256)
 endforeach()
 
 # The menu entry, the description and the icon must go by one name.
-file(STRINGS ${STAGE}/${DATA}/applications/dayvane.desktop entry REGEX "^Icon=dayvane$")
-file(STRINGS ${STAGE}/${DATA}/metainfo/example.dayvane.Dayvane.metainfo.xml launchable REGEX ">dayvane.desktop<")
+set(entry_file ${STAGE}/${DATA}/applications/${id}.desktop)
+file(STRINGS ${entry_file} entry REGEX "^Icon=dayvane$")
+file(STRINGS ${STAGE}/${DATA}/metainfo/${id}.metainfo.xml launchable REGEX ">${id}.desktop<")
 if(NOT entry OR NOT launchable)
   message(SEND_ERROR "the menu entry, the description and the icon do not find each other")
+endif()
+
+# A launcher calls the program by the entry's name, and the bus starts it by its path where it does not run.
+file(STRINGS ${entry_file} activatable REGEX "^DBusActivatable=true$")
+file(STRINGS ${STAGE}/${DATA}/dbus-1/services/${id}.service service_name REGEX "^Name=${id}$")
+file(STRINGS ${STAGE}/${DATA}/dbus-1/services/${id}.service exec REGEX "^Exec=")
+if(NOT activatable OR NOT service_name OR NOT exec STREQUAL "Exec=${STAGE}/${BIN}/dayvane")
+  message(SEND_ERROR "the bus does not start the program: ${exec}")
 endif()

@@ -22,11 +22,16 @@
 #include "linux/LinuxShellIcons.h"
 #include "linux/LinuxWindowing.h"
 #include "linux/ProgramWindows.h"
+#include "linux/activation/Activation.h"
+#include "linux/activation/ApplicationId.h"
+#include "linux/activation/BusApplication.h"
 #include "linux/files/NativePath.h"
 #include "linux/files/ProgramFolder.h"
 #include "linux/files/SingleInstance.h"
 #include "linux/forms/Appearance.h"
 #include "linux/glib/ErrorNet.h"
+#include "linux/widgets/Pictures.h"
+#include "resources/MResourceConstants.h"
 #include "shell/MDayvaneMain.h"
 
 namespace dayvane {
@@ -94,6 +99,9 @@ int Run() {
   EventSink events;
   const ReportEvent reportEvent = [&events](const std::string& text) { events.Report(text); };
   const std::optional<SingleInstance> instance = SingleInstance::Acquire(SingleInstance::Folder(environment));
+  // A launcher that calls for the window while this one starts finds it on the bus.
+  std::optional<activation::BusApplication> bus;
+  if (instance) bus.emplace(reportEvent);
   files::LinuxFileSystem files;
   LinuxShell shell(files, folders.data, reportEvent);
   LinuxShellIcons shellIcons(shell);
@@ -112,6 +120,8 @@ int Run() {
   widgets::ProgramWindows windows(windowing, dates,
                                   [&](int contextId, QPoint at) { help.ShowPopup(helpFile, contextId, at); });
   const SignalHandlers signals(windows);
+  std::optional<activation::Activation> activation;
+  if (bus) activation.emplace(*bus, windowing);
   program = Main(desktop, *programFolder, !instance,
                  {[&](FSplash& splash) { windows.Present(splash); },
                   [&](FMainControls& mainWindow, Application& application) {
@@ -120,9 +130,11 @@ int Run() {
                     windows.Present(mainWindow);
                     KeepHelpInFront(help, mainWindow);
                   }});
-  int result = program.mainWindow ? 0 : kFailure;
-  if (program.mainWindow && !program.mainWindow->form.IsUnloaded())
+  int result = program.mainWindow || !instance ? 0 : kFailure;
+  if (program.mainWindow && !program.mainWindow->form.IsUnloaded()) {
+    if (activation) activation->Serve(*program.mainWindow);
     result = RunEventLoop([&windows] { windows.EndSession(); });
+  }
   events.SetLog(nullptr);
   return result;
 }
@@ -138,7 +150,8 @@ int main(int argc, char** argv) {
   const dayvane::NetApplication qt(argc, argv);
   QApplication::setApplicationName(QStringLiteral("dayvane"));
   QApplication::setApplicationDisplayName(QString());
-  QApplication::setDesktopFileName(QStringLiteral("dayvane"));
+  QApplication::setDesktopFileName(QLatin1String(dayvane::activation::kApplicationId));
+  QApplication::setWindowIcon(dayvane::PictureIcon(dayvane::kNormalIcon));
   QApplication::setQuitOnLastWindowClosed(false);
   try {
     return dayvane::Run();

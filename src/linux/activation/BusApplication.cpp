@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: MIT
+#include "linux/activation/BusApplication.h"
+
+#include <cstring>
+#include <utility>
+
+#include "linux/activation/ApplicationId.h"
+#include "linux/glib/ErrorNet.h"
+
+namespace dayvane::activation {
+
+namespace {
+
+using Act = std::function<void()>;
+
+constexpr const char* kToken = "dayvane-token";
+constexpr std::size_t kLongestToken = 256;  ///< those of the window systems have less than a hundred characters
+
+void RunCommand(GSimpleAction* /*action*/, GVariant* /*parameter*/, gpointer act) {
+  CatchErrors(kHidingShowingSuspendingResuming, *static_cast<const Act*>(act));
+}
+
+void FreeCommand(gpointer act, GClosure* /*closure*/) {
+  delete static_cast<Act*>(act);
+}
+
+/// The callers' right to have a window in the front. It comes beside the call, where only a class derived from the
+/// application's can read it.
+void KeepToken(GApplication* application, GVariant* circumstances) {
+  const char* token = "";
+  for (const char* name : {"desktop-startup-id", "activation-token"})
+    g_variant_lookup(circumstances, name, "&s", &token);
+  const bool isFine = std::strlen(token) <= kLongestToken;
+  g_object_set_data_full(G_OBJECT(application), kToken, g_strdup(isFine ? token : ""), g_free);
+}
+
+void InitClass(gpointer type, gpointer /*data*/) {
+  static_cast<GApplicationClass*>(type)->before_emit = KeepToken;
+}
+
+GType TypeOfApplication() {
+  static const GType type = [] {
+    GTypeQuery parent{};
+    g_type_query(G_TYPE_APPLICATION, &parent);
+    return g_type_register_static_simple(G_TYPE_APPLICATION, "DayvaneBusApplication", parent.class_size, InitClass,
+                                         parent.instance_size, nullptr, static_cast<GTypeFlags>(0));
+  }();
+  return type;
+}
+
+void WasActivated(GApplication* application, gpointer self) {
+  const auto* token = static_cast<const char*>(g_object_get_data(G_OBJECT(application), kToken));
+  CatchErrors(kHidingShowingSuspendingResuming,
+              [&] { static_cast<BusApplication*>(self)->Activated.Raise(token != nullptr ? token : ""); });
+}
+
+}  // namespace
+
+BusApplication::BusApplication(const ReportEvent& reportEvent)
+    : m_application(G_APPLICATION(g_object_new(TypeOfApplication(), "application-id", kApplicationId, nullptr))) {
+  glib::Failure failure;
+  const bool isRegistered = g_application_register(m_application.get(), nullptr, failure.Slot()) != FALSE;
+  const bool isTaken = isRegistered && g_application_get_is_remote(m_application.get()) != FALSE;
+  if (!isRegistered || isTaken)
+    reportEvent("Launchers cannot call the program: " + (isTaken ? "another one has its name" : failure.Message()));
+  GDBusConnection* connection = isRegistered ? g_application_get_dbus_connection(m_application.get()) : nullptr;
+  // By default the program would be ended when the bus goes. The record must go on.
+  if (connection != nullptr) g_dbus_connection_set_exit_on_close(connection, FALSE);
+  if (connection == nullptr || isTaken) {
+    m_application.reset();
+    return;
+  }
+  g_signal_connect(m_application.get(), "activate", G_CALLBACK(WasActivated), this);
+}
+
+BusApplication::~BusApplication() {
+  if (!IsOnBus()) return;
+  const glib::Object<GDBusConnection> connection(G_DBUS_CONNECTION(g_object_ref(Connection())));
+  m_application.reset();
+  // The application has said so already, but does not wait until the bus has heard it.
+  constexpr int kPatience = 1000;  // milliseconds
+  const glib::Variant released(g_dbus_connection_call_sync(
+      connection.get(), "org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus", "ReleaseName",
+      g_variant_new("(s)", kApplicationId), nullptr, G_DBUS_CALL_FLAGS_NONE, kPatience, nullptr, nullptr));
+}
+
+GDBusConnection* BusApplication::Connection() const {
+  return m_application ? g_application_get_dbus_connection(m_application.get()) : nullptr;
+}
+
+void BusApplication::AddCommand(const char* name, std::function<void()> act) {
+  if (!m_application) return;
+  const glib::Object<GSimpleAction> action(g_simple_action_new(name, nullptr));
+  auto kept = std::make_unique<Act>(std::move(act));
+  g_signal_connect_data(action.get(), "activate", G_CALLBACK(RunCommand), kept.release(), FreeCommand,
+                        static_cast<GConnectFlags>(0));
+  g_action_map_add_action(G_ACTION_MAP(m_application.get()), G_ACTION(action.get()));
+}
+
+void BusApplication::SetCommandEnabled(const char* name, bool isEnabled) {
+  if (!m_application) return;
+  GAction* action = g_action_map_lookup_action(G_ACTION_MAP(m_application.get()), name);
+  if (action != nullptr) g_simple_action_set_enabled(G_SIMPLE_ACTION(action), isEnabled ? TRUE : FALSE);
+}
+
+}  // namespace dayvane::activation

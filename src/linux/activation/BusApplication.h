@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "base/ReportEvent.h"
+#include "controls/Signal.h"
+#include "linux/glib/GlibHandles.h"
+
+namespace dayvane::activation {
+
+/// The program on the session bus, where launchers call it instead of starting it a second time: they activate it, and
+/// they choose among its commands. Without a bus, or where somebody else has the name, nobody ever calls.
+///
+/// For the one running instance alone, which holds its lock: a name that is taken is never a reason to end.
+class BusApplication {
+ public:
+  explicit BusApplication(const ReportEvent& reportEvent);
+  BusApplication(const BusApplication&) = delete;
+  BusApplication& operator=(const BusApplication&) = delete;
+
+  /// Gives the name back before it returns, so that the next start finds it free.
+  ~BusApplication();
+
+  bool IsOnBus() const { return Connection() != nullptr; }
+
+  /// Where its name is owned; nullptr when it is not on the bus.
+  GDBusConnection* Connection() const;
+
+  /// A command by its name on the bus.
+  void AddCommand(const char* name, std::function<void()> act);
+  void SetCommandEnabled(const char* name, bool isEnabled);
+
+  /// The user wants the window. `token` is what the window system is shown for the right to come to the front; empty
+  /// where the caller has none.
+  controls::Signal<const std::string&> Activated;
+
+ private:
+  glib::Object<GApplication> m_application;  ///< nullptr when it is not on the bus
+};
+
+}  // namespace dayvane::activation

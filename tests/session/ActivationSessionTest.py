@@ -1,0 +1,158 @@
+"""One click in a launcher brings the window back, whatever hid it, and starts the program where it does not run."""
+
+import unittest
+
+from dayvane_program import WINDOW_TITLE
+from launcher import NAME, Launcher
+from private_desktop import PrivateDesktop, need
+from session_case import SessionTest
+from user import SOON_SECONDS
+from waiting import stays, wait_until
+
+ALL_THE_SCREEN = "1280x1024+0+0"
+A_WHILE_SECONDS = 2
+
+
+class LauncherTest(SessionTest):
+    """A desktop that finds the installed menu entry and the service of the bus."""
+
+    @classmethod
+    def make_desktop(cls):
+        desktop = PrivateDesktop()
+        desktop.environment["XDG_DATA_DIRS"] = f"{desktop.folder}/stage/share:{desktop.environment['XDG_DATA_DIRS']}"
+        return desktop
+
+    @classmethod
+    def arrange(cls):
+        super().arrange()
+        cls.launcher = Launcher(cls.desktop.environment["DBUS_SESSION_BUS_ADDRESS"])
+
+    @classmethod
+    def is_shown(cls):
+        return bool(cls.desktop.windows(WINDOW_TITLE))
+
+    @classmethod
+    def in_front(cls):
+        """The title of the window that has the keyboard."""
+        return cls.desktop.run(["xdotool", "getactivewindow", "getwindowname"], check=False).strip()
+
+    @classmethod
+    def cover(cls):
+        """Puts another program's window over all others and gives it the keyboard."""
+        need("xev")
+        other = cls.desktop.start(["xev", "-name", "Another program", "-geometry", ALL_THE_SCREEN])
+        cls.addClassCleanup(other.kill)
+        cls.desktop.run(["xdotool", "windowactivate", "--sync", cls.desktop.window("Another program")])
+        return other
+
+
+class OneClick(LauncherTest):
+    def setUp(self):
+        self.launcher.click()
+        self.wait_for(True, self.is_shown)
+
+    def test_brings_back_a_window_that_was_closed(self):
+        self.desktop.run(["wmctrl", "-c", "Dayvane - Daily"])
+        self.wait_for(False, self.is_shown)
+        self.launcher.click()
+        self.wait_for("Dayvane - Daily", self.in_front)
+
+    def test_brings_back_a_window_that_was_minimised(self):
+        self.desktop.run(["xdotool", "windowminimize", self.desktop.window(WINDOW_TITLE)])
+        self.wait_for(False, self.is_shown)
+        self.launcher.click()
+        self.wait_for("Dayvane - Daily", self.in_front)
+
+    def test_brings_a_window_to_the_front_that_others_cover(self):
+        other = self.cover()
+        self.assertEqual(self.in_front(), "Another program")
+        self.launcher.click()
+        self.wait_for("Dayvane - Daily", self.in_front)
+        other.kill()
+
+    def test_starts_no_second_program_where_the_menu_entry_is_launched(self):
+        before = self.desktop.processes()
+        self.desktop.run(["wmctrl", "-c", "Dayvane - Daily"])
+        self.wait_for(False, self.is_shown)
+        self.desktop.run(["gapplication", "launch", NAME])
+        self.wait_for(True, self.is_shown)
+        self.assertEqual(self.desktop.processes(), before)
+
+
+class TheIconsMenu(LauncherTest):
+    def test_suspends_and_resumes_and_offers_what_the_tray_offers(self):
+        self.wait_for(["exit", "suspend"], self.launcher.offered)
+        self.launcher.choose("suspend")
+        self.wait_for(["Resume", "Hide", "Exit"], lambda: self.user.menu("Dayvane"))
+        self.wait_for(["exit", "resume"], self.launcher.offered)
+        self.launcher.choose("resume")
+        self.wait_for(["Suspend", "Hide", "Exit"], lambda: self.user.menu("Dayvane"))
+
+    def test_waits_while_a_box_is_open(self):
+        self.user.choose("Help", "About Dayvane")
+        self.wait_for_box()
+        self.launcher.choose("suspend")
+        stays(lambda: self.launcher.offered() == ["exit", "suspend"], A_WHILE_SECONDS, "not suspended")
+        self.user.press("OK")
+        self.wait_for(["exit", "resume"], self.launcher.offered)
+        self.launcher.choose("resume")
+        self.wait_for(["exit", "suspend"], self.launcher.offered)
+
+    def test_works_where_a_launcher_runs_the_commands_of_the_entry(self):
+        self.desktop.run(["gapplication", "action", NAME, "suspend"])
+        self.wait_for(["exit", "resume"], self.launcher.offered)
+        self.desktop.run(["gapplication", "action", NAME, "resume"])
+        self.wait_for(["exit", "suspend"], self.launcher.offered)
+
+
+class TheIconsExit(LauncherTest):
+    def test_ends_the_program_well_and_leaves_the_bus_without_it(self):
+        self.launcher.choose("exit")
+        self.dayvane.wait_for_end()
+        self.assertFalse(self.launcher.is_running())
+
+
+class AClickWhileNothingRuns(LauncherTest):
+    """The program was hidden when it ended, and would begin so."""
+
+    @classmethod
+    def setUpClass(cls):
+        cls.arrange()
+        cls.dayvane.write_settings(Window={"Visible": "False"})
+
+    def test_starts_the_program_with_its_window(self):
+        self.launcher.click()
+        self.wait_for(True, self.is_shown)
+        self.assertTrue(self.launcher.is_running())
+        self.launcher.choose("exit")
+        self.wait_for(False, self.launcher.is_running)
+
+
+class ASecondProcess(LauncherTest):
+    """Says that the program runs and ends well; the first is neither disturbed nor brought forward."""
+
+    @classmethod
+    def setUpClass(cls):
+        super().setUpClass()
+        cls.icon = cls.icon_of(cls.desktop.window(WINDOW_TITLE))
+        cls.desktop.run(["wmctrl", "-c", "Dayvane - Daily"])
+        cls.wait_for(False, cls.is_shown)
+
+    @classmethod
+    def icon_of(cls, window):
+        return cls.desktop.run(["xprop", "-id", window, "_NET_WM_ICON"])
+
+    def test_ends_well_and_leaves_a_hidden_window_hidden(self):
+        second = self.desktop.start([self.dayvane.executable])
+        reader = self.desktop.screen_reader(second)
+        wait_until(reader.windows, SOON_SECONDS, "a message of the second process")
+        self.assertEqual(reader.windows()[0]["texts"], ["Dayvane is already loaded."])
+        box = self.desktop.run(["xdotool", "search", "--onlyvisible", "--pid", second.pid]).split()[-1]
+        self.assertEqual(self.icon_of(box), self.icon)
+        reader.find("OK", "push button").act()
+        self.assertEqual(second.wait(SOON_SECONDS), 0)
+        stays(lambda: not self.is_shown(), A_WHILE_SECONDS, "a window that stays hidden")
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)

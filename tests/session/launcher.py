@@ -1,0 +1,49 @@
+"""A launcher of the desktop: it calls programs on the session bus by their names, as docks and menus do where the menu
+entry says that they may, and lets the bus start those that do not run.
+"""
+
+from accessible import call, connect
+from gi.repository import GLib
+
+NAME = "example.dayvane.Dayvane"
+PATH = "/example/dayvane/Dayvane"
+APPLICATION = "org.freedesktop.Application"
+NO_CIRCUMSTANCES = GLib.Variant("a{sv}", {})
+
+
+class Launcher:
+    """On the session bus of this address."""
+
+    def __init__(self, session_address):
+        self.bus = connect(session_address)
+
+    def click(self):
+        """A click on the program's icon in a dock."""
+        call(self.bus, NAME, PATH, f"{APPLICATION}.Activate", NO_CIRCUMSTANCES)
+
+    def choose(self, command):
+        """One of the commands in the icon's menu."""
+        call(
+            self.bus,
+            NAME,
+            PATH,
+            f"{APPLICATION}.ActivateAction",
+            GLib.Variant("s", command),
+            GLib.Variant("av", []),
+            NO_CIRCUMSTANCES,
+        )
+
+    def offered(self):
+        """The commands that can be chosen now."""
+        described = call(self.bus, NAME, PATH, "org.gtk.Actions.DescribeAll")
+        return sorted(name for name, (enabled, _, _) in described.items() if enabled)
+
+    def is_running(self):
+        """Whether the program has its name on the bus."""
+        return call(
+            self.bus,
+            "org.freedesktop.DBus",
+            "/org/freedesktop/DBus",
+            "org.freedesktop.DBus.NameHasOwner",
+            GLib.Variant("s", NAME),
+        )

@@ -10,8 +10,9 @@
 
 namespace dayvane::widgets {
 
-ProgramWindows::ProgramWindows(LinuxWindowing& windowing, const platform::DateConventions& dates, TopicHelp topicHelp)
-    : m_windowing(windowing), m_dates(dates), m_topicHelp(std::move(topicHelp)) {
+ProgramWindows::ProgramWindows(LinuxWindowing& windowing, const platform::DateConventions& dates,
+                               LauncherWatch& launcher, TopicHelp topicHelp)
+    : m_windowing(windowing), m_dates(dates), m_launcher(launcher), m_topicHelp(std::move(topicHelp)) {
   QObject::connect(qApp, &QGuiApplication::commitDataRequest, &m_context, [this] { EndSession(); });
 }
 
@@ -30,7 +31,7 @@ void ProgramWindows::Present(FSplash& splash) {
 
 void ProgramWindows::Present(FMainControls& mainWindow) {
   Open(m_main, mainWindow, m_icons, m_dates);
-  m_tray.emplace(mainWindow.tryMain, mainWindow.mnuSysTrayPopup, mainWindow.form, m_trayWatch);
+  m_tray.emplace(mainWindow.tryMain, mainWindow.mnuSysTrayPopup, mainWindow.form, m_trayWatch, m_launcher);
   if (m_sessionEnds) QTimer::singleShot(0, &m_context, [this] { EndSession(); });
   mainWindow.OptionsLoaded.Connect([this](FOptions& options) { Present(options); });
   // Not quit(): that asks every window first, and one that only hides when it is closed would refuse.

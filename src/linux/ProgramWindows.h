@@ -10,6 +10,7 @@
 #include "linux/forms/OptionsWindow.h"
 #include "linux/forms/SplashWindow.h"
 #include "linux/tray/DesktopTrayWatch.h"
+#include "linux/tray/LauncherWatch.h"
 #include "linux/tray/TrayPresenter.h"
 #include "linux/widgets/Icons.h"
 #include "platform/DateConventions.h"
@@ -23,7 +24,8 @@ class ProgramWindows {
   using TopicHelp = std::function<void(int contextId, QPoint at)>;
 
   /// All must outlive the windows.
-  ProgramWindows(LinuxWindowing& windowing, const platform::DateConventions& dates, TopicHelp topicHelp);
+  ProgramWindows(LinuxWindowing& windowing, const platform::DateConventions& dates, LauncherWatch& launcher,
+                 TopicHelp topicHelp);
   ProgramWindows(const ProgramWindows&) = delete;
   ProgramWindows& operator=(const ProgramWindows&) = delete;
   ~ProgramWindows();
@@ -47,6 +49,7 @@ class ProgramWindows {
   QObject m_context;  ///< of what is done later, unless the windows have gone
   LinuxWindowing& m_windowing;
   const platform::DateConventions& m_dates;
+  LauncherWatch& m_launcher;
   TopicHelp m_topicHelp;
   Icons m_icons;
   DesktopTrayWatch m_trayWatch;

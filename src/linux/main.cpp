@@ -25,6 +25,7 @@
 #include "linux/activation/Activation.h"
 #include "linux/activation/ApplicationId.h"
 #include "linux/activation/BusApplication.h"
+#include "linux/activation/GnomeShell.h"
 #include "linux/files/NativePath.h"
 #include "linux/files/ProgramFolder.h"
 #include "linux/files/SingleInstance.h"
@@ -100,8 +101,8 @@ int Run() {
   const ReportEvent reportEvent = [&events](const std::string& text) { events.Report(text); };
   const std::optional<SingleInstance> instance = SingleInstance::Acquire(SingleInstance::Folder(environment));
   // A launcher that calls for the window while this one starts finds it on the bus.
-  std::optional<activation::BusApplication> bus;
-  if (instance) bus.emplace(reportEvent);
+  activation::BusApplication bus;
+  if (instance) bus.Register(reportEvent);
   files::LinuxFileSystem files;
   LinuxShell shell(files, folders.data, reportEvent);
   LinuxShellIcons shellIcons(shell);
@@ -117,11 +118,11 @@ int Run() {
   const std::string helpFile = *programFolder + "\\Dayvane.hlp";
   Program program;
   std::optional<ErrorNet> net;
-  widgets::ProgramWindows windows(windowing, dates,
+  activation::GnomeShell gnomeShell(bus, registry);
+  widgets::ProgramWindows windows(windowing, dates, gnomeShell,
                                   [&](int contextId, QPoint at) { help.ShowPopup(helpFile, contextId, at); });
   const SignalHandlers signals(windows);
-  std::optional<activation::Activation> activation;
-  if (bus) activation.emplace(*bus, windowing);
+  activation::Activation activation(bus, windowing);
   program = Main(desktop, *programFolder, !instance,
                  {[&](FSplash& splash) { windows.Present(splash); },
                   [&](FMainControls& mainWindow, Application& application) {
@@ -132,7 +133,7 @@ int Run() {
                   }});
   int result = program.mainWindow || !instance ? 0 : kFailure;
   if (program.mainWindow && !program.mainWindow->form.IsUnloaded()) {
-    if (activation) activation->Serve(*program.mainWindow);
+    activation.Serve(*program.mainWindow);
     result = RunEventLoop([&windows] { windows.EndSession(); });
   }
   events.SetLog(nullptr);

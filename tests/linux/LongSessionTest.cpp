@@ -19,6 +19,7 @@
 #include "linux/ProgramWindows.h"
 #include "shell/MDayvaneMain.h"
 #include "tests/linux/PrivateDesktop.h"
+#include "tests/linux/tray/TestTray.h"
 #include "tests/support/TestDesktop.h"
 
 namespace dayvane {
@@ -125,7 +126,8 @@ class LongSession : public ::testing::Test {
   platform::DateConventions m_dates;
   platform::Desktop m_parts{m_files, m_shell, m_icons, m_registry, m_windowing, m_help, m_clock, m_dates};
   Program m_program;
-  widgets::ProgramWindows m_windows{m_windowing, m_dates, [](int, QPoint) {}};
+  testing::TestLauncher m_launcher;
+  widgets::ProgramWindows m_windows{m_windowing, m_dates, m_launcher, [](int, QPoint) {}};
 };
 
 TEST_F(LongSession, HoursOfPollsTakeNoMoreMemoryDescriptorsAndThreads) {

@@ -13,6 +13,7 @@
 #include "base/Error.h"
 #include "linux/ProgramWindows.h"
 #include "shell/MDayvaneMain.h"
+#include "tests/linux/tray/TestTray.h"
 #include "tests/support/TestDesktop.h"
 
 namespace dayvane::widgets {
@@ -69,7 +70,8 @@ class ProgramWindowsTest : public ::testing::Test {
   platform::Desktop m_desktop{m_test.files, m_test.shell, m_test.icons, m_test.registry,
                               m_windowing,  m_test.help,  m_test.clock, m_test.dates};
   Program m_program;
-  ProgramWindows m_windows{m_windowing, m_test.dates, [](int, QPoint) {}};
+  testing::TestLauncher m_launcher;
+  ProgramWindows m_windows{m_windowing, m_test.dates, m_launcher, [](int, QPoint) {}};
   QTimer m_watch;
   std::vector<std::string> m_boxes;
   QObject m_context;

@@ -3,8 +3,8 @@
 import unittest
 
 from dayvane_program import WINDOW_TITLE
-from launcher import NAME, Launcher
-from private_desktop import PrivateDesktop, need
+from launcher import NAME, Launcher, desktop_with_installation
+from private_desktop import need
 from session_case import SessionTest
 from user import SOON_SECONDS
 from waiting import stays, wait_until
@@ -18,9 +18,7 @@ class LauncherTest(SessionTest):
 
     @classmethod
     def make_desktop(cls):
-        desktop = PrivateDesktop()
-        desktop.environment["XDG_DATA_DIRS"] = f"{desktop.folder}/stage/share:{desktop.environment['XDG_DATA_DIRS']}"
-        return desktop
+        return desktop_with_installation()
 
     @classmethod
     def arrange(cls):

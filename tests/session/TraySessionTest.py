@@ -3,12 +3,15 @@
 import unittest
 
 from dayvane_program import WINDOW_TITLE
+from gnome_shell import GnomeShell
+from launcher import Launcher, desktop_with_installation
 from private_desktop import need
 from session_case import SessionTest
 from tray_item import TrayItem
 from user import RIGHT_BUTTON, SOON_SECONDS
-from waiting import wait_until
+from waiting import stays, wait_until
 
+A_WHILE_SECONDS = 4  # longer than a panel is waited for
 TINT2 = """panel_items = S
 panel_size = 200 40
 panel_position = bottom right horizontal
@@ -47,6 +50,20 @@ class TrayTest(SessionTest):
     @classmethod
     def is_shown(cls):
         return bool(cls.desktop.windows(WINDOW_TITLE))
+
+
+class StandIn:
+    """The small window in the place of an icon. It waits in the task bar."""
+
+    @classmethod
+    def open_stand_in(cls):
+        def waits():
+            lines = cls.desktop.run(["wmctrl", "-l"], check=False).splitlines()
+            return any(line.split(maxsplit=3)[-1] == "Dayvane" for line in lines)
+
+        wait_until(waits, SOON_SECONDS, "a small window in the task bar")
+        cls.desktop.run(["wmctrl", "-F", "-a", "Dayvane"])
+        cls.user.find_button("Show")
 
 
 class AnyTrayIcon:
@@ -89,14 +106,14 @@ class AnyTrayIcon:
         self.wait_for(None, self.user.box)
 
 
-class ATrayThatComesLater:
+class ATrayThatComesLater(StandIn):
     """The program was started without a tray, and its window hidden."""
 
     @classmethod
     def start(cls):
         cls.dayvane.start()
         cls.desktop.run(["wmctrl", "-i", "-c", cls.desktop.window(WINDOW_TITLE)])
-        cls.user.find_button("Show")
+        cls.open_stand_in()
         cls.start_tray()
 
     def test_has_the_icon_in_place_of_the_small_window(self):
@@ -185,28 +202,42 @@ class APanelThatComesLater(Panel, ATrayThatComesLater, TrayTest):
     pass
 
 
-class ADesktopWithoutATray(SessionTest):
+class ADesktopWithoutATray(StandIn, SessionTest):
     """There is another way back to a hidden window."""
 
     def hide(self):
         self.desktop.run(["wmctrl", "-i", "-c", self.desktop.window(WINDOW_TITLE)])
         self.wait_for([], lambda: self.desktop.windows(WINDOW_TITLE))
 
+    def test_has_the_small_window_in_nobodys_way(self):
+        self.hide()
+        self.wait_for("Iconic", self.state_of_stand_in)
+        self.open_stand_in()
+        self.user.press("Show")
+        self.wait_for(["Dayvane - Daily"], self.user.titles)
+
+    def state_of_stand_in(self):
+        told = self.desktop.run(["xprop", "-name", "Dayvane", "WM_STATE"], check=False)
+        return next((state for state in ("Iconic", "Normal") if f"window state: {state}" in told), None)
+
     def test_hides_the_window_that_is_closed_and_goes_on_filing(self):
         self.hide()
         self.open_elsewhere("Letter.txt")
         self.wait_for_filed("Letter.txt")
+        self.open_stand_in()
         self.user.press("Show")
         self.desktop.window(WINDOW_TITLE)
 
     def test_offers_what_the_tray_would(self):
         self.hide()
+        self.open_stand_in()
         self.wait_for(["Show", "Suspend", "About Dayvane", "Exit"], lambda: self.wait_for_box()["buttons"])
         self.user.press("Show")
         self.wait_for(["Dayvane - Daily"], self.user.titles)
 
     def test_shows_the_window_that_its_own_menu_hid(self):
         self.user.choose("Dayvane", "Hide")
+        self.open_stand_in()
         self.wait_for(["Show", "Suspend", "About Dayvane", "Exit"], lambda: self.wait_for_box()["buttons"])
         self.user.press("Show")
         self.wait_for(["Dayvane - Daily"], self.user.titles)
@@ -215,9 +246,54 @@ class ADesktopWithoutATray(SessionTest):
         window = self.desktop.window(WINDOW_TITLE)
         place = self.desktop.placed(window)
         self.desktop.run(["xdotool", "windowminimize", window])
+        self.open_stand_in()
         self.user.press("Show")
         self.wait_for([window], lambda: self.desktop.windows(WINDOW_TITLE))
         self.wait_for(place, lambda: self.desktop.placed(window))
+
+
+class GnomesDash(SessionTest):
+    """Brings a hidden window back by its own icon for the program, so that nothing stands in for one."""
+
+    @classmethod
+    def make_desktop(cls):
+        return desktop_with_installation()
+
+    @classmethod
+    def setUpClass(cls):
+        cls.arrange()
+        cls.dayvane.write_settings()
+        cls.shell = GnomeShell(cls.desktop.environment["DBUS_SESSION_BUS_ADDRESS"])
+        cls.launcher = Launcher(cls.desktop.environment["DBUS_SESSION_BUS_ADDRESS"])
+        cls.dayvane.start()
+
+    def hide(self):
+        self.desktop.run(["wmctrl", "-c", "Dayvane - Daily"])
+        self.wait_for([], lambda: self.desktop.windows(WINDOW_TITLE))
+
+    def test_is_told_of_once_and_brings_the_window_back_each_time(self):
+        for _ in range(2):
+            self.hide()
+            self.wait_for(["Dayvane goes on recording"], self.shell.notifications)
+            self.assertEqual(self.desktop.windows("^Dayvane$"), [])
+            self.launcher.click()
+            self.wait_for(["Dayvane - Daily"], self.user.titles)
+        self.dayvane.stop()
+        self.dayvane.start()
+        self.hide()
+        stays(lambda: len(self.shell.notifications()) == 1, A_WHILE_SECONDS, "no second notification")
+        self.assertNotIn("Dayvane\n", self.desktop.run(["wmctrl", "-l"]))
+        self.launcher.click()
+        self.wait_for(["Dayvane - Daily"], self.user.titles)
+
+
+class GnomesDashThatGoes(StandIn, GnomesDash):
+    def test_is_told_of_once_and_brings_the_window_back_each_time(self):
+        """Leaves a small window in its place."""
+        self.hide()
+        self.wait_for(["Dayvane goes on recording"], self.shell.notifications)
+        self.shell.leave()
+        self.open_stand_in()
 
 
 class TheExit(SessionTest):

@@ -4,11 +4,21 @@ entry says that they may, and lets the bus start those that do not run.
 
 from accessible import call, connect
 from gi.repository import GLib
+from private_desktop import PrivateDesktop
 
 NAME = "example.dayvane.Dayvane"
 PATH = "/example/dayvane/Dayvane"
 APPLICATION = "org.freedesktop.Application"
 NO_CIRCUMSTANCES = GLib.Variant("a{sv}", {})
+
+
+def desktop_with_installation():
+    """A desktop that finds the program, its menu entry and the service of the bus where the tests install them."""
+    desktop = PrivateDesktop()
+    stage = desktop.folder / "stage"
+    desktop.environment["XDG_DATA_DIRS"] = f"{stage}/share:{desktop.environment['XDG_DATA_DIRS']}"
+    desktop.environment["PATH"] = f"{stage}/bin:{desktop.environment['PATH']}"
+    return desktop
 
 
 class Launcher:

@@ -17,7 +17,7 @@ namespace dayvane::activation {
 /// and the user has answered what is asked; what is asked before the main window has loaded waits for that too.
 class Activation {
  public:
-  /// Both must outlive this.
+  /// Both must outlive this. A bus that registers later does not learn of the commands.
   Activation(BusApplication& bus, platform::Windowing& windowing);
 
   /// Serves the main window, which has loaded and must outlive this.

@@ -56,8 +56,8 @@ void WasActivated(GApplication* application, gpointer self) {
 
 }  // namespace
 
-BusApplication::BusApplication(const ReportEvent& reportEvent)
-    : m_application(G_APPLICATION(g_object_new(TypeOfApplication(), "application-id", kApplicationId, nullptr))) {
+void BusApplication::Register(const ReportEvent& reportEvent) {
+  m_application.reset(G_APPLICATION(g_object_new(TypeOfApplication(), "application-id", kApplicationId, nullptr)));
   glib::Failure failure;
   const bool isRegistered = g_application_register(m_application.get(), nullptr, failure.Slot()) != FALSE;
   const bool isTaken = isRegistered && g_application_get_is_remote(m_application.get()) != FALSE;
@@ -66,10 +66,7 @@ BusApplication::BusApplication(const ReportEvent& reportEvent)
   GDBusConnection* connection = isRegistered ? g_application_get_dbus_connection(m_application.get()) : nullptr;
   // By default the program would be ended when the bus goes. The record must go on.
   if (connection != nullptr) g_dbus_connection_set_exit_on_close(connection, FALSE);
-  if (connection == nullptr || isTaken) {
-    m_application.reset();
-    return;
-  }
+  if (connection == nullptr || isTaken) return m_application.reset();
   g_signal_connect(m_application.get(), "activate", G_CALLBACK(WasActivated), this);
 }
 
@@ -86,6 +83,20 @@ BusApplication::~BusApplication() {
 
 GDBusConnection* BusApplication::Connection() const {
   return m_application ? g_application_get_dbus_connection(m_application.get()) : nullptr;
+}
+
+void BusApplication::Notify(const char* title, const char* text) {
+  if (!IsOnBus()) return;
+  // Not the application's own notifications: what serves them in GLib frees itself without end when they outlive it.
+  constexpr guint kNew = 0;
+  constexpr gint kUsualTime = -1;
+  GVariantBuilder hints;
+  g_variant_builder_init(&hints, G_VARIANT_TYPE_VARDICT);
+  g_variant_builder_add(&hints, "{sv}", "desktop-entry", g_variant_new_string(kApplicationId));
+  g_dbus_connection_call(
+      Connection(), "org.freedesktop.Notifications", "/org/freedesktop/Notifications", "org.freedesktop.Notifications",
+      "Notify", g_variant_new("(susssasa{sv}i)", "Dayvane", kNew, "dayvane", title, text, nullptr, &hints, kUsualTime),
+      nullptr, G_DBUS_CALL_FLAGS_NONE, -1, nullptr, nullptr, nullptr);
 }
 
 void BusApplication::AddCommand(const char* name, std::function<void()> act) {

@@ -11,14 +11,17 @@
 namespace dayvane::activation {
 
 /// The program on the session bus, where launchers call it instead of starting it a second time: they activate it, and
-/// they choose among its commands. Without a bus, or where somebody else has the name, nobody ever calls.
+/// they choose among its commands. Without a bus, or where it has not registered, nobody ever calls.
 ///
 /// For the one running instance alone, which holds its lock: a name that is taken is never a reason to end.
 class BusApplication {
  public:
-  explicit BusApplication(const ReportEvent& reportEvent);
+  BusApplication() = default;
   BusApplication(const BusApplication&) = delete;
   BusApplication& operator=(const BusApplication&) = delete;
+
+  /// Takes the name, unless there is no bus or somebody else has it.
+  void Register(const ReportEvent& reportEvent);
 
   /// Gives the name back before it returns, so that the next start finds it free.
   ~BusApplication();
@@ -27,6 +30,9 @@ class BusApplication {
 
   /// Where its name is owned; nullptr when it is not on the bus.
   GDBusConnection* Connection() const;
+
+  /// Shows the user a notification; a desktop takes a click on it for one on the program's icon.
+  void Notify(const char* title, const char* text);
 
   /// A command by its name on the bus.
   void AddCommand(const char* name, std::function<void()> act);

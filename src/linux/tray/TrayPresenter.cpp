@@ -22,11 +22,12 @@ int ButtonOf(QSystemTrayIcon::ActivationReason reason) {
 }  // namespace
 
 TrayPresenter::TrayPresenter(controls::SystemTray& control, controls::Menu& menu, controls::Form& form,
-                             TrayWatch& watch, std::chrono::milliseconds patience)
-    : m_control(control), m_form(form), m_watch(watch), m_menu(menu), m_standIn(Commands()) {
-  m_patience.setSingleShot(true);
-  m_patience.setInterval(patience);
-  QObject::connect(&m_patience, &QTimer::timeout, &m_patience, [this] { ShowStandIn(); });
+                             TrayWatch& watch, LauncherWatch& launcher, std::chrono::milliseconds patience)
+    : m_control(control),
+      m_form(form),
+      m_watch(watch),
+      m_menu(menu),
+      m_wayBack(form, watch, launcher, Commands(), patience) {
   m_connections.push_back(control.Changed.ConnectScoped([this] { Show(); }));
   m_connections.push_back(form.Changed.ConnectScoped([this] { Show(); }));
   m_connections.push_back(watch.Changed.ConnectScoped([this] { Show(); }));
@@ -35,6 +36,7 @@ TrayPresenter::TrayPresenter(controls::SystemTray& control, controls::Menu& menu
         command, &QAction::triggered, command, [this] { Activate(QSystemTrayIcon::Trigger); }, Qt::QueuedConnection);
   QObject::connect(&m_menu, &QMenu::aboutToShow, &m_menu, [this] { m_menu.SetDefaultItem(m_menu.FirstVisibleItem()); });
   Show();
+  m_wayBack.Follow();
 }
 
 QList<QAction*> TrayPresenter::Commands() {
@@ -64,16 +66,9 @@ void TrayPresenter::Activate(QSystemTrayIcon::ActivationReason reason) {
 
 void TrayPresenter::Show() {
   if (m_watch.IsThere() && m_control.Picture() != 0) ShowIcon();
-  const bool needed = !m_watch.IsThere() && !m_form.Visible() && !m_form.IsUnloaded();
-  if (!needed) {
-    m_patience.stop();
-    m_standIn.hide();
-  } else if (!m_standIn.isVisible() && !m_patience.isActive()) {
-    m_patience.start();
-  }
   m_show.setVisible(!m_form.Visible());
   m_hide.setVisible(m_form.Visible());
-  m_standIn.SetTip(QString::fromStdString(m_control.TipText()));
+  StandIn().SetTip(QString::fromStdString(m_control.TipText()));
   m_late.Changed(m_control.Picture() == kBusyIcon);
 }
 
@@ -81,7 +76,7 @@ void TrayPresenter::ShowPicture() {
   if (std::exchange(m_shownPicture, m_control.Picture()) == m_control.Picture()) return;
   const QIcon icon = PictureIcon(m_shownPicture);
   if (m_icon != nullptr) m_icon->setIcon(icon);
-  m_standIn.SetPicture(icon);
+  StandIn().SetPicture(icon);
 }
 
 void TrayPresenter::ShowIcon() {

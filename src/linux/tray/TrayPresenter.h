@@ -3,7 +3,6 @@
 
 #include <QAction>
 #include <QSystemTrayIcon>
-#include <QTimer>
 #include <chrono>
 #include <memory>
 #include <vector>
@@ -11,24 +10,24 @@
 #include "controls/Deferred.h"
 #include "controls/Form.h"
 #include "controls/SimpleControls.h"
-#include "linux/tray/TrayStandIn.h"
 #include "linux/tray/TrayWatch.h"
+#include "linux/tray/WayBack.h"
 #include "linux/widgets/LateShow.h"
 #include "linux/widgets/MenuPresenter.h"
 
 namespace dayvane::widgets {
 
 /// Shows the tray icon with its menu. The panel opens the menu by itself, so right clicks never reach the program;
-/// the menu's default item is its first visible one. While there is no tray and the main form is hidden, a stand-in
-/// window carries the menu's commands. Its Show and Hide follow the form and not the menu, which not every way of
-/// hiding the form updates: there would be no way back.
+/// the menu's default item is its first visible one. Without a tray there is another way back to a hidden main form.
+/// Its Show and Hide follow the form and not the menu, which not every way of hiding the form updates: there would be
+/// no way back.
 class TrayPresenter {
  public:
-  /// `patience`: how long a tray may be gone before the stand-in shows, for a panel that only starts anew.
+  /// `patience` is the WayBack's.
   TrayPresenter(controls::SystemTray& control, controls::Menu& menu, controls::Form& form, TrayWatch& watch,
-                std::chrono::milliseconds patience = std::chrono::seconds(3));
+                LauncherWatch& launcher, std::chrono::milliseconds patience = std::chrono::seconds(3));
 
-  TrayStandIn& StandIn() { return m_standIn; }
+  TrayStandIn& StandIn() { return m_wayBack.StandIn(); }
   MenuPresenter& Menu() { return m_menu; }
 
   /// What a click on the icon does.
@@ -38,7 +37,6 @@ class TrayPresenter {
   void Show();
   void ShowPicture();
   void ShowIcon();
-  void ShowStandIn() { m_standIn.show(); }
   QList<QAction*> Commands();  ///< of the stand-in
 
   controls::SystemTray& m_control;
@@ -47,9 +45,8 @@ class TrayPresenter {
   MenuPresenter m_menu;
   QAction m_show;
   QAction m_hide;
-  TrayStandIn m_standIn;
+  WayBack m_wayBack;
   std::unique_ptr<QSystemTrayIcon> m_icon;  ///< once there was a tray
-  QTimer m_patience;
   int m_shownPicture = 0;
   controls::Deferred m_deferred;
   LateShow m_late{[this] { ShowPicture(); }};

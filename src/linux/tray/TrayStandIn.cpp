@@ -3,6 +3,7 @@
 
 #include <QAction>
 #include <QCloseEvent>
+#include <QWindow>
 
 namespace dayvane::widgets {
 
@@ -33,6 +34,25 @@ void TrayStandIn::SetPicture(const QIcon& icon) {
 void TrayStandIn::SetTip(const QString& tip) {
   setWindowTitle(tip);
   m_tip.setText(tip);
+}
+
+void TrayStandIn::ShowInTaskBar() {
+  setWindowState(windowState() & ~Qt::WindowMinimized);
+  // A window that asks to be minimised before the window manager has put it on the screen is not.
+  winId();
+  windowHandle()->installEventFilter(this);
+  show();
+}
+
+bool TrayStandIn::eventFilter(QObject* object, QEvent* event) {
+  if (object == windowHandle() && event->type() == QEvent::Expose && windowHandle()->isExposed()) {
+    windowHandle()->removeEventFilter(this);
+    const auto minimise = [this] {
+      if (isVisible()) showMinimized();
+    };
+    QMetaObject::invokeMethod(this, minimise, Qt::QueuedConnection);
+  }
+  return QWidget::eventFilter(object, event);
 }
 
 void TrayStandIn::closeEvent(QCloseEvent* event) {

@@ -20,6 +20,11 @@ class TrayStandIn : public QWidget {
   void SetPicture(const QIcon& icon);
   void SetTip(const QString& tip);
 
+  /// Shows it where it is in nobody's way. A window manager that minimises nothing leaves it on the screen.
+  void ShowInTaskBar();
+
+  bool eventFilter(QObject* object, QEvent* event) override;
+
  protected:
   void closeEvent(QCloseEvent* event) override;
 

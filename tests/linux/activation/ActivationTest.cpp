@@ -26,6 +26,10 @@ constexpr const char* kNothing = R"(<node><interface name="org.example.Nothing"/
 /// The program on a bus, and a launcher that calls it.
 class ActivationTest : public ::testing::Test {
  protected:
+  ActivationTest() {
+    m_bus->Register(m_report);
+    m_activation.emplace(*m_bus, m_main.desktop.windowing);
+  }
   ~ActivationTest() override { Settle(); }
 
   /// Brings the program to the point where its event loop begins.
@@ -80,8 +84,8 @@ class ActivationTest : public ::testing::Test {
   std::vector<std::string> m_events;
   ReportEvent m_report = [this](const std::string& event) { m_events.push_back(event); };
   MainWindow m_main;
-  std::optional<BusApplication> m_bus{std::in_place, m_report};
-  std::optional<Activation> m_activation{std::in_place, *m_bus, m_main.desktop.windowing};
+  std::optional<BusApplication> m_bus{std::in_place};
+  std::optional<Activation> m_activation;
   BusCaller m_launcher{m_session};
 };
 
@@ -267,7 +271,8 @@ TEST_F(ActivationTest, TheProgramGoesOnWhenTheBusDies) {
 
 TEST(Activation, WithoutABusTheProgramIsAsItWas) {
   std::vector<std::string> events;
-  BusApplication bus([&](const std::string& event) { events.push_back(event); });
+  BusApplication bus;
+  bus.Register([&](const std::string& event) { events.push_back(event); });
   MainWindow main;
   Activation activation(bus, main.desktop.windowing);
   main.Load();
@@ -283,7 +288,8 @@ TEST(Activation, ANameThatAnotherProgramHasIsToldOnceAndNobodyIsDisturbed) {
   const BusService other(session, kApplicationId, kPath, kNothing,
                          [&](const std::string& name, GVariant*, GDBusMethodInvocation*) { calls.push_back(name); });
   std::vector<std::string> events;
-  BusApplication bus([&](const std::string& event) { events.push_back(event); });
+  BusApplication bus;
+  bus.Register([&](const std::string& event) { events.push_back(event); });
   MainWindow main;
   Activation activation(bus, main.desktop.windowing);
   main.Load();

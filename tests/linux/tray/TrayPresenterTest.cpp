@@ -9,25 +9,15 @@
 #include "linux/tray/TrayPresenter.h"
 #include "linux/widgets/Pictures.h"
 #include "resources/MResourceConstants.h"
+#include "tests/linux/tray/TestTray.h"
 
 namespace dayvane::widgets {
 namespace {
 
+using dayvane::testing::TestLauncher;
+using dayvane::testing::TestTray;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
-
-/// A desktop that has a tray when the test says so.
-class TestTray : public TrayWatch {
- public:
-  bool IsThere() const override { return m_isThere; }
-  void Set(bool isThere) {
-    m_isThere = isThere;
-    Changed.Raise();
-  }
-
- private:
-  bool m_isThere = false;
-};
 
 /// Counts how often a window's icon changes.
 class IconChanges : public QObject {
@@ -64,7 +54,8 @@ class TrayPresenterTest : public ::testing::Test {
   controls::Menu m_menu{"Tray", {{"&Show"}, {"&Hide"}, {"-"}, {"E&xit"}}};
   controls::Form m_form;
   TestTray m_tray;
-  TrayPresenter m_presenter{m_control, m_menu, m_form, m_tray, std::chrono::milliseconds(0)};
+  TestLauncher m_launcher;
+  TrayPresenter m_presenter{m_control, m_menu, m_form, m_tray, m_launcher, std::chrono::milliseconds(0)};
   std::vector<int> m_buttons;
 };
 

@@ -31,6 +31,8 @@
 #include "linux/files/SingleInstance.h"
 #include "linux/forms/Appearance.h"
 #include "linux/glib/ErrorNet.h"
+#include "linux/session/Autostart.h"
+#include "linux/session/StartWithSession.h"
 #include "linux/widgets/Pictures.h"
 #include "resources/MResourceConstants.h"
 #include "shell/MDayvaneMain.h"
@@ -123,6 +125,9 @@ int Run() {
                                   [&](int contextId, QPoint at) { help.ShowPopup(helpFile, contextId, at); });
   const SignalHandlers signals(windows);
   activation::Activation activation(bus, windowing);
+  session::StartWithSession startWithSession(
+      bus, activation,
+      {files, session::DefaultAutostartFolder(), QCoreApplication::applicationFilePath().toStdString()});
   program = Main(desktop, *programFolder, !instance,
                  {[&](FSplash& splash) { windows.Present(splash); },
                   [&](FMainControls& mainWindow, Application& application) {
@@ -133,6 +138,7 @@ int Run() {
                   }});
   int result = program.mainWindow || !instance ? 0 : kFailure;
   if (program.mainWindow && !program.mainWindow->form.IsUnloaded()) {
+    startWithSession.Serve(*program.application);
     activation.Serve(*program.mainWindow);
     result = RunEventLoop([&windows] { windows.EndSession(); });
   }

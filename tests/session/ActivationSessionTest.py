@@ -3,6 +3,7 @@
 import unittest
 
 from dayvane_program import WINDOW_TITLE
+from gnome_shell import GnomeShell
 from launcher import NAME, Launcher, desktop_with_installation
 from private_desktop import need
 from session_case import SessionTest
@@ -11,6 +12,7 @@ from waiting import stays, wait_until
 
 ALL_THE_SCREEN = "1280x1024+0+0"
 A_WHILE_SECONDS = 2
+SESSION = ["start-with-session", "start-with-session-off", "start-with-session-on"]
 
 
 class LauncherTest(SessionTest):
@@ -79,10 +81,10 @@ class OneClick(LauncherTest):
 
 class TheIconsMenu(LauncherTest):
     def test_suspends_and_resumes_and_offers_what_the_tray_offers(self):
-        self.wait_for(["exit", "suspend"], self.launcher.offered)
+        self.wait_for(["exit", *SESSION, "suspend"], self.launcher.offered)
         self.launcher.choose("suspend")
         self.wait_for(["Resume", "Hide", "Exit"], lambda: self.user.menu("Dayvane"))
-        self.wait_for(["exit", "resume"], self.launcher.offered)
+        self.wait_for(["exit", "resume", *SESSION], self.launcher.offered)
         self.launcher.choose("resume")
         self.wait_for(["Suspend", "Hide", "Exit"], lambda: self.user.menu("Dayvane"))
 
@@ -90,17 +92,17 @@ class TheIconsMenu(LauncherTest):
         self.user.choose("Help", "About Dayvane")
         self.wait_for_box()
         self.launcher.choose("suspend")
-        stays(lambda: self.launcher.offered() == ["exit", "suspend"], A_WHILE_SECONDS, "not suspended")
+        stays(lambda: self.launcher.offered() == ["exit", *SESSION, "suspend"], A_WHILE_SECONDS, "not suspended")
         self.user.press("OK")
-        self.wait_for(["exit", "resume"], self.launcher.offered)
+        self.wait_for(["exit", "resume", *SESSION], self.launcher.offered)
         self.launcher.choose("resume")
-        self.wait_for(["exit", "suspend"], self.launcher.offered)
+        self.wait_for(["exit", *SESSION, "suspend"], self.launcher.offered)
 
     def test_works_where_a_launcher_runs_the_commands_of_the_entry(self):
         self.desktop.run(["gapplication", "action", NAME, "suspend"])
-        self.wait_for(["exit", "resume"], self.launcher.offered)
+        self.wait_for(["exit", "resume", *SESSION], self.launcher.offered)
         self.desktop.run(["gapplication", "action", NAME, "resume"])
-        self.wait_for(["exit", "suspend"], self.launcher.offered)
+        self.wait_for(["exit", *SESSION, "suspend"], self.launcher.offered)
 
 
 class TheIconsExit(LauncherTest):
@@ -108,6 +110,56 @@ class TheIconsExit(LauncherTest):
         self.launcher.choose("exit")
         self.dayvane.wait_for_end()
         self.assertFalse(self.launcher.is_running())
+
+
+class StartingWithTheSession(LauncherTest):
+    """Said and unsaid by the commands of the icon's menu; the user sees what came of it."""
+
+    @classmethod
+    def setUpClass(cls):
+        cls.arrange()
+        cls.shell = GnomeShell(cls.desktop.environment["DBUS_SESSION_BUS_ADDRESS"])
+        cls.folder = cls.desktop.config / "autostart"
+        cls.entry = cls.folder / f"{NAME}.desktop"
+        cls.folder.mkdir()
+        cls.old_entry = cls.folder / "dayvane.desktop"
+        cls.old_entry.write_text("[Desktop Entry]\nType=Application\nName=Dayvane\nExec=dayvane\n", encoding="utf-8")
+        cls.dayvane.write_settings()
+        cls.dayvane.start()
+        cls.user.find_button("Daily View")
+
+    def test_is_said_and_unsaid_and_the_entry_starts_this_program(self):
+        # What was copied by hand under an old name is one entry now.
+        self.wait_for([self.entry.name], lambda: [entry.name for entry in self.folder.iterdir()])
+        self.assertEqual(self.switch(), True)
+
+        self.launcher.choose("start-with-session-off")
+        self.wait_for([], lambda: list(self.folder.iterdir()))
+        self.wait_for(["Dayvane does not start with your session"], self.shell.notifications)
+        self.assertEqual(self.switch(), False)
+
+        self.launcher.choose("start-with-session")
+        self.wait_for([self.entry], lambda: list(self.folder.iterdir()))
+        self.wait_for(True, self.switch)
+        self.assertIn(f'Exec="{self.dayvane.executable}"', self.entry.read_text(encoding="utf-8"))
+        self.desktop.run(["desktop-file-validate", self.entry])
+
+    def test_says_so_where_another_program_has_that_name(self):
+        self.launcher.choose("start-with-session-off")
+        self.wait_for([], lambda: list(self.folder.iterdir()))
+        self.entry.write_text("[Desktop Entry]\nType=Application\nName=Other\nExec=other\n", encoding="utf-8")
+
+        self.launcher.choose("start-with-session-on")
+
+        self.assertIn("An error occurred setting options.", self.wait_for_box()["texts"])
+        self.user.press("OK")
+        self.wait_for(None, self.user.box)
+        self.assertIn("Exec=other", self.entry.read_text(encoding="utf-8"))
+        self.assertIn("example.dayvane.Dayvane.desktop", self.dayvane.errors()[-1])
+        self.entry.unlink()
+
+    def switch(self):
+        return self.launcher.state("start-with-session")
 
 
 class AClickWhileNothingRuns(LauncherTest):

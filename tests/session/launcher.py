@@ -48,6 +48,11 @@ class Launcher:
         described = call(self.bus, NAME, PATH, "org.gtk.Actions.DescribeAll")
         return sorted(name for name, (enabled, _, _) in described.items() if enabled)
 
+    def state(self, command):
+        """Whether a switch among them is on."""
+        _, _, states = call(self.bus, NAME, PATH, "org.gtk.Actions.Describe", GLib.Variant("s", command))
+        return states[0]
+
     def is_running(self):
         """Whether the program has its name on the bus."""
         return call(

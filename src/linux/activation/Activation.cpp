@@ -3,8 +3,8 @@
 
 #include <QApplication>
 #include <QWidget>
-#include <algorithm>
 #include <array>
+#include <utility>
 
 #include "controls/Keys.h"
 
@@ -16,8 +16,10 @@ struct Command {
   const char* name;
   int item;
 };
-constexpr std::array kCommands{Command{"suspend", kTraySuspend}, Command{"resume", kTrayResume},
+constexpr const char* kResume = "resume";
+constexpr std::array kCommands{Command{"suspend", kTraySuspend}, Command{kResume, kTrayResume},
                                Command{"exit", kTrayExit}};
+constexpr const char* kWindow = "";  ///< the wish for the window, which no command can have for a name
 
 /// Qt shows this to a Wayland compositor, which lets no window come to the front without it. The programs that are
 /// started later must not inherit it.
@@ -43,13 +45,22 @@ void BringQuestionToFront() {
 }  // namespace
 
 Activation::Activation(BusApplication& bus, platform::Windowing& windowing) : m_bus(bus), m_windowing(windowing) {
-  for (const auto& [name, item] : kCommands) Add(name, item, item != kTrayResume);
-  m_connections.push_back(bus.Activated.ConnectScoped([this](const std::string& token) { Ask(kTrayShow, token); }));
+  for (const auto& [name, item] : kCommands)
+    Offer(name, [this, number = item] { m_main->mnuSysTrayPopup.Choose(number); });
+  bus.SetCommandEnabled(kResume, false);
+  m_connections.push_back(bus.Activated.ConnectScoped([this](const std::string& token) {
+    Ask(kWindow, [this, token] { ShowWindow(token); });
+    QMetaObject::invokeMethod(&m_context, BringQuestionToFront, Qt::QueuedConnection);
+  }));
 }
 
-void Activation::Add(const char* name, int item, bool isEnabled) {
-  m_bus.AddCommand(name, [this, item] { Ask(item, {}); });
-  m_bus.SetCommandEnabled(name, isEnabled);
+void Activation::Offer(const std::string& name, Act act) {
+  m_bus.AddCommand(name, [this, name, command = std::move(act)] { Ask(name, command); });
+}
+
+void Activation::OfferSwitch(const std::string& name, bool isOn, std::function<void(bool)> set) {
+  m_bus.AddSwitch(name, isOn,
+                  [this, name, turn = std::move(set)](bool wanted) { Ask(name, [turn, wanted] { turn(wanted); }); });
 }
 
 void Activation::Serve(FMainControls& main) {
@@ -62,35 +73,27 @@ void Activation::Serve(FMainControls& main) {
     m_connections.push_back(main.mnuSysTrayPopup[number].Changed.ConnectScoped(follow));
     follow();
   }
-  for (const Wish& wish : m_wishes) Defer(wish.item);
+  for (const std::string& name : m_order) Defer(name);
 }
 
-void Activation::Ask(int item, const std::string& token) {
-  const auto same = std::find_if(m_wishes.begin(), m_wishes.end(), [&](const Wish& wish) { return wish.item == item; });
-  if (same != m_wishes.end()) {
-    same->token = token;
-  } else {
-    m_wishes.push_back({item, token});
-    if (m_main != nullptr) Defer(item);
-  }
-  if (item == kTrayShow) QMetaObject::invokeMethod(&m_context, BringQuestionToFront, Qt::QueuedConnection);
+void Activation::Ask(const std::string& name, Act act) {
+  const bool isNew = m_wishes.insert_or_assign(name, std::move(act)).second;
+  if (!isNew) return;
+  m_order.push_back(name);
+  if (m_main != nullptr) Defer(name);
 }
 
-void Activation::Defer(int item) {
+void Activation::Defer(const std::string& name) {
   // Later: who called is answered first.
   QMetaObject::invokeMethod(
-      &m_context, [this, item] { m_deferred.AfterWorkAndQuestions([this, item] { Fulfil(item); }); },
+      &m_context, [this, name] { m_deferred.AfterWorkAndQuestions([this, name] { Fulfil(name); }); },
       Qt::QueuedConnection);
 }
 
-void Activation::Fulfil(int item) {
-  const auto found =
-      std::find_if(m_wishes.begin(), m_wishes.end(), [&](const Wish& wish) { return wish.item == item; });
-  const Wish wish = *found;
-  m_wishes.erase(found);
-  if (m_main->form.IsUnloaded()) return;
-  if (item == kTrayShow) return ShowWindow(wish.token);
-  m_main->mnuSysTrayPopup.Choose(item);
+void Activation::Fulfil(const std::string& name) {
+  std::erase(m_order, name);
+  const Act act = std::move(m_wishes.extract(name).mapped());
+  if (!m_main->form.IsUnloaded()) act();
 }
 
 void Activation::ShowWindow(const std::string& token) {

@@ -16,12 +16,20 @@ using Act = std::function<void()>;
 constexpr const char* kToken = "dayvane-token";
 constexpr std::size_t kLongestToken = 256;  ///< those of the window systems have less than a hundred characters
 
+using Turn = std::function<void(bool wanted)>;
+
 void RunCommand(GSimpleAction* /*action*/, GVariant* /*parameter*/, gpointer act) {
   CatchErrors(kHidingShowingSuspendingResuming, *static_cast<const Act*>(act));
 }
 
-void FreeCommand(gpointer act, GClosure* /*closure*/) {
-  delete static_cast<Act*>(act);
+void TurnSwitch(GSimpleAction* /*action*/, GVariant* wanted, gpointer turn) {
+  CatchErrors(kHidingShowingSuspendingResuming,
+              [&] { (*static_cast<const Turn*>(turn))(g_variant_get_boolean(wanted) != FALSE); });
+}
+
+template <class Type>
+void FreeWithAction(gpointer data, GClosure* /*closure*/) {
+  delete static_cast<Type*>(data);
 }
 
 /// The callers' right to have a window in the front. It comes beside the call, where only a class derived from the
@@ -99,19 +107,38 @@ void BusApplication::Notify(const char* title, const char* text) {
       nullptr, G_DBUS_CALL_FLAGS_NONE, -1, nullptr, nullptr, nullptr);
 }
 
-void BusApplication::AddCommand(const char* name, std::function<void()> act) {
+void BusApplication::AddCommand(const std::string& name, std::function<void()> act) {
   if (!m_application) return;
-  const glib::Object<GSimpleAction> action(g_simple_action_new(name, nullptr));
-  auto kept = std::make_unique<Act>(std::move(act));
-  g_signal_connect_data(action.get(), "activate", G_CALLBACK(RunCommand), kept.release(), FreeCommand,
-                        static_cast<GConnectFlags>(0));
-  g_action_map_add_action(G_ACTION_MAP(m_application.get()), G_ACTION(action.get()));
+  const glib::Object<GSimpleAction> action(g_simple_action_new(name.c_str(), nullptr));
+  Add(action.get(), "activate", G_CALLBACK(RunCommand), std::make_unique<Act>(std::move(act)).release(),
+      FreeWithAction<Act>);
 }
 
-void BusApplication::SetCommandEnabled(const char* name, bool isEnabled) {
+void BusApplication::SetCommandEnabled(const std::string& name, bool isEnabled) {
+  if (GSimpleAction* action = Find(name)) g_simple_action_set_enabled(action, isEnabled ? TRUE : FALSE);
+}
+
+void BusApplication::AddSwitch(const std::string& name, bool isOn, std::function<void(bool)> set) {
   if (!m_application) return;
-  GAction* action = g_action_map_lookup_action(G_ACTION_MAP(m_application.get()), name);
-  if (action != nullptr) g_simple_action_set_enabled(G_SIMPLE_ACTION(action), isEnabled ? TRUE : FALSE);
+  const glib::Object<GSimpleAction> action(
+      g_simple_action_new_stateful(name.c_str(), nullptr, g_variant_new_boolean(isOn ? TRUE : FALSE)));
+  Add(action.get(), "change-state", G_CALLBACK(TurnSwitch), std::make_unique<Turn>(std::move(set)).release(),
+      FreeWithAction<Turn>);
+}
+
+void BusApplication::SetSwitch(const std::string& name, bool isOn) {
+  if (GSimpleAction* action = Find(name)) g_simple_action_set_state(action, g_variant_new_boolean(isOn ? TRUE : FALSE));
+}
+
+GSimpleAction* BusApplication::Find(const std::string& name) const {
+  if (!m_application) return nullptr;
+  return G_SIMPLE_ACTION(g_action_map_lookup_action(G_ACTION_MAP(m_application.get()), name.c_str()));
+}
+
+void BusApplication::Add(GSimpleAction* action, const char* signal, GCallback callback, gpointer data,
+                         GClosureNotify freeData) {
+  g_signal_connect_data(action, signal, callback, data, freeData, static_cast<GConnectFlags>(0));
+  g_action_map_add_action(G_ACTION_MAP(m_application.get()), G_ACTION(action));
 }
 
 }  // namespace dayvane::activation

@@ -35,14 +35,21 @@ class BusApplication {
   void Notify(const char* title, const char* text);
 
   /// A command by its name on the bus.
-  void AddCommand(const char* name, std::function<void()> act);
-  void SetCommandEnabled(const char* name, bool isEnabled);
+  void AddCommand(const std::string& name, std::function<void()> act);
+  void SetCommandEnabled(const std::string& name, bool isEnabled);
+
+  /// One that is on or off. It stays so until SetSwitch says what `set` has made of it.
+  void AddSwitch(const std::string& name, bool isOn, std::function<void(bool wanted)> set);
+  void SetSwitch(const std::string& name, bool isOn);
 
   /// The user wants the window. `token` is what the window system is shown for the right to come to the front; empty
   /// where the caller has none.
   controls::Signal<const std::string&> Activated;
 
  private:
+  GSimpleAction* Find(const std::string& name) const;
+  void Add(GSimpleAction* action, const char* signal, GCallback callback, gpointer data, GClosureNotify freeData);
+
   glib::Object<GApplication> m_application;  ///< nullptr when it is not on the bus
 };
 

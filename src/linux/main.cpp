@@ -31,6 +31,7 @@
 #include "linux/files/SingleInstance.h"
 #include "linux/forms/Appearance.h"
 #include "linux/glib/ErrorNet.h"
+#include "linux/search/DocumentSearch.h"
 #include "linux/session/Autostart.h"
 #include "linux/session/StartWithSession.h"
 #include "linux/widgets/Pictures.h"
@@ -140,6 +141,8 @@ int Run() {
   if (program.mainWindow && !program.mainWindow->form.IsUnloaded()) {
     startWithSession.Serve(*program.application);
     activation.Serve(*program.mainWindow);
+    const search::DocumentSearch search(bus, activation, *program.mainWindow, *program.application,
+                                        *program.repository);
     result = RunEventLoop([&windows] { windows.EndSession(); });
   }
   events.SetLog(nullptr);

@@ -20,6 +20,8 @@ RATIOS = [
     ("Sort_ColumnClick", "Sort_Yardstick_StableSort", 4),
     ("Sources_Unchanged", "Sources_Yardstick_Status", 3),
     ("Activities_ReadSinceLastLook", "Activities_Yardstick_Rows", 8),
+    ("Search_Key", "Search_Yardstick_BareNames", 4),
+    ("Search_FirstKey", "Search_Yardstick_Listing", 6),
 ]
 
 

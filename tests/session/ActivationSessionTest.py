@@ -1,5 +1,6 @@
 """One click in a launcher brings the window back, whatever hid it, and starts the program where it does not run."""
 
+import subprocess
 import unittest
 
 from dayvane_program import WINDOW_TITLE
@@ -69,6 +70,22 @@ class OneClick(LauncherTest):
         self.launcher.click()
         self.wait_for("Dayvane - Daily", self.in_front)
         other.kill()
+
+    def test_is_over_when_the_window_is_back(self):
+        """The dock is told so, and shows no longer that something is starting."""
+        messages = self.desktop.folder / "messages"
+        with open(messages, "wb") as file:
+            witness = subprocess.Popen(["xev", "-root"], stdout=file, env=self.desktop.environment)
+        self.addCleanup(witness.wait)
+        self.addCleanup(witness.kill)
+        self.desktop.run(["wmctrl", "-c", "Dayvane - Daily"])
+        self.wait_for(False, self.is_shown)
+
+        def told():
+            self.launcher.click("dock-4711_TIME0")  # again, until the witness listens
+            return "_NET_STARTUP_INFO)" in messages.read_text(encoding="utf-8", errors="replace")
+
+        wait_until(told, SOON_SECONDS, "the dock told")
 
     def test_starts_no_second_program_where_the_menu_entry_is_launched(self):
         before = self.desktop.processes()

@@ -27,9 +27,11 @@ class Launcher:
     def __init__(self, session_address):
         self.bus = connect(session_address)
 
-    def click(self):
-        """A click on the program's icon in a dock."""
-        call(self.bus, NAME, PATH, f"{APPLICATION}.Activate", NO_CIRCUMSTANCES)
+    def click(self, startup_id=None):
+        """A click on the program's icon in a dock, which shows that something starts as long as it has an identifier
+        that nobody has told to be started."""
+        told = {} if startup_id is None else {"desktop-startup-id": GLib.Variant("s", startup_id)}
+        call(self.bus, NAME, PATH, f"{APPLICATION}.Activate", GLib.Variant("a{sv}", told))
 
     def choose(self, command):
         """One of the commands in the icon's menu."""

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "controls/Keys.h"
+#include "linux/activation/StartupNotice.h"
 
 namespace dayvane::activation {
 
@@ -102,6 +103,7 @@ void Activation::ShowWindow(const std::string& token) {
   // As a click on the icon does it: not every way of hiding the window lets the tray's menu offer to show it.
   if (!m_main->form.Visible()) m_main->tryMain.MouseUp.Raise(controls::kLeftButton, kId);
   m_windowing.SetForegroundWindow(m_main->form);
+  TellStarted(token);
 }
 
 }  // namespace dayvane::activation

@@ -9,13 +9,13 @@ namespace dayvane::controls {
 
 const Picture& ImageList::At(int index) const {
   if (index < 1 || index > Count()) throw Error(kSubscriptOutOfRange, "No image of number " + std::to_string(index));
-  return m_pictures[static_cast<std::size_t>(index) - 1];
+  return m_images[static_cast<std::size_t>(index) - 1].picture;
 }
 
 int ImageList::Add(Picture picture, const std::string& key) {
   if (!key.empty() && !m_indexes.emplace(key, Count() + 1).second)
     throw Error(kKeyNotUnique, "Key is not unique in the image list: " + key);
-  m_pictures.push_back(std::move(picture));
+  m_images.push_back({std::move(picture), key});
   return Count();
 }
 
@@ -25,9 +25,10 @@ int ImageList::IndexOf(const std::string& key) const {
 }
 
 void ImageList::RemoveLast() {
-  if (m_pictures.empty()) throw Error(kSubscriptOutOfRange, "The image list is empty");
-  std::erase_if(m_indexes, [this](const auto& entry) { return entry.second == Count(); });
-  m_pictures.pop_back();
+  if (m_images.empty()) throw Error(kSubscriptOutOfRange, "The image list is empty");
+  // By its key, not by a search: a day's pictures are all removed before the next day is listed.
+  m_indexes.erase(m_images.back().key);
+  m_images.pop_back();
 }
 
 }  // namespace dayvane::controls

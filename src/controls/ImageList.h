@@ -14,7 +14,7 @@ using platform::Picture;
 /// Pictures numbered from 1, some of them with a key.
 class ImageList {
  public:
-  int Count() const { return static_cast<int>(m_pictures.size()); }
+  int Count() const { return static_cast<int>(m_images.size()); }
 
   /// Fails with kSubscriptOutOfRange outside 1 … Count.
   const Picture& At(int index) const;
@@ -29,7 +29,12 @@ class ImageList {
   void RemoveLast();
 
  private:
-  std::vector<Picture> m_pictures;
+  struct Image {
+    Picture picture;
+    std::string key;
+  };
+
+  std::vector<Image> m_images;
   std::unordered_map<std::string, int> m_indexes;
 };
 

@@ -7,6 +7,7 @@
 #include <sqlite3.h>
 #include <sys/stat.h>
 
+#include "bench/Bench.h"
 #include "links/ShellLinkFormat.h"
 #include "linux/LinuxClock.h"
 #include "linux/recent/KdeActivities.h"
@@ -19,7 +20,6 @@
 namespace dayvane {
 namespace {
 
-constexpr int kEvents = 100'000;
 constexpr std::int64_t kNine = 1795251600;  // 2026-11-21 09:00 UTC
 
 /// The home of a user who has everything that tells of openings.
@@ -62,6 +62,7 @@ void Sources_Unchanged(benchmark::State& state) {
     folder.Captured();
   }
   for (auto _ : state) folder.Refresh();
+  TellMemory(state);
 }
 
 /// One look at each place: the list and those of other programs, with the folders in which more can appear, the
@@ -83,11 +84,12 @@ void Sources_Yardstick_Status(benchmark::State& state) {
       struct stat status {};
       benchmark::DoNotOptimize(stat(path.c_str(), &status));
     }
+  TellMemory(state);
 }
 
-void AddEvents(testing::ActivityDatabase& kde) {
+void AddEvents(testing::ActivityDatabase& kde, std::int64_t events) {
   kde.Run("BEGIN");
-  for (int event = 0; event < kEvents; ++event)
+  for (std::int64_t event = 0; event < events; ++event)
     kde.Add("kate", "/home/ana/Documents/Document " + std::to_string(event % 5000) + ".txt", kNine + event,
             kNine + event);
   kde.Run("COMMIT");
@@ -97,13 +99,14 @@ void Activities_ReadSinceLastLook(benchmark::State& state) {
   Home home;
   recent::KdeActivities source(home.folder / home.kDatabase);
   const std::string memory = source.Read("").memory;
-  AddEvents(home.kde);
+  AddEvents(home.kde, state.range(0));
   for (auto _ : state) benchmark::DoNotOptimize(source.Read(memory).openings.size());
+  TellMemory(state);
 }
 
 void Activities_Yardstick_Rows(benchmark::State& state) {
   Home home;
-  AddEvents(home.kde);
+  AddEvents(home.kde, state.range(0));
   for (auto _ : state) {
     sqlite3* database = nullptr;
     sqlite3_stmt* rows = nullptr;
@@ -119,14 +122,17 @@ void Activities_Yardstick_Rows(benchmark::State& state) {
     sqlite3_finalize(rows);
     sqlite3_close(database);
   }
+  TellMemory(state);
 }
 
 BENCHMARK(Sources_Unchanged)->Unit(benchmark::kMicrosecond);
 BENCHMARK(Sources_Yardstick_Status)->Unit(benchmark::kMicrosecond);
-BENCHMARK(Activities_ReadSinceLastLook)->Unit(benchmark::kMillisecond);
-BENCHMARK(Activities_Yardstick_Rows)->Unit(benchmark::kMillisecond);
+
+void ByEvents(benchmark::internal::Benchmark* bench) {
+  bench->Unit(benchmark::kMillisecond)->ArgName("openings")->Arg(1'000)->Arg(10'000)->Arg(100'000);
+}
+BENCHMARK(Activities_ReadSinceLastLook)->Apply(ByEvents);
+BENCHMARK(Activities_Yardstick_Rows)->Apply(ByEvents);
 
 }  // namespace
 }  // namespace dayvane
-
-BENCHMARK_MAIN();

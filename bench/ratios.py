@@ -11,17 +11,19 @@ import json
 import subprocess
 import sys
 
-# What is measured, its yardstick, how many times the yardstick it may take.
+# What is measured, its yardstick, at what size, how many times the yardstick it may take.
 RATIOS = [
-    ("Poll_UnchangedShortcuts", "Poll_Yardstick_ReadLoop", 2),  # 1.5 on a disk, where reading costs more
-    ("FirstFiling_WithFavorites", "FirstFiling_Yardstick_CopyArchive", 3),
-    ("Rebuild_Repository", "Rebuild_Yardstick_ReadLoop", 3),
-    ("Tree_RefreshDaily", "Tree_Yardstick_FindFolders", 3),
-    ("Sort_ColumnClick", "Sort_Yardstick_StableSort", 4),
-    ("Sources_Unchanged", "Sources_Yardstick_Status", 3),
-    ("Activities_ReadSinceLastLook", "Activities_Yardstick_Rows", 8),
-    ("Search_Key", "Search_Yardstick_BareNames", 4),
-    ("Search_FirstKey", "Search_Yardstick_Listing", 6),
+    # 1.5 on a disk, where reading costs more
+    ("Poll_UnchangedShortcuts", "Poll_Yardstick_ReadLoop", "/shortcuts:10000", 2),
+    ("FirstFiling_WithFavorites", "FirstFiling_Yardstick_CopyArchive", "/shortcuts:10000", 3),
+    ("Rebuild_Repository", "Rebuild_Yardstick_ReadLoop", "/shortcuts:100000/years:1", 3),
+    ("Tree_RefreshDaily", "Tree_Yardstick_FindFolders", "/years:10", 3),
+    ("Day_Switch", "Day_Yardstick_BareTable", "/documents:10000/years:1", 8),
+    ("Sort_ColumnClick", "Sort_Yardstick_StableSort", "/rows:100000", 4),
+    ("Sources_Unchanged", "Sources_Yardstick_Status", "", 3),
+    ("Activities_ReadSinceLastLook", "Activities_Yardstick_Rows", "/openings:100000", 8),
+    ("Search_Key", "Search_Yardstick_BareNames", "", 4),
+    ("Search_FirstKey", "Search_Yardstick_Listing", "", 6),
 ]
 
 
@@ -29,9 +31,9 @@ RUNS = 3
 MILLISECONDS = {"ns": 1e-6, "us": 1e-3, "ms": 1.0, "s": 1e3}
 
 
-def measure(names):
-    """Milliseconds of each benchmark that is to be run and did not fail."""
-    pattern = "|".join(f"^{name}(/|$)" for name in names)
+def measure(sized_names):
+    """Milliseconds of each benchmark that is to be run and did not fail, by its name without the size."""
+    pattern = "|".join(f"^{name}(/|$)" for name in sized_names)
     times = {}
     for program in sys.argv[1:]:
         command = [program, "--benchmark_format=json", "--benchmark_filter=" + pattern]
@@ -44,17 +46,17 @@ def measure(names):
 
 def too_costly(ratios):
     """Measures the ratios and prints them; returns those that are too high or could not be measured."""
-    times = measure([name for ratio in ratios for name in ratio[:2]])
+    times = measure([name + size for *names, size, _ in ratios for name in names])
     costly = []
-    for name, yardstick, most in ratios:
+    for name, yardstick, size, most in ratios:
         mine, least = times.get(name), times.get(yardstick)
         if not mine or not least:
             print(f"{name:28} could not be measured")
-            costly.append((name, yardstick, most))
+            costly.append((name, yardstick, size, most))
             continue
         print(f"{name:28} {mine:9.3g} ms / {least:9.3g} ms = {mine / least:5.2f}  (at most {most})")
         if mine / least > most:
-            costly.append((name, yardstick, most))
+            costly.append((name, yardstick, size, most))
     return costly
 
 

@@ -21,6 +21,7 @@ recent::RecentFolder::Surroundings SurroundingsOf(const xdg::Environment& enviro
   recent::RecentFolder::Surroundings surroundings;
   surroundings.rules = recent::RulesOf(environment);
   surroundings.rules.isExcluded = [&exclusions](const recent::Opening& opening) { return exclusions.Covers(opening); };
+  surroundings.rules.areWishesKnown = [&exclusions] { return exclusions.AreKnown(); };
   surroundings.sources = recent::KnownProgramLists(environment.home, xdg::DataFolder(environment));
   surroundings.sources.push_back(std::make_unique<recent::KdeActivities>(recent::DefaultActivityDatabase()));
   surroundings.sources.push_back(std::make_unique<recent::LibreOfficePicks>(recent::DefaultLibreOfficeFolder()));

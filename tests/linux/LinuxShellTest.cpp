@@ -72,5 +72,25 @@ TEST_F(LinuxShellTest, WhatTheUserExcludesNeverReachesTheRecentFolder) {
   EXPECT_THAT(testing::ReadFile(m_folder / "state/Recent.state"), ::testing::Not(::testing::HasSubstr("Diary")));
 }
 
+TEST_F(LinuxShellTest, WhileNobodyKnowsWhatIsExcludedNothingIsRecordedAndNothingIsLost) {
+  std::filesystem::create_directories(m_folder / "config/dayvane");
+  std::filesystem::create_symlink(m_folder / "disk/exclude", m_folder / "config/dayvane/exclude");
+  m_folder.Write("share/recently-used.xbel",
+                 "<xbel>"
+                 "<bookmark href=\"file:///home/ana/Private/Diary.odt\" modified=\"2026-11-20T08:00:00Z\"/>"
+                 "<bookmark href=\"file:///home/ana/Report.odt\" modified=\"2026-11-20T08:00:00Z\"/>"
+                 "</xbel>");
+  const testing::EnvironmentVariable config("XDG_CONFIG_HOME", m_folder / "config");
+  const testing::EnvironmentVariable data("XDG_DATA_HOME", m_folder / "share");
+  LinuxShell shell(m_files, m_folder / "state", [](const std::string&) {});
+  for (int poll = 0; poll < 3; ++poll) shell.RefreshRecentFolder();
+  EXPECT_FALSE(std::filesystem::exists(m_folder / "state/Recent/Report.odt.lnk"));
+  EXPECT_FALSE(std::filesystem::exists(m_folder / "state/Recent/Diary.odt.lnk"));
+  m_folder.Write("disk/exclude", "/home/ana/Private\n");  // the disk that has the user's settings is there
+  shell.RefreshRecentFolder();
+  EXPECT_TRUE(std::filesystem::exists(m_folder / "state/Recent/Report.odt.lnk"));
+  EXPECT_FALSE(std::filesystem::exists(m_folder / "state/Recent/Diary.odt.lnk"));
+}
+
 }  // namespace
 }  // namespace dayvane

@@ -21,6 +21,7 @@ struct Rules {
   std::string portalFolder;             ///< see DocumentPortal
   MountTable drives;                    ///< without it no document is looked for
   std::function<bool(const Opening&)> isExcluded;  ///< by the user's wish; without it nothing is
+  std::function<bool()> areWishesKnown;            ///< without it they are
 };
 
 /// The rules of a user's desktop, without the user's wishes.
@@ -34,6 +35,9 @@ class Admission {
   explicit Admission(Rules rules) : m_rules(std::move(rules)), m_portal(m_rules.portalFolder) {}
 
   void Filter(Tidings& tidings);
+
+  /// Whether it can be said what may be recorded. Until then everything must stay where it is told.
+  bool IsOpen() const { return !m_rules.areWishesKnown || m_rules.areWishesKnown(); }
 
   /// Something new is told, which is worth asking a portal again that did not answer.
   void Wake() { m_portal.Wake(); }

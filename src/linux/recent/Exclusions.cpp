@@ -5,6 +5,8 @@
 #include <cstdlib>
 #include <fcntl.h>
 #include <memory>
+#include <sys/stat.h>
+#include <system_error>
 #include <unistd.h>
 #include <utility>
 
@@ -55,8 +57,16 @@ std::vector<std::string> NamesOf(const std::string& home) {
   return names;
 }
 
+/// A link to nowhere is something.
 bool IsNothingThere(const std::string& path) {
-  return access(path.c_str(), F_OK) != 0 && (errno == ENOENT || errno == ENOTDIR);
+  struct stat status {};
+  return lstat(path.c_str(), &status) != 0 && (errno == ENOENT || errno == ENOTDIR);
+}
+
+/// Why something that is there has nothing to read.
+std::string ObstacleAt(const std::string& path) {
+  struct stat status {};
+  return stat(path.c_str(), &status) == 0 ? "it is no file" : std::generic_category().message(errno);
 }
 
 std::string ReadRules(const std::string& path) {
@@ -81,6 +91,7 @@ Exclusions::Exclusions(std::string file, const std::string& home, ReportEvent re
   } catch (const Error& error) {
     m_reportEvent("Exclusions: the example cannot be written: " + std::string(error.what()));
   }
+  m_isMissing = IsNothingThere(m_file);
 }
 
 void Exclusions::MakeExample() {
@@ -100,21 +111,31 @@ void Exclusions::MakeExample() {
 void Exclusions::Refresh() {
   const auto version = VersionOf(m_file);
   if (version && version == m_read) return;
-  if (version) return Read(*version);
-  if (!IsNothingThere(m_file)) return ReportFailure("it is no file");
-  // Some programs save a file by deleting it first; what it said must hold until it is there again.
-  if (std::exchange(m_isMissing, true)) m_rules = {};
+  if (!version && IsNothingThere(m_file)) return TakeAsMissing();
+  m_isMissing = false;
+  if (version)
+    Read(*version);
+  else
+    ReportFailure(ObstacleAt(m_file));
+}
+
+void Exclusions::TakeAsMissing() {
   m_read.reset();
+  // Some programs save a file by deleting it first; what it said must hold until it is there again.
+  if (!std::exchange(m_isMissing, true)) return;
+  m_rules = {};
+  m_areKnown = true;
+  m_isFailing = false;
 }
 
 void Exclusions::Read(const FileVersion& version) {
-  m_isMissing = false;
   try {
     m_rules = ExclusionRules(ReadRules(m_file), m_homes);
   } catch (const Error& error) {
     return ReportFailure(error.Description());
   }
   m_read = version;
+  m_areKnown = true;
   m_isFailing = false;
   ReportBadLines();
 }
@@ -129,8 +150,10 @@ void Exclusions::ReportBadLines() const {
 }
 
 void Exclusions::ReportFailure(const std::string& failure) {
+  m_read.reset();
+  m_areKnown = false;
   if (std::exchange(m_isFailing, true)) return;
-  m_reportEvent("Exclusions: " + m_file + " cannot be read, so what it said before still holds: " + failure);
+  m_reportEvent("Exclusions: " + m_file + " cannot be read, so nothing new is recorded until it can: " + failure);
 }
 
 }  // namespace dayvane::recent

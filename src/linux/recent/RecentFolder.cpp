@@ -105,6 +105,7 @@ bool RecentFolder::Load() {
 
 /// What the list and the further sources tell now; nothing when nothing is new.
 std::optional<Tidings> RecentFolder::ReadAll() {
+  if (!m_admission.IsOpen()) return std::nullopt;
   Tidings tidings;
   tidings.list = ReadList();
   tidings.sources = m_sources.Read([this](const std::string& source) { return m_shortcuts.MemoryOf(source); });

@@ -13,6 +13,7 @@ namespace dayvane::recent {
 namespace {
 
 namespace fs = std::filesystem;
+using ::testing::AllOf;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
@@ -80,7 +81,59 @@ TEST_F(ExclusionsTest, ALinkToNowhereIsTheUsersOwnToo) {
   fs::create_symlink(m_folder / "nowhere", m_file);
   Start();
   EXPECT_FALSE(fs::exists(m_folder / "nowhere"));
-  EXPECT_THAT(m_events, IsEmpty());
+}
+
+TEST_F(ExclusionsTest, UntilWhatIsThereCanBeReadNobodyKnowsWhatIsExcluded) {
+  fs::create_directories(m_folder / "config/dayvane");
+  fs::create_symlink(m_folder / "disk/exclude", m_file);
+  Start();
+  m_exclusions->Refresh();
+  EXPECT_FALSE(m_exclusions->AreKnown()) << "the disk is not there yet";
+  EXPECT_THAT(m_events, ElementsAre(AllOf(HasSubstr(m_file), HasSubstr("nothing new is recorded until it can"),
+                                          HasSubstr("No such file"))));
+  m_folder.Write("disk/exclude", "*.iso\n");
+  EXPECT_TRUE(IsLeftOut("/a.iso"));
+  EXPECT_TRUE(m_exclusions->AreKnown());
+  fs::rename(m_folder / "disk", m_folder / "elsewhere");
+  m_exclusions->Refresh();
+  EXPECT_FALSE(m_exclusions->AreKnown());
+  EXPECT_THAT(m_events, SizeIs(2)) << "a new failure is told anew";
+  fs::rename(m_folder / "elsewhere", m_folder / "disk");
+  m_exclusions->Refresh();
+  EXPECT_TRUE(m_exclusions->AreKnown());
+}
+
+TEST_F(ExclusionsTest, AFileWithoutPermissionAtTheStartIsNotKnown) {
+  Save("*.iso\n");
+  fs::permissions(m_folder.Native(), fs::perms::all);
+  fs::permissions(m_file, fs::perms::none);
+  {
+    const testing::UnprivilegedUser user;
+    Start();
+    EXPECT_FALSE(m_exclusions->AreKnown());
+  }
+  EXPECT_THAT(m_events, SizeIs(1));
+  EXPECT_TRUE(IsLeftOut("/a.iso"));
+  EXPECT_TRUE(m_exclusions->AreKnown());
+}
+
+TEST_F(ExclusionsTest, AFolderInItsPlaceMayMeanAnything) {
+  fs::create_directories(m_file);
+  Start();
+  EXPECT_FALSE(m_exclusions->AreKnown());
+  EXPECT_THAT(m_events, ElementsAre(HasSubstr("it is no file")));
+  fs::remove(m_file);
+  m_exclusions->Refresh();
+  EXPECT_FALSE(m_exclusions->AreKnown()) << "a program may be saving it";
+  m_exclusions->Refresh();
+  EXPECT_TRUE(m_exclusions->AreKnown());
+}
+
+TEST_F(ExclusionsTest, WhereThereIsNoFileItIsKnownThatNothingIsExcluded) {
+  m_folder.Write("config", "in the way of the example");
+  Start();
+  EXPECT_TRUE(m_exclusions->AreKnown());
+  EXPECT_THAT(m_events, ElementsAre(HasSubstr("the example cannot be written")));
 }
 
 TEST_F(ExclusionsTest, AChangedFileCountsFromTheNextLookOn) {

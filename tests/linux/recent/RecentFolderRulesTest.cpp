@@ -75,6 +75,23 @@ TEST(RecentFolderRules, OfAnExcludedDocumentNothingIsOnTheDisk) {
   EXPECT_THAT(state, Not(HasSubstr("letter")));
 }
 
+TEST(RecentFolderRules, WhileNobodyKnowsWhatIsExcludedOpeningsWaitWhereTheyAreTold) {
+  RecentDesk desk;
+  bool areKnown = false;
+  desk.m_rules.areWishesKnown = [&areKnown] { return areKnown; };
+  desk.PutDocuments({{kReport, kMorning}});
+  desk.Tell("KDE", "/home/ana/letter.odt", kMorning);
+  desk.Poll();
+  desk.Start().RememberOpenings();
+  desk.Poll();
+  EXPECT_EQ(desk.m_sources["KDE"].readings, 0);
+  EXPECT_THAT(desk.Filed(), IsEmpty());
+  EXPECT_FALSE(fs::exists(desk.m_state)) << "nothing is remembered of them either";
+  areKnown = true;
+  desk.Poll();
+  EXPECT_THAT(desk.Filed(), ElementsAre("/home/ana/Report.odt 2026-11-20", "/home/ana/letter.odt 2026-11-20"));
+}
+
 TEST(RecentFolderRules, WhatOneProgramOpensInSecretAnotherMayOpenOpenly) {
   RecentDesk desk;
   desk.m_rules = WithoutSecrets();

@@ -75,7 +75,6 @@ bool LocalDrives::IsLocal(const std::string& path) const {
   return drive != nullptr && IsLocalType(drive->type);
 }
 
-/// The path without symbolic links, as far as it exists; nothing when it leads off the local drives.
 std::optional<std::string> LocalDrives::Follow(const std::string& path) const {
   constexpr int kMostLinks = 40;
   int links = 0;

@@ -31,9 +31,11 @@ class LocalDrives {
   /// Whether there is nothing at such a place, nor a drive that is not local. Costs one look at a status.
   bool IsMissing(const std::string& place) const;
 
+  /// The native path without symbolic links, as far as it exists; nothing when it leads off the local drives.
+  std::optional<std::string> Follow(const std::string& path) const;
+
  private:
   bool IsLocal(const std::string& path) const;
-  std::optional<std::string> Follow(const std::string& path) const;
 
   std::vector<MountedDrive> m_drives;
 };

@@ -62,8 +62,9 @@ RecentFolder::RecentFolder(Clock now, const std::string& list, std::unique_ptr<R
       m_sources(std::move(surroundings.sources), m_reportEvent),
       m_admission(surroundings.rules),
       m_shortcuts(
-          *m_disk, std::move(writeLink), [this](const Opening& use) { return m_sources.BeganAt(use); }, limits),
-      m_awaited(surroundings.rules.drives, [this](const std::string& path) { return m_shortcuts.Knows(path); }) {}
+          *m_disk, std::move(writeLink), [this](const Opening& use) { return BeganAt(use); }, limits),
+      m_awaited(surroundings.rules.drives, [this](const std::string& path) { return m_shortcuts.Knows(path); }),
+      m_names(surroundings.rules.drives, [this](const std::string& path) { return m_shortcuts.Knows(path); }) {}
 
 void RecentFolder::Refresh() {
   if (!Load()) return;
@@ -114,9 +115,19 @@ std::optional<Tidings> RecentFolder::ReadAll() {
   m_awaited.Exchange(tidings);
   // What has waited may have been excluded meanwhile.
   m_admission.Filter(tidings);
+  m_names.Unify(tidings);
   if (tidings.IsEmpty()) return std::nullopt;
   tidings.now = m_now();
   return tidings;
+}
+
+/// When a use began, which KDE knows by the place that links lead to.
+std::optional<Moment> RecentFolder::BeganAt(Opening use) {
+  const auto began = m_sources.BeganAt(use);
+  const std::string place = m_names.PlaceOf(use.path);
+  if (began || place == use.path) return began;
+  use.path = place;
+  return m_sources.BeganAt(use);
 }
 
 /// What the list says now; nothing when it is unchanged or cannot be read.

@@ -11,6 +11,7 @@
 #include "base/ReportEvent.h"
 #include "linux/recent/Admission.h"
 #include "linux/recent/AwaitedDocuments.h"
+#include "linux/recent/LinkedNames.h"
 #include "linux/recent/RecentListFile.h"
 #include "linux/recent/RecentShortcuts.h"
 
@@ -30,7 +31,7 @@ namespace dayvane::recent {
 ///
 /// An opening on a later day waits until the shortcut has been captured for its own day, so that the document is filed
 /// under both. The documents themselves are never touched, because their drive may be asleep: only whether there is one
-/// is looked at, on a local drive, when it is told of for the first time.
+/// is looked at, on a local drive, when it is told of for the first time, and where a link leads to it (LinkedNames).
 class RecentFolder {
  public:
   /// The present moment in nanoseconds since 1970, UTC.
@@ -76,6 +77,7 @@ class RecentFolder {
   bool Load();
   std::optional<Tidings> ReadAll();
   std::optional<Listing> ReadList();
+  std::optional<Moment> BeganAt(Opening use);
   void ReportCondition(ListCondition condition);
   void ReportNews(const RecentShortcuts::News& news);
   void ReportFailure(const Failure& failure);
@@ -89,6 +91,7 @@ class RecentFolder {
   Admission m_admission;
   RecentShortcuts m_shortcuts;
   AwaitedDocuments m_awaited;
+  LinkedNames m_names;
   std::optional<RecentShortcuts::Memory> m_memory;  ///< left by the last session; empty until loaded
   int m_failedLoads = 0;
   ListCondition m_condition = ListCondition::Sound;  ///< as last reported

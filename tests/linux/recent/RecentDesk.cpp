@@ -51,7 +51,9 @@ class TestSource : public recent::Source {
 
   const std::string& Name() const override { return m_name; }
   bool IsDue() override { return m_script.openings.size() != m_told; }
-  std::optional<recent::Moment> BeganAt(const recent::Opening& /*use*/) override { return m_script.began; }
+  std::optional<recent::Moment> BeganAt(const recent::Opening& use) override {
+    return m_script.usedPath.empty() || m_script.usedPath == use.path ? m_script.began : std::nullopt;
+  }
 
   Reading Read(const std::string& memory) override {
     ++m_script.readings;

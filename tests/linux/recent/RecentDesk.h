@@ -52,8 +52,9 @@ struct SourceScript {
   std::vector<recent::Opening> openings;  ///< all that it knows
   bool isForgetful = false;               ///< tells all of it each time, and keeps no memory of what it told
   std::string failure;                    ///< what reading it fails with; empty: it does not
-  std::optional<recent::Moment> began;    ///< of every use
-  int readings = 0;                       ///< so far
+  std::optional<recent::Moment> began;    ///< of every use, or of this document's alone:
+  std::string usedPath;
+  int readings = 0;  ///< so far
 };
 
 /// A user's desktop in a temporary folder: the list, the Recent folder kept from it, and a program that captures.

@@ -78,6 +78,21 @@ TEST_F(LinuxWindowingTest, AQuestionHasAPictureOfItsOwnAndPlainButtons) {
   EXPECT_FALSE(hasPictures);
 }
 
+TEST_F(LinuxWindowingTest, AMessageWithoutAPathHasRoomForItsWords) {
+  int room = 0;
+  int wanted = 0;
+  WhenAsked([&](QMessageBox& box) {
+    const auto* label = box.findChild<QLabel*>("qt_msgbox_label");
+    room = label->width();
+    wanted = label->fontMetrics().horizontalAdvance("Welcome to Dayvane.");
+    box.accept();
+  });
+
+  m_windowing.ShowMessage({"Welcome to Dayvane.", "Dayvane", MessageButtons::Ok, MessageIcon::Information});
+
+  EXPECT_GE(room, wanted);
+}
+
 TEST_F(LinuxWindowingTest, TheNameOfADocumentIsNotBrokenOverTwoLines) {
   const QString path = QStringLiteral("/home/ana/Documents/Harbour/Soil survey of the old quay with maps.pdf");
   int room = 0;

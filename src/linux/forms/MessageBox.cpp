@@ -59,7 +59,7 @@ void MessageBox::KeepPathsWhole() {
   int widest = 0;
   for (const QString& line : text().split(u'\n'))
     if (line.contains(u'/')) widest = std::max(widest, label->fontMetrics().horizontalAdvance(line));
-  if (widest <= most) label->setMinimumWidth(widest + 2 * label->margin() + 2);
+  if (widest > 0 && widest <= most) label->setMinimumWidth(widest + 2 * label->margin() + 2);
 }
 
 void MessageBox::PlaceBelow(const QWidget& window) {

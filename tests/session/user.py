@@ -3,11 +3,11 @@
 import re
 
 from dayvane_program import WINDOW_TITLE
-from screen_reader import ABSENT, cells, walk
+from screen_reader import ABSENT, cells
 from waiting import wait_until
 
 SOON_SECONDS = 15
-CALENDAR = "Calendar"
+CALENDAR_DAYS = "Days of the month"
 DAYS = "Days"
 DOCUMENTS = "Documents of the day"
 FAVORITES = "Favorites"
@@ -77,9 +77,8 @@ class User:
         return [name for name, item in self.reader.menu(*path).items() if "checked" in item.states]
 
     def calendar(self):
-        """The cells of the days that the calendar shows, in their order."""
-        table = next(widget for widget in walk(self.reader.find(CALENDAR)) if "Table" in widget.interfaces)
-        return [cell for row in cells(table) for cell in row if SPOKEN_DAY.fullmatch(cell.name)]
+        """The days that the calendar shows, in their order."""
+        return [part for part in self.reader.find(CALENDAR_DAYS).children if part.role == "list item"]
 
     def header(self, widget, column):
         """Where a column's header is: x, y, width and height."""

@@ -16,7 +16,7 @@ namespace {
 
 // Logical pixels.
 constexpr int kMessagePicture = 48;
-constexpr int kGapBelow = 12;
+constexpr int kGapBelow = 36;         // with room for the frame, which is not known yet
 constexpr int kRoomAroundText = 160;  ///< picture, margins and frame
 
 int PictureOf(platform::MessageIcon icon) {

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "linux/forms/Appearance.h"
+#include "linux/widgets/CalendarSpeech.h"
 #include "linux/widgets/RowDelegate.h"
 
 namespace dayvane::widgets {
@@ -87,6 +88,7 @@ void WeekdayHeader::paintSection(QPainter* painter, const QRect& rect, int secti
 
 CalendarGrid::CalendarGrid(CalendarModel& model, DayDelegate& delegate, Events&& events)
     : m_model(model), m_events(std::move(events)) {
+  CalendarSpeech::Install();
   setHorizontalHeader(&m_weekdays);
   setModel(&model);
   setItemDelegate(&delegate);
@@ -109,6 +111,18 @@ void CalendarGrid::SetCurrent(QDate date) {
   m_model.ShowMonthOf(date);
   if (const QModelIndex index = m_model.IndexOf(date); index != currentIndex()) setCurrentIndex(index);
   viewport()->update();
+}
+
+void CalendarGrid::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+  QAbstractItemView::currentChanged(current, previous);  // the table's own tells screen readers of a cell
+  CalendarSpeech::SayCurrent(*this);
+}
+
+void CalendarGrid::focusInEvent(QFocusEvent* event) {
+  QTableView::focusInEvent(event);
+  // After the table itself was said to have the keyboard.
+  QMetaObject::invokeMethod(
+      this, [this] { CalendarSpeech::SayCurrent(*this); }, Qt::QueuedConnection);
 }
 
 QSize CalendarGrid::CellSize() const {

@@ -36,6 +36,8 @@ class WeekdayHeader : public QHeaderView {
 
 /// The days of a month as a table. The user's wish is told, and the current cell moves when the calendar shows it.
 class CalendarGrid : public QTableView {
+  Q_OBJECT
+
  public:
   struct Events {
     std::function<void(QDate)> choose;      ///< a click or Enter, also on the current day
@@ -51,6 +53,8 @@ class CalendarGrid : public QTableView {
   QSize minimumSizeHint() const override { return sizeHint(); }
 
  protected:
+  void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+  void focusInEvent(QFocusEvent* event) override;
   void initViewItemOption(QStyleOptionViewItem* option) const override;
   void keyPressEvent(QKeyEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;

@@ -10,17 +10,21 @@ import pathlib
 import sys
 import time
 
-sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent.parent / "tests/session"))
+SESSION = pathlib.Path(__file__).resolve().parent.parent / "tests/session"
+sys.path.insert(0, str(SESSION))
 
 from dayvane_program import Dayvane  # noqa: E402
 from private_desktop import PrivateDesktop, need  # noqa: E402
 from recent_list import RecentList  # noqa: E402
 from waiting import wait_until  # noqa: E402
 
-SCREEN_SIZE = "1060x700"
+SCREEN_SIZE = "1060x600"
 CAPTURE_SECONDS = 30
 PAINT_SECONDS = 10
 TWIPS = 15  # to a pixel
+UNTOUCHED = 1440  # a column's width as long as nobody has dragged it
+DAILY_COLUMNS = ["Name", "Type", "Path", "Modified"]
+FAVORITES_COLUMNS = ["Name", "Type", "Path", "Days Accessed", "Last Accessed"]
 THRESHOLD_DAYS = 3
 
 SETTINGS = {
@@ -31,27 +35,13 @@ SETTINGS = {
         "Left": 20 * TWIPS,
         "Top": 20 * TWIPS,
         "Width": 1000 * TWIPS,
-        "Height": 640 * TWIPS,
+        "Height": 520 * TWIPS,
     },
-    "Daily": {
-        "Name Width": 200 * TWIPS,
-        "Type Width": 160 * TWIPS,
-        "Path Width": 270 * TWIPS,
-        "Modified Width": 70 * TWIPS,
-        "Sort Column": 3,
-        "Sort Order": 0,
-    },
-    "Favorites": {
-        "Name Width": 220 * TWIPS,
-        "Type Width": 180 * TWIPS,
-        "Path Width": 320 * TWIPS,
-        "Days Accessed Width": 110 * TWIPS,
-        "Last Accessed Width": 140 * TWIPS,
-        "Sort Column": 4,
-        "Sort Order": 1,
-    },
+    "Daily": {**{f"{column} Width": UNTOUCHED for column in DAILY_COLUMNS}, "Sort Column": 3, "Sort Order": 0},
+    "Favorites": {**{f"{column} Width": UNTOUCHED for column in FAVORITES_COLUMNS}, "Sort Column": 4, "Sort Order": 1},
 }
 VIEWS = ["daily", "favorites"]
+SCHEMES = {"light": "", "dark": "-dark"}  # what the names of their pictures end with
 
 # The user's programs: the types that each opens.
 PROGRAMS = {
@@ -62,12 +52,12 @@ PROGRAMS = {
     "editor": ["text/plain"],
 }
 
-BUDGET = ("Budget 2027.ods", "calc")
-MINUTES = ("Minutes of the board.odt", "writer")
-NOTES = ("Notes.txt", "editor")
-OFFER = ("Harbour/Offer to Kessler.odt", "writer")
-PLAN = ("Harbour/Site plan.png", "photos")
-SURVEY = ("Harbour/Soil survey.pdf", "reader")
+BUDGET = ("Documents/Budget 2027.ods", "calc")
+MINUTES = ("Documents/Minutes of the board.odt", "writer")
+NOTES = ("Documents/Notes.txt", "editor")
+OFFER = ("Documents/Harbour/Offer to Kessler.odt", "writer")
+PLAN = ("Documents/Harbour/Site plan.png", "photos")
+SURVEY = ("Documents/Harbour/Soil survey.pdf", "reader")
 TICKET = ("Downloads/Train ticket.pdf", "reader")
 PHOTO = ("Pictures/Quay at low tide.png", "photos")
 
@@ -176,14 +166,18 @@ def tour(stage, pictures):
         dayvane.stop()
         show_repository(dayvane)
         show_favorites(dayvane)
-        for number, view in enumerate(VIEWS):
-            dayvane.write_settings(View={"Data": number, "ListViews": 3}, **SETTINGS)
-            dayvane.start()
-            take_picture(desktop, view, pictures / f"{view}.png")
-            dayvane.stop()
-    print("\nPictures of the main window:")
-    for view in VIEWS:
-        print(f"    {pictures / view}.png")
+        print("\nPictures of the main window:")
+        for scheme, ending in SCHEMES.items():
+            portal = desktop.start(["/usr/bin/python3", "-B", SESSION / "settings_portal.py", scheme])
+            for number, view in enumerate(VIEWS):
+                dayvane.write_settings(View={"Data": number, "ListViews": 3}, **SETTINGS)
+                dayvane.start()
+                picture = pictures / f"{view}{ending}.png"
+                take_picture(desktop, view, picture)
+                dayvane.stop()
+                print(f"    {picture}")
+            portal.terminate()
+            portal.wait()
 
 
 def main():

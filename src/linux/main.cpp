@@ -93,6 +93,14 @@ void KeepHelpInFront(help::LinuxHelp& help, FMainControls& mainWindow) {
   });
 }
 
+/// The window's life after its start, in which it is served to those who call over the bus.
+int RunMainWindow(Program& program, activation::BusApplication& bus, activation::Activation& activation,
+                  widgets::ProgramWindows& windows) {
+  activation.Serve(*program.mainWindow);
+  const search::DocumentSearch search(bus, activation, *program.mainWindow, *program.application, *program.repository);
+  return RunEventLoop([&windows] { windows.EndSession(); });
+}
+
 int Run() {
   const xdg::Environment environment = xdg::Environment::OfProcess();
   const ProgramFolders folders = FindProgramFolders(QCoreApplication::applicationFilePath().toStdString(), environment);
@@ -140,10 +148,7 @@ int Run() {
   int result = program.mainWindow || !instance ? 0 : kFailure;
   if (program.mainWindow && !program.mainWindow->form.IsUnloaded()) {
     startWithSession.Serve(*program.application);
-    activation.Serve(*program.mainWindow);
-    const search::DocumentSearch search(bus, activation, *program.mainWindow, *program.application,
-                                        *program.repository);
-    result = RunEventLoop([&windows] { windows.EndSession(); });
+    result = RunMainWindow(program, bus, activation, windows);
   }
   events.SetLog(nullptr);
   return result;

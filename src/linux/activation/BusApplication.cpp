@@ -93,7 +93,7 @@ GDBusConnection* BusApplication::Connection() const {
   return m_application ? g_application_get_dbus_connection(m_application.get()) : nullptr;
 }
 
-void BusApplication::Notify(const char* title, const char* text) {
+void BusApplication::Notify(const char* title, const char* text) const {
   if (!IsOnBus()) return;
   // Not the application's own notifications: what serves them in GLib frees itself without end when they outlive it.
   constexpr guint kNew = 0;

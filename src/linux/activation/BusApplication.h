@@ -32,7 +32,7 @@ class BusApplication {
   GDBusConnection* Connection() const;
 
   /// Shows the user a notification; a desktop takes a click on it for one on the program's icon.
-  void Notify(const char* title, const char* text);
+  void Notify(const char* title, const char* text) const;
 
   /// A command by its name on the bus.
   void AddCommand(const std::string& name, std::function<void()> act);

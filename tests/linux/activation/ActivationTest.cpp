@@ -20,8 +20,8 @@ using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 
-constexpr const char* kPath = "/example/dayvane/Dayvane";
-constexpr const char* kNothing = R"(<node><interface name="org.example.Nothing"/></node>)";
+constexpr const char* kApplicationPath = "/example/dayvane/Dayvane";
+constexpr const char* kEmptyInterface = R"(<node><interface name="org.example.Nothing"/></node>)";
 
 /// The program on a bus, and a launcher that calls it.
 class ActivationTest : public ::testing::Test {
@@ -51,14 +51,14 @@ class ActivationTest : public ::testing::Test {
     GVariantBuilder circumstances;
     g_variant_builder_init(&circumstances, G_VARIANT_TYPE_VARDICT);
     g_variant_builder_add(&circumstances, "{sv}", "activation-token", g_variant_new_string(token));
-    ASSERT_TRUE(m_launcher.Call(kApplicationId, kPath, "org.freedesktop.Application.Activate",
+    ASSERT_TRUE(m_launcher.Call(kApplicationId, kApplicationPath, "org.freedesktop.Application.Activate",
                                 g_variant_new("(a{sv})", &circumstances)))
         << m_launcher.Failure();
     Settle();
   }
 
   void Choose(const char* command) {
-    ASSERT_TRUE(m_launcher.Call(kApplicationId, kPath, "org.freedesktop.Application.ActivateAction",
+    ASSERT_TRUE(m_launcher.Call(kApplicationId, kApplicationPath, "org.freedesktop.Application.ActivateAction",
                                 g_variant_new("(sava{sv})", command, nullptr, nullptr)))
         << m_launcher.Failure();
     Settle();
@@ -69,7 +69,7 @@ class ActivationTest : public ::testing::Test {
     std::vector<std::string> offered;
     for (const char* command : {"suspend", "resume", "exit"}) {
       const auto answer =
-          m_launcher.Call(kApplicationId, kPath, "org.gtk.Actions.Describe", g_variant_new("(s)", command));
+          m_launcher.Call(kApplicationId, kApplicationPath, "org.gtk.Actions.Describe", g_variant_new("(s)", command));
       gboolean isEnabled = FALSE;
       if (answer) g_variant_get(answer.get(), "((bgav))", &isEnabled, nullptr, nullptr);
       if (isEnabled != FALSE) offered.emplace_back(command);
@@ -285,7 +285,7 @@ TEST(Activation, WithoutABusTheProgramIsAsItWas) {
 TEST(Activation, ANameThatAnotherProgramHasIsToldOnceAndNobodyIsDisturbed) {
   const PrivateBus session;
   std::vector<std::string> calls;
-  const BusService other(session, kApplicationId, kPath, kNothing,
+  const BusService other(session, kApplicationId, kApplicationPath, kEmptyInterface,
                          [&](const std::string& name, GVariant*, GDBusMethodInvocation*) { calls.push_back(name); });
   std::vector<std::string> events;
   BusApplication bus;

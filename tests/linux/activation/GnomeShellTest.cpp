@@ -22,7 +22,7 @@ using dayvane::testing::TestRegistry;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-constexpr const char* kEmptyTuple = R"(<node><interface name="org.gnome.Shell"/></node>)";
+constexpr const char* kEmptyShell = R"(<node><interface name="org.gnome.Shell"/></node>)";
 constexpr const char* kNotifications = R"(<node><interface name="org.freedesktop.Notifications"><method name="Notify">
   <arg type="s"/><arg type="u"/><arg type="s"/><arg type="s"/><arg type="s"/><arg type="as"/><arg type="a{sv}"/>
   <arg type="i"/><arg type="u" direction="out"/></method></interface></node>)";
@@ -36,7 +36,7 @@ class GnomeShellTest : public ::testing::Test {
   void RemoveMenuEntry() { std::filesystem::remove(m_entry); }
 
   void StartShell() {
-    m_shell.emplace(m_session, "org.gnome.Shell", "/org/gnome/Shell", kEmptyTuple,
+    m_shell.emplace(m_session, "org.gnome.Shell", "/org/gnome/Shell", kEmptyShell,
                     [](const std::string&, GVariant*, GDBusMethodInvocation*) {});
   }
 

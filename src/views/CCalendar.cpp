@@ -16,11 +16,6 @@ Date ToDate(controls::Calendar::Day day) {
   return std::chrono::local_seconds(day);
 }
 
-/// The shortcuts of the day's programs lie beside those of its documents, and bear no extension before their own.
-bool IsOfDocument(std::string_view shortcutFileName) {
-  return shortcutFileName.find('.') != shortcutFileName.rfind('.');
-}
-
 }  // namespace
 
 void CCalendar::SetCalendar(controls::Calendar* calendar) {
@@ -65,9 +60,16 @@ std::size_t CCalendar::Documents(const Date& day) const {
   std::size_t count = 0;
   IgnoreErrors([&] {
     for (const auto& entry : Dir(m_application.desktop.files, folder + "\\*.lnk", DirKinds::Files))
-      if (IsOfDocument(entry.name)) ++count;
+      if (IsOfDocument(folder + "\\" + entry.name)) ++count;
   });
   return count;
+}
+
+/// The shortcuts of the day's programs lie beside those of its documents.
+bool CCalendar::IsOfDocument(const std::string& shortcutFile) const {
+  bool isOfDocument = true;
+  IgnoreErrors([&] { isOfDocument = !LeadsToProgram(m_application.shellServices.ReadShortcut(shortcutFile).link); });
+  return isOfDocument;
 }
 
 void CCalendar::SetListed(std::optional<controls::Calendar::Day> day) {

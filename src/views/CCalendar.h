@@ -38,6 +38,7 @@ class CCalendar : private Asserting {
  private:
   void Calendar_DateChange(const Date& newDate);
   std::size_t Documents(const Date& day) const;
+  bool IsOfDocument(const std::string& shortcutFile) const;
 
   Application& m_application;
   controls::Calendar* m_calendar = nullptr;

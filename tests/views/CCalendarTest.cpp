@@ -53,6 +53,27 @@ TEST_F(CCalendarTest, OnlyFoldersOfTwoDigitsStandOut) {
   EXPECT_THAT(Highlighted(), IsEmpty());
 }
 
+TEST_F(CCalendarTest, ADayTellsHowManyDocumentsItHasWithoutItsPrograms) {
+  MakeDay("2026/May/01");
+  MakeDay("2026/May/02");
+  const auto file = [this](const std::string& name, const std::string& target, const std::string& workingFolder) {
+    platform::ShellLink link;
+    link.target = target;
+    link.workingDirectory = workingFolder;
+    testing::WriteShortcut(Native("2026/May/01") + "/" + name, link, "2026-05-01 09:00:00");
+  };
+  file("Report.odt.lnk", "Z:\\home\\ana\\Report.odt", "Z:\\home\\ana");
+  file("Makefile.lnk", "Z:\\home\\ana\\Makefile", "Z:\\home\\ana");
+  file("Writer.lnk", "Z:\\usr\\bin\\writer", "Z:\\usr\\bin\\writer");
+  desktop.folder.Write("program/Daily/2026/May/01/note.txt", "");
+
+  const auto documents = [this](unsigned day) { return control.Documents(Date::Of(2026, 5, day).LocalDay()); };
+
+  EXPECT_EQ(documents(1), 2);
+  EXPECT_EQ(documents(2), 0) << "an empty folder";
+  EXPECT_EQ(documents(3), 0) << "no folder";
+}
+
 TEST_F(CCalendarTest, MonthFoldersAreLookedUpInTheUsersLanguage) {
   desktop.dates.monthNames[4] = "Mai";
   MakeDay("2026/Mai/03");

@@ -82,9 +82,8 @@ DocumentSearch::DocumentSearch(activation::BusApplication& bus, activation::Acti
       m_application(application),
       m_index(application, repository.DailyPath(), LinuxClock::CoarseTime) {
   if (!bus.IsOnBus()) return;
-  // The tree is filled anew when days were filed or removed, the list when a link was.
+  // The tree is filled anew when something was filed, and when days went.
   m_connections.push_back(window.tvwMain.ContentsChanged.ConnectScoped([this] { m_index.Outdate(); }));
-  m_connections.push_back(window.lvwDaily.ContentsChanged.ConnectScoped([this] { m_index.Outdate(); }));
   m_gnome.emplace(bus.Connection(), kGnomesPath, kGnomesInterface,
                   [this](const std::string& method, GVariant* arguments) { return CallOfGnome(method, arguments); });
   m_kde.emplace(bus.Connection(), kKdesPath, kKdesInterface,

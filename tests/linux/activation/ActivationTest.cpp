@@ -262,6 +262,8 @@ TEST_F(ActivationTest, TheProgramGoesOnWhenTheBusDies) {
   Load();
 
   m_session.Kill();
+  ASSERT_TRUE(QTest::qWaitFor([this] { return g_dbus_connection_is_closed(m_bus->Connection()) != FALSE; }));
+  Settle();
   m_main.window.SetActive(false);
   Settle();
 

@@ -20,7 +20,6 @@ using dayvane::testing::MainLoopRunsUntil;
 using dayvane::testing::PrivateBus;
 using dayvane::testing::TestRegistry;
 using ::testing::ElementsAre;
-using ::testing::IsEmpty;
 
 constexpr const char* kEmptyShell = R"(<node><interface name="org.gnome.Shell"/></node>)";
 constexpr const char* kNotifications = R"(<node><interface name="org.freedesktop.Notifications"><method name="Notify">

@@ -13,7 +13,6 @@ namespace {
 namespace fs = std::filesystem;
 using dayvane::testing::TestDesktop;
 using dayvane::testing::WriteShortcut;
-using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
@@ -169,9 +168,9 @@ TEST_F(DocumentIndexTest, WhatIsNoLinkOfADayIsNoIdentifier) {
   const std::string daily = m_repository.DailyPath();
   for (const std::string& id :
        {std::string(), daily, daily + "\\2026\\November\\20", daily + "\\2026\\November\\20\\Report.odt",
-        daily + "\\2026\\November\\20\\.lnk", daily + "\\2026\\November\\..\\Report.odt.lnk",
-        daily + "\\2026\\November\\20\\..\\..\\Report.odt.lnk", daily + "\\2026\\November\\20\\a/../b.lnk",
-        daily + "\\2026\\Nonsense\\20\\Report.odt.lnk",
+        daily + "\\2026\\November\\20\\.lnk", daily + "\\2026\\November\\20\\.hidden.lnk",
+        daily + "\\2026\\November\\..\\Report.odt.lnk", daily + "\\2026\\November\\20\\..\\..\\Report.odt.lnk",
+        daily + "\\2026\\November\\20\\a/../b.lnk", daily + "\\2026\\Nonsense\\20\\Report.odt.lnk",
         std::string("Z:\\home\\ana\\Daily\\2026\\November\\20\\Report.odt.lnk"),
         daily + "x\\2026\\November\\20\\Report.odt.lnk", std::string(100000, '\\')})
     EXPECT_FALSE(m_index.Describe(id)) << id.substr(0, 200);

@@ -23,8 +23,20 @@ constexpr std::string_view kExtension = ".lnk";
 constexpr std::chrono::seconds kBetweenLooks{5};
 constexpr std::chrono::seconds kCoarseMoment{2};  ///< of the coarsest file systems
 
+/// Without the number that keeps the links of documents of one name apart, as in "Report.odt (2)". It stands behind an
+/// ending there; in a name without one it may be the document's own.
+std::string_view WithoutNumber(std::string_view name) {
+  const std::size_t bracket = name.rfind(" (");
+  if (bracket == std::string_view::npos || !name.ends_with(')')) return name;
+  const std::string_view number = name.substr(bracket + 2, name.size() - bracket - 3);
+  const std::string_view document = name.substr(0, bracket);
+  const std::size_t ending = document.rfind('.');
+  const bool hasEnding = ending != std::string_view::npos && document.find(' ', ending) == std::string_view::npos;
+  return text::IsNumeric(number) && hasEnding ? document : name;
+}
+
 std::string NameOf(std::string_view link) {
-  return files::ForReading(std::string(link.substr(0, link.size() - kExtension.size())));
+  return files::ForReading(std::string(WithoutNumber(link.substr(0, link.size() - kExtension.size()))));
 }
 
 bool IsLink(const std::string& name) {

@@ -74,6 +74,16 @@ TEST_F(DocumentIndexTest, TheNewestDayComesFirstAndEachDocumentOnce) {
               ElementsAre("Report B.odt 2026-11-20", "Report A.odt 2026-02-03", "Report old.odt 2025-12-31"));
 }
 
+TEST_F(DocumentIndexTest, DocumentsOfOneNameInTwoFoldersAreBothFoundByThatName) {
+  File("2026/November/20", "Report.odt");
+  File("2026/November/20", "Report.odt (2)");
+  File("2026/November/19", "Report (3).odt");
+  File("2026/November/18", "Report (4)");
+
+  EXPECT_THAT(Found({"report"}), ElementsAre("Report.odt 2026-11-20", "Report.odt 2026-11-20",
+                                             "Report (3).odt 2026-11-19", "Report (4) 2026-11-18"));
+}
+
 TEST_F(DocumentIndexTest, NoMoreAreFoundThanWereAskedFor) {
   for (int number = 0; number < 9; ++number) File("2026/November/20", "Report " + std::to_string(number));
 

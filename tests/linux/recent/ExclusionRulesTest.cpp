@@ -34,7 +34,8 @@ TEST(ExclusionRules, WithoutRulesNothingIsCovered) {
 }
 
 TEST(ExclusionRules, AFolderMeansEverythingBelowIt) {
-  for (const char* rules : {"~/Private", "~/Private/", "/home/ana/Private", "  ~/Private  \r\n", "\n#x\n~/Private"}) {
+  for (const char* rules :
+       {"~/Private", "~/Private/", "/home/ana/Private", "~/Private//", "  ~/Private  \r\n", "\n#x\n~/Private"}) {
     EXPECT_TRUE(CoversPath(rules, "/home/ana/Private/a.txt")) << rules;
     EXPECT_TRUE(CoversPath(rules, "/home/ana/Private/deep/.down/a.txt")) << rules;
     EXPECT_TRUE(CoversPath(rules, "/home/ana/Private")) << rules;
@@ -64,6 +65,7 @@ TEST(ExclusionRules, TheHomeFolderIsNoPattern) {
   EXPECT_TRUE(rules.Cover({"/home/a[b]*/x/y", 0, "", ""}));
   EXPECT_TRUE(rules.Cover({"/real/home/x/y", 0, "", ""}));
   EXPECT_FALSE(rules.Cover({"/home/abc/x/y", 0, "", ""}));
+  EXPECT_FALSE(rules.Cover({"/home/a[b]c/x/y", 0, "", ""}));
 }
 
 TEST(ExclusionRules, ATildeAloneIsTheWholeHomeFolder) {
@@ -97,6 +99,8 @@ TEST(ExclusionRules, LinesThatSayNothingAreTold) {
   EXPECT_THAT(BadLinesOf("/\n~/x\nPrivate/letters\ntype:\nprogram: \n~ana/x\n*.iso\n" + std::string(5000, 'x')),
               ::testing::ElementsAre(1, 3, 4, 5, 6, 8));
   EXPECT_THAT(BadLinesOf(std::string("a\0b", 3)), ::testing::ElementsAre(1));
+  const std::string longest = "/" + std::string(4095, 'x');  // as long as a path may be
+  EXPECT_THAT(BadLinesOf(longest + "\n" + longest + "x"), ::testing::ElementsAre(2));
 }
 
 TEST(ExclusionRules, ABadLineCostsOnlyItself) {

@@ -127,6 +127,9 @@ TEST_F(ExclusionsTest, AFolderInItsPlaceMayMeanAnything) {
   EXPECT_FALSE(m_exclusions->AreKnown()) << "a program may be saving it";
   m_exclusions->Refresh();
   EXPECT_TRUE(m_exclusions->AreKnown());
+  fs::create_directories(m_file);
+  m_exclusions->Refresh();
+  EXPECT_THAT(m_events, SizeIs(2)) << "a new failure is told anew";
 }
 
 TEST_F(ExclusionsTest, WhereThereIsNoFileItIsKnownThatNothingIsExcluded) {
@@ -153,6 +156,8 @@ TEST_F(ExclusionsTest, WhatAFileSaidHoldsUntilItIsReallyGone) {
   EXPECT_FALSE(IsLeftOut("/a.iso"));
   Save("*.iso\n");
   EXPECT_TRUE(IsLeftOut("/a.iso"));
+  fs::remove(m_file);
+  EXPECT_TRUE(IsLeftOut("/a.iso")) << "and again";
 }
 
 TEST_F(ExclusionsTest, AFileThatCannotBeReadAnyMoreKeepsItsRulesAndIsToldOnce) {

@@ -147,6 +147,13 @@ TEST_F(KdeActivitiesTest, AnEmptiedHistoryIsReadOnFromItsFirstNewRow) {
   EXPECT_THAT(News(), ElementsAre(Opened("/home/ana/a.txt", kNine + kOneHour)));
 }
 
+TEST_F(KdeActivitiesTest, AHistoryThatStaysEmptyHasNoNews) {
+  News();
+  const std::string memory = m_memory;
+  EXPECT_THAT(News(), IsEmpty());
+  EXPECT_EQ(m_memory, memory);
+}
+
 TEST_F(KdeActivitiesTest, RowsThatTookTheNumbersOfDeletedOnesAreNew) {
   m_kde.Add("kate", "/home/ana/a.txt", kNine);
   m_kde.Add("kate", "/home/ana/secret.txt", kNine + 100);
@@ -378,7 +385,8 @@ TEST_F(KdeActivitiesTest, AnotherDocumentOrAnotherProgramTellsOfNoUse) {
   m_kde.Add("okular", "/home/ana/b.txt", kNine, kNine + kOneHour);
   m_kde.Add("kate", "/home/ana/a.txt", kNine, kNine + kOneHour);
   EXPECT_EQ(m_source.BeganAt(Use("okular", kNine + kOneHour)), std::nullopt);
-  EXPECT_EQ(m_source.BeganAt(Use("", kNine + kOneHour)), std::nullopt);
+  m_kde.Add("", "/home/ana/a.txt", kNine, kNine + kOneHour);
+  EXPECT_EQ(m_source.BeganAt(Use("", kNine + kOneHour)), std::nullopt) << "a program that nobody named";
 }
 
 TEST_F(KdeActivitiesTest, TheBeginningIsLookedForAmongTheLastRows) {

@@ -159,6 +159,27 @@ TEST_F(LibreOfficePicksTest, AProfileThatComesBackHasItsMemory) {
   EXPECT_THAT(News(), IsEmpty());
 }
 
+TEST_F(LibreOfficePicksTest, AFolderThatComesAfterTheStartHasItsMemoryToo) {
+  Save({"file:///a.odt"});
+  News();
+  fs::rename(m_folder / "libreoffice", m_folder / "disk");
+  StartNewSession();
+  EXPECT_FALSE(m_source->IsDue());
+  fs::rename(m_folder / "disk", m_folder / "libreoffice");
+  EXPECT_TRUE(m_source->IsDue());
+  EXPECT_THAT(News(), IsEmpty());
+}
+
+TEST_F(LibreOfficePicksTest, OfVeryManyProfilesTheFirstAreRead) {
+  for (int profile = 1; profile <= 9; ++profile) Save({"file:///a.odt"}, 0, std::to_string(profile));
+  News();
+  for (int profile = 1; profile <= 9; ++profile)
+    Save({"file:///b.odt", "file:///a.odt"}, profile, std::to_string(profile));
+  const auto news = News();
+  EXPECT_EQ(news.size(), 8U);
+  EXPECT_EQ(news.back(), "/b.odt 8");
+}
+
 TEST_F(LibreOfficePicksTest, HalfWrittenSettingsAreTriedAgain) {
   Save({"file:///a.odt"});
   News();

@@ -96,7 +96,10 @@ TEST_F(LinkedDocuments, ALinkToTheDocumentItselfMayHaveAnotherName) {
   PollSome();
   KdeTells("2026-11-20T10:00:01Z");
   PollSome();
-  EXPECT_THAT(m_desk.Filed(), ElementsAre(m_home + "/Current.odt 2026-11-20"));
+  m_desk.PutDocuments({{m_home + "/Current.odt", "2026-11-21T10:00:02Z"}});
+  KdeTells("2026-11-21T10:00:03Z");
+  PollSome();
+  EXPECT_THAT(m_desk.Filed(), ElementsAre(m_home + "/Current.odt 2026-11-20", m_home + "/Current.odt 2026-11-21"));
 }
 
 TEST_F(LinkedDocuments, WhatTheListHasUnderBothNamesKeepsBoth) {
@@ -104,7 +107,21 @@ TEST_F(LinkedDocuments, WhatTheListHasUnderBothNamesKeepsBoth) {
   PollSome();
   KdeTells("2026-11-21T10:00:01Z");
   PollSome();
-  EXPECT_THAT(m_desk.Filed(), ElementsAre(m_link + " 2026-11-20", m_target + " 2026-11-20", m_target + " 2026-11-21"));
+  ListTells("2026-11-22T10:00:02Z");
+  PollSome();
+  EXPECT_THAT(m_desk.Filed(), ElementsAre(m_link + " 2026-11-20", m_link + " 2026-11-22", m_target + " 2026-11-20",
+                                          m_target + " 2026-11-21"));
+}
+
+TEST_F(LinkedDocuments, OneThatIsSavedThroughALinkIsOneToo) {
+  fs::remove(m_target);
+  ListTells("2026-11-20T10:00:02Z");
+  m_desk.Poll();
+  m_desk.m_folder.Write("disk/Report.odt", "Dear Ana");
+  m_desk.PutDocuments({{m_home + "/other/Report.odt", "2026-11-20T10:00:02Z"}});  // the entry is lost meanwhile
+  KdeTells("2026-11-20T10:00:03Z");
+  PollSome();
+  EXPECT_THAT(m_desk.Filed(), ElementsAre(m_link + " 2026-11-20", m_home + "/other/Report.odt 2026-11-20"));
 }
 
 TEST_F(LinkedDocuments, NoLinkIsFollowedOntoADriveThatMayBeAsleep) {

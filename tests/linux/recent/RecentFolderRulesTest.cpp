@@ -104,6 +104,44 @@ TEST(RecentFolderRules, WhatOneProgramOpensInSecretAnotherMayOpenOpenly) {
   EXPECT_THAT(desk.Filed(), ElementsAre("/home/ana/a 2026-11-20"));
 }
 
+TEST(RecentFolderRules, AnExcludedDocumentWithoutAnyTimeIsNotRecordedEither) {
+  RecentDesk desk;
+  desk.m_rules = WithoutSecrets();
+  desk.PutBookmarks("<bookmark href=\"file:///home/ana/secret.odt\"/><bookmark href=\"file:///home/ana/a\"/>");
+  desk.Poll();
+  EXPECT_THAT(desk.Filed(), ElementsAre("/home/ana/a 2026-12-01"));
+}
+
+TEST(RecentFolderRules, AProgramsFolderThatIsNotSetIsNoFolder) {
+  RecentDesk desk;
+  desk.m_rules.ownFolders = {""};
+  desk.PutDocuments({{kReport, kMorning}});
+  desk.Poll();
+  EXPECT_THAT(desk.Filed(), ElementsAre("/home/ana/Report.odt 2026-11-20"));
+}
+
+TEST(RecentFolderRules, OfADocumentThatWaitsTheLastTimeOfTheListCounts) {
+  RecentDesk desk;
+  desk.m_rules = WithLocalDrive();
+  const std::string letter = desk.m_folder / "Letter.odt";
+  for (const char* moment : {kMorning, "2026-11-21T08:00:00Z"}) {
+    desk.PutDocuments({{letter, moment}});
+    desk.Poll();
+  }
+  desk.m_folder.Write("Letter.odt", "Dear Ana");
+  for (int poll = 0; poll < 3; ++poll) desk.Poll();
+  EXPECT_THAT(desk.Filed(), ElementsAre(letter + " 2026-11-21")) << "the first time it could not be saved";
+}
+
+TEST(RecentFolderRules, WhatIsMoreThanAPersonSavesDoesNotWait) {
+  RecentDesk desk;
+  desk.m_rules = WithLocalDrive();
+  for (int number = 0; number < 2001; ++number)
+    desk.Tell("KDE", desk.m_folder / (std::to_string(number) + ".odt"), kMorning);
+  desk.Poll();
+  EXPECT_EQ(desk.Filed().size(), 1U);
+}
+
 TEST(RecentFolderRules, ADocumentThatIsToBeSavedIsFiledOnceItIsThere) {
   RecentDesk desk;
   desk.m_rules = WithLocalDrive();

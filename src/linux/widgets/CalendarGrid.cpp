@@ -114,7 +114,8 @@ void CalendarGrid::SetCurrent(QDate date) {
 }
 
 void CalendarGrid::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
-  QAbstractItemView::currentChanged(current, previous);  // the table's own tells screen readers of a cell
+  // The table's own would tell screen readers of one of its cells.
+  QAbstractItemView::currentChanged(current, previous);  // NOLINT(bugprone-parent-virtual-call)
   CalendarSpeech::SayCurrent(*this);
 }
 

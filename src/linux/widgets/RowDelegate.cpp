@@ -39,10 +39,10 @@ QSize RowDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelInde
 }
 
 QString RowDelegate::TipFor(const QStyleOptionViewItem& option, const QModelIndex& index) const {
-  const QString whole = index.data(kWholeTextRole).toString();
+  QString whole = index.data(kWholeTextRole).toString();
   const QString shown = index.data().toString();
   if (!whole.isEmpty() && whole != shown) return whole;
-  if (const QString tip = index.data(Qt::ToolTipRole).toString(); !tip.isEmpty()) return tip;
+  if (QString tip = index.data(Qt::ToolTipRole).toString(); !tip.isEmpty()) return tip;
   QStyleOptionViewItem wide = option;
   wide.features.setFlag(QStyleOptionViewItem::WrapText, false);
   const bool fits = QStyledItemDelegate::sizeHint(wide, index).width() <= option.rect.width();

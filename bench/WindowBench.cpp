@@ -19,11 +19,12 @@
 #include "linux/LinuxShellIcons.h"
 #include "linux/ProgramWindows.h"
 #include "shell/MDayvaneMain.h"
+#include "tests/linux/tray/TestTray.h"
 
 namespace dayvane {
 namespace {
 
-constexpr std::array kDays{"2026/November/19", "2026/November/20"};
+constexpr std::array kTwoDays{"2026/November/19", "2026/November/20"};
 constexpr std::array kStyles{controls::ListStyle::LargeIcons, controls::ListStyle::List, controls::ListStyle::Details};
 constexpr int kColumns = 5;
 
@@ -64,15 +65,16 @@ class WindowOver {
   platform::DateConventions m_dates;
   platform::Desktop m_parts{m_files, m_shell, m_icons, m_registry, m_windowing, m_help, m_clock, m_dates};
   Program m_program;
-  widgets::ProgramWindows m_windows{m_windowing, m_dates, [](int, QPoint) {}};
+  testing::TestLauncher m_launcher;
+  widgets::ProgramWindows m_windows{m_windowing, m_dates, m_launcher, [](int, QPoint) {}};
 };
 
 /// A window over a list of as many favorites, all of one day that is not shown.
 class FavoritesWindow {
  public:
   explicit FavoritesWindow(std::int64_t favorites) {
-    m_record.FillDay(kDays[0], favorites);
-    m_record.FillDay(kDays[1], 1);
+    m_record.FillDay(kTwoDays[0], favorites);
+    m_record.FillDay(kTwoDays[1], 1);
     m_over.emplace(m_record);
     Window().RebuildFavorites();
     Window().SetActiveView(FMain::kFavoritesView);
@@ -129,11 +131,11 @@ class BareViews {
 void Day_Switch(benchmark::State& state) {
   Bench record;
   record.FillYears(state.range(1));
-  for (const char* day : kDays) record.FillDay(day, state.range(0));
+  for (const char* day : kTwoDays) record.FillDay(day, state.range(0));
   WindowOver over(record);
   std::size_t day = 0;
   for (auto _ : state) {
-    std::string path = kDays[day = 1 - day];
+    std::string path = kTwoDays[day = 1 - day];
     std::replace(path.begin(), path.end(), '/', '\\');
     over.Window().tvwMain.Click(over.Window().tvwMain.Node(record.Key(path)));
     Settle();
@@ -145,11 +147,11 @@ void Day_Switch(benchmark::State& state) {
 
 void Day_Yardstick_BareTable(benchmark::State& state) {
   const Bench record;
-  for (const char* day : kDays) record.FillDay(day, state.range(0));
+  for (const char* day : kTwoDays) record.FillDay(day, state.range(0));
   BareViews views;
   std::size_t day = 0;
   for (auto _ : state) {
-    benchmark::DoNotOptimize(ReadAll(record.Daily(kDays[day = 1 - day])));
+    benchmark::DoNotOptimize(ReadAll(record.Daily(kTwoDays[day = 1 - day])));
     views.Fill(state.range(0));
     Settle();
   }

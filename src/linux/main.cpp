@@ -3,7 +3,6 @@
 // The program on a Linux desktop: its parts are put together here, and the message loop runs.
 
 #include <QApplication>
-#include <QMessageBox>
 #include <QTimer>
 #include <cstdio>
 #include <cstdlib>
@@ -30,6 +29,7 @@
 #include "linux/files/ProgramFolder.h"
 #include "linux/files/SingleInstance.h"
 #include "linux/forms/Appearance.h"
+#include "linux/forms/MessageBox.h"
 #include "linux/glib/ErrorNet.h"
 #include "linux/search/DocumentSearch.h"
 #include "linux/session/Autostart.h"
@@ -52,7 +52,10 @@ bool HasDisplay() {
 /// For what goes wrong before the program's own reports work.
 int Refuse(const std::string& reason) {
   std::fprintf(stderr, "dayvane: %s\n", reason.c_str());
-  QMessageBox::critical(nullptr, QStringLiteral("Dayvane"), QString::fromStdString(reason));
+  constexpr int kPictureSize = 48;
+  widgets::MessageBox box({reason, "Dayvane"}, nullptr);
+  box.setIconPixmap(PictureIcon(kWarningPicture).pixmap(kPictureSize));
+  box.exec();
   return kFailure;
 }
 

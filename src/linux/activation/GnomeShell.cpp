@@ -12,7 +12,7 @@ namespace dayvane::activation {
 
 namespace {
 
-constexpr widgets::BusObject::Address kShell{"org.gnome.Shell", "/org/gnome/Shell", "org.gnome.Shell"};
+constexpr glib::BusObject::Address kShell{"org.gnome.Shell", "/org/gnome/Shell", "org.gnome.Shell"};
 constexpr const char* kSubtree = "Hints";
 constexpr const char* kWayBack = "Way Back";
 
@@ -28,7 +28,7 @@ bool HasMenuEntry() {
 GnomeShell::GnomeShell(BusApplication& bus, platform::Registry& registry)
     : m_bus(bus),
       m_registry(registry),
-      m_shell(kShell, widgets::BusObject::Start::OnlyWatch,
+      m_shell(kShell, glib::BusObject::Start::OnlyWatch,
               {[this] { SetRunning(true); }, [this] { SetRunning(false); }, [](const char*, GVariant*) {}}) {}
 
 bool GnomeShell::Serves() const {

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "linux/activation/BusApplication.h"
-#include "linux/tray/BusObject.h"
+#include "linux/glib/BusObject.h"
 #include "linux/tray/LauncherWatch.h"
 #include "platform/Registry.h"
 
@@ -26,7 +26,7 @@ class GnomeShell : public widgets::LauncherWatch {
   platform::Registry& m_registry;
   bool m_isRunning = false;
   bool m_wasTold = false;  ///< in this run, where the settings cannot keep it
-  widgets::BusObject m_shell;
+  glib::BusObject m_shell;
 };
 
 }  // namespace dayvane::activation

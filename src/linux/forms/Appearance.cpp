@@ -4,17 +4,18 @@
 #include <QApplication>
 #include <QStyle>
 #include <QStyleFactory>
-#include <cmath>
 #include <cstring>
 
 #include "linux/forms/ContrastStyle.h"
+#include "linux/widgets/Colours.h"
 
 namespace dayvane::widgets {
 
 namespace {
 
 constexpr const char* kInterface = "org.freedesktop.portal.Settings";
-constexpr BusObject::Address kPortal{"org.freedesktop.portal.Desktop", "/org/freedesktop/portal/desktop", kInterface};
+constexpr glib::BusObject::Address kPortal{"org.freedesktop.portal.Desktop", "/org/freedesktop/portal/desktop",
+                                           kInterface};
 constexpr guint32 kPreferDark = 1;
 constexpr guint32 kHigherContrast = 1;
 
@@ -33,24 +34,6 @@ glib::Variant Unwrap(GVariant* boxed) {
 }
 
 }  // namespace
-
-bool IsDark(const QColor& background, const QColor& text) {
-  return background.lightness() < text.lightness();
-}
-
-QColor Ink(const QPalette& palette, qreal strength) {
-  const QColor base = palette.color(QPalette::Base);
-  const QColor text = palette.color(QPalette::Text);
-  const auto mix = [strength](int background, int ink) {
-    return static_cast<int>(std::lround(background * (1 - strength) + ink * strength));
-  };
-  return {mix(base.red(), text.red()), mix(base.green(), text.green()), mix(base.blue(), text.blue())};
-}
-
-QColor MutedSelection(const QPalette& palette) {
-  constexpr qreal kGrey = 0.18;
-  return Ink(palette, kGrey);
-}
 
 QPalette HighContrastPalette(bool dark) {
   constexpr QColor kNavy(0x00, 0x00, 0x80);
@@ -98,7 +81,7 @@ QPalette DarkPalette() {
 Appearance::Appearance()
     : m_usualPalette(QApplication::palette()),
       m_usualStyle(QApplication::style()->name()),
-      m_settings(kPortal, BusObject::Start::StartProgram,
+      m_settings(kPortal, glib::BusObject::Start::StartProgram,
                  {[this] { Ask(); }, [] {},
                   [this](const char* signal, GVariant* arguments) {
                     if (std::strcmp(signal, "SettingChanged") != 0) return;

@@ -6,18 +6,9 @@
 #include <string>
 #include <utility>
 
-#include "linux/tray/BusObject.h"
+#include "linux/glib/BusObject.h"
 
 namespace dayvane::widgets {
-
-/// Whether the text is the lighter of the two.
-bool IsDark(const QColor& background, const QColor& text);
-
-/// Text's colour, weakened towards the background's: 1 is the text's own, 0 the background.
-QColor Ink(const QPalette& palette, qreal strength);
-
-/// The colour of a selection in a view that does not have the keyboard: a grey between background and text.
-QColor MutedSelection(const QPalette& palette);
 
 /// The palette of a dark window, for the Fusion style.
 QPalette DarkPalette();
@@ -51,7 +42,7 @@ class Appearance {
   bool m_highContrast = false;
   bool m_portalContrast = false;  ///< either wish is enough
   bool m_gnomeContrast = false;
-  BusObject m_settings;
+  glib::BusObject m_settings;
 };
 
 }  // namespace dayvane::widgets

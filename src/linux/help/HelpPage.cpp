@@ -6,7 +6,7 @@
 #include <QSvgRenderer>
 #include <cmath>
 
-#include "linux/forms/Appearance.h"
+#include "linux/widgets/Colours.h"
 
 namespace dayvane::help {
 

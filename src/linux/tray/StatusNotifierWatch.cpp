@@ -8,7 +8,7 @@ namespace dayvane::widgets {
 namespace {
 
 constexpr const char* kName = "org.kde.StatusNotifierWatcher";
-constexpr BusObject::Address kWatcher{kName, "/StatusNotifierWatcher", kName};
+constexpr glib::BusObject::Address kWatcher{kName, "/StatusNotifierWatcher", kName};
 
 bool IsTrue(GVariant* answer) {
   if (answer == nullptr || !g_variant_is_of_type(answer, G_VARIANT_TYPE("(v)"))) return false;
@@ -21,7 +21,7 @@ bool IsTrue(GVariant* answer) {
 
 StatusNotifierWatch::StatusNotifierWatch(std::function<void()> changed)
     : m_changed(std::move(changed)),
-      m_watcher(kWatcher, BusObject::Start::OnlyWatch,
+      m_watcher(kWatcher, glib::BusObject::Start::OnlyWatch,
                 // Hosts come and go while their watcher stays.
                 {[this] { Ask(); }, [this] { SetHasHost(false); }, [this](const char*, GVariant*) { Ask(); }}) {}
 

@@ -3,7 +3,7 @@
 
 #include <functional>
 
-#include "linux/tray/BusObject.h"
+#include "linux/glib/BusObject.h"
 
 namespace dayvane::widgets {
 
@@ -21,7 +21,7 @@ class StatusNotifierWatch {
 
   std::function<void()> m_changed;
   bool m_hasHost = false;
-  BusObject m_watcher;
+  glib::BusObject m_watcher;
 };
 
 }  // namespace dayvane::widgets

@@ -6,8 +6,8 @@
 #include <QWheelEvent>
 #include <utility>
 
-#include "linux/forms/Appearance.h"
 #include "linux/widgets/CalendarSpeech.h"
+#include "linux/widgets/Colours.h"
 #include "linux/widgets/RowDelegate.h"
 
 namespace dayvane::widgets {

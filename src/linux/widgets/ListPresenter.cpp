@@ -5,7 +5,7 @@
 #include <QScopedValueRollback>
 #include <QScrollBar>
 
-#include "linux/forms/IconStyle.h"
+#include "linux/widgets/IconStyle.h"
 #include "linux/widgets/Lengths.h"
 
 namespace dayvane::widgets {

@@ -5,7 +5,7 @@
 #include <QHelpEvent>
 #include <QToolTip>
 
-#include "linux/forms/Appearance.h"
+#include "linux/widgets/Colours.h"
 
 namespace dayvane::widgets {
 

@@ -5,7 +5,7 @@
 
 #include "linux/glib/GlibHandles.h"
 
-namespace dayvane::widgets {
+namespace dayvane::glib {
 
 /// An object of another program on the session bus. Programs come and go; without a bus none ever appears.
 class BusObject {
@@ -49,4 +49,4 @@ class BusObject {
   guint m_nameWatch = 0;
 };
 
-}  // namespace dayvane::widgets
+}  // namespace dayvane::glib

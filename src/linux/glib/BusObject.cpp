@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "linux/tray/BusObject.h"
+#include "linux/glib/BusObject.h"
 
 #include <utility>
 
 #include "linux/glib/ErrorNet.h"
 
-namespace dayvane::widgets {
+namespace dayvane::glib {
 
 namespace {
 
@@ -77,4 +77,4 @@ void BusObject::Unsubscribe() {
   m_connection.reset();
 }
 
-}  // namespace dayvane::widgets
+}  // namespace dayvane::glib

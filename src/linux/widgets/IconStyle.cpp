@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "linux/forms/IconStyle.h"
+#include "linux/widgets/IconStyle.h"
 
 #include <QFontMetrics>
 #include <QListView>

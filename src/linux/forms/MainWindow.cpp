@@ -153,6 +153,7 @@ void MainWindow::ShowHeading() {
 
 void MainWindow::ShowSuspended() {
   const bool suspended = m_main.tryMain.Picture() == kSuspendedIcon;
+  if (std::exchange(m_showsSuspended, suspended) == suspended) return;
   m_suspended.setVisible(suspended);
   setWindowIcon(PictureIcon(suspended ? kSuspendedIcon : kNormalIcon));
 }

@@ -3,6 +3,7 @@
 
 #include <QLabel>
 #include <QMainWindow>
+#include <optional>
 #include <vector>
 
 #include "linux/forms/FormPresenter.h"
@@ -77,6 +78,7 @@ class MainWindow : public QMainWindow {
   Placement m_placement{m_client};
   controls::Deferred m_deferred;
   bool m_showsFavorites = false;
+  std::optional<bool> m_showsSuspended;
   TimerPresenter m_timer;
   FormPresenter m_form;
   std::vector<controls::Connection> m_connections;

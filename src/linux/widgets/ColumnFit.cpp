@@ -21,7 +21,8 @@ constexpr int kMostMeasured = 200;  ///< texts of a column: measuring all of 50,
 constexpr int kLettersOfName = 16;  ///< at the least, before a table that is too narrow scrolls
 constexpr int kLettersOfPath = 10;
 constexpr int kRoomBesideText = 8;  ///< logical pixels
-constexpr int kNameShare = 3;       ///< of five parts, where both want more than there is
+constexpr int kStep = 16;      ///< logical pixels: what is wanted comes in steps, so that few columns move at a poll
+constexpr int kNameShare = 3;  ///< of five parts, where both want more than there is
 constexpr int kShares = 5;
 
 struct Elastic {
@@ -36,6 +37,10 @@ int RoomOfName(const Elastic& name, const Elastic& path, int room) {
   if (name.wanted <= share) return name.wanted;
   if (path.wanted <= room - share) return room - path.wanted;
   return share;
+}
+
+int InSteps(int wanted) {
+  return (wanted + kStep - 1) / kStep * kStep;
 }
 
 int ColumnOf(const controls::ListView& list, ColumnKind kind) {
@@ -66,7 +71,7 @@ std::vector<int> ColumnFit::Widths() {
 
 void ColumnFit::Measure() {
   for (int column = 0; column < static_cast<int>(m_list.Columns().size()); ++column)
-    m_wanted.push_back(std::max(m_view.header()->sectionSizeHint(column), WantedByRows(column)));
+    m_wanted.push_back(InSteps(std::max(m_view.header()->sectionSizeHint(column), WantedByRows(column))));
 }
 
 int ColumnFit::WantedByRows(int column) const {

@@ -2,11 +2,16 @@
 #include "linux/widgets/MenuPresenter.h"
 
 #include <QStyleOptionMenuItem>
-#include <algorithm>
 
 #include "linux/widgets/Keys.h"
 
 namespace dayvane::widgets {
+
+namespace {
+
+constexpr const char* kIsChoice = "isChoice";  ///< of an action, which may be drawn when its control has gone
+
+}  // namespace
 
 MenuPresenter::MenuPresenter(controls::Menu& menu, QWidget* parent)
     : QMenu(QString::fromStdString(menu.Caption()), parent), m_menu(menu) {
@@ -21,10 +26,7 @@ MenuPresenter::MenuPresenter(controls::Menu& menu, QWidget* parent)
 
 void MenuPresenter::initStyleOption(QStyleOptionMenuItem* option, const QAction* action) const {
   QMenu::initStyleOption(option, action);
-  const auto shown = std::ranges::find(m_shown, action);
-  if (shown == m_shown.end()) return;
-  const auto mark = m_menu[static_cast<int>(shown - m_shown.begin())].Mark();
-  if (mark == controls::MenuMark::Choice) option->checkType = QStyleOptionMenuItem::Exclusive;
+  if (action->property(kIsChoice).toBool()) option->checkType = QStyleOptionMenuItem::Exclusive;
 }
 
 void MenuPresenter::SetDefaultItem(int index) {
@@ -66,6 +68,7 @@ void MenuPresenter::ShowItem(int index) {
   action.setVisible(item.Visible());
   // Also while it is not checked, which a screen reader says.
   action.setCheckable(item.Mark() != controls::MenuMark::None);
+  action.setProperty(kIsChoice, item.Mark() == controls::MenuMark::Choice);
   action.setChecked(item.Checked());
 }
 

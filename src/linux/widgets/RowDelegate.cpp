@@ -2,6 +2,7 @@
 #include "linux/widgets/RowDelegate.h"
 
 #include <QAbstractItemView>
+#include <QHash>
 #include <QHelpEvent>
 #include <QToolTip>
 
@@ -15,13 +16,23 @@ namespace {
 constexpr int kRoom = 4;
 constexpr int kRoomAfterNumber = 8;
 
+/// Styles keep what they have drawn by the identity of the palette, so the same one must give the same one.
+QPalette Muted(const QPalette& palette) {
+  constexpr qsizetype kMostPalettes = 8;
+  static QHash<qint64, QPalette> known;
+  const auto found = known.constFind(palette.cacheKey());
+  if (found != known.constEnd()) return *found;
+  QPalette muted = palette;
+  muted.setColor(QPalette::All, QPalette::Highlight, MutedSelection(palette));
+  muted.setColor(QPalette::All, QPalette::HighlightedText, palette.color(QPalette::Text));
+  if (known.size() >= kMostPalettes) known.clear();
+  return *known.insert(palette.cacheKey(), muted);
+}
+
 }  // namespace
 
 void MuteWithoutFocus(QStyleOptionViewItem& option) {
-  if (option.widget == nullptr || option.widget->hasFocus()) return;
-  const QPalette shown = option.palette;
-  option.palette.setColor(QPalette::All, QPalette::Highlight, MutedSelection(shown));
-  option.palette.setColor(QPalette::All, QPalette::HighlightedText, shown.color(QPalette::Text));
+  if (option.widget != nullptr && !option.widget->hasFocus()) option.palette = Muted(option.palette);
 }
 
 void RowDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const {

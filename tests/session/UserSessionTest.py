@@ -61,6 +61,8 @@ class TheWeeksDays(WeekTest):
         date = self.shortcut("", 1).parent.relative_to(self.dayvane.daily)
         words = f"{int(date.parts[2])} {date.parts[1]} {date.parts[0]}, {len(WEEK[1])} document"
         self.wait_for(True, lambda: any(words in name for name in self.desktop.spoken()[len(spoken) :]))
+        self.wait_for([self.day_name(1)], lambda: self.user.selected(DAYS))
+        self.assertIn(words, self.desktop.spoken()[-1], "the keyboard did not go to the tree")
 
     def test_name_themselves_above_their_list(self):
         self.choose_day(1)

@@ -57,6 +57,13 @@ class ClassicView : public View {
     return QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows;
   }
 
+  void currentChanged(const QModelIndex& current, const QModelIndex& previous) override {
+    if (View::hasFocus()) return View::currentChanged(current, previous);
+    // Trees tell screen readers that the keyboard is on their current row, wherever it is.
+    QAbstractItemView::currentChanged(current, previous);  // NOLINT(bugprone-parent-virtual-call)
+    View::viewport()->update();
+  }
+
   void paintEvent(QPaintEvent* event) override {
     View::paintEvent(event);
     if (m_emptyText.isEmpty() || View::model() == nullptr || View::model()->rowCount() > 0) return;

@@ -25,6 +25,12 @@ class ListViewTest : public ::testing::Test {
   ListView list;
 };
 
+TEST_F(ListViewTest, ColumnsAreAsDesignedUntilOneIsGivenAWidth) {
+  EXPECT_TRUE(list.HasDesignWidths());
+  list.SetColumnWidth(1, 900);
+  EXPECT_FALSE(list.HasDesignWidths());
+}
+
 TEST_F(ListViewTest, RowsKeepTheOrderOfAddingWhileSortingIsOff) {
   Add("b", "1");
   Add("a", "2");

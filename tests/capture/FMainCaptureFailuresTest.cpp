@@ -111,6 +111,7 @@ TEST_F(CaptureTest, AfterAFailedPollTicksDoNothingUntilCaptureIsResumed) {
 }
 
 TEST_F(CaptureTest, ALinkInPlaceOfAYearNeverLeadsOutOfTheRepository) {
+  if (!testing::CanMakeLinks()) GTEST_SKIP() << testing::kNoLinks;
   const testing::TemporaryFolder outside;
   testing::MakeFolderLink(outside.Native(), Daily("2026"));
   Open("2026-11-21 09:15:00");

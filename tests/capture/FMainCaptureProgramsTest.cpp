@@ -77,6 +77,7 @@ TEST_F(CaptureTest, AProgramThatWasOpenedFromTheListIsNotTakenForADocumentOfItsN
 }
 
 TEST_F(CaptureTest, AProgramsShortcutBehindALinkOutOfTheRepositoryIsNotMoved) {
+  if (!testing::CanMakeLinks()) GTEST_SKIP() << testing::kNoLinks;
   UseProgram("Code");
   Load();
   Open("2026-11-21 09:15:00");

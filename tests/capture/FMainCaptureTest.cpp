@@ -158,6 +158,7 @@ TEST_F(CaptureTest, AFirstStartCountsEachFiledDocumentOnce) {
 }
 
 TEST_F(CaptureTest, OnlyNormalShortcutFilesAreTaken) {
+  if (!testing::CanMakeLinks()) GTEST_SKIP() << testing::kNoLinks;
   fs::create_directory(desktop.NativeRecent() + "/folder.lnk");
   testing::MakeFileLink("/nowhere", desktop.NativeRecent() + "/dangling.lnk");
   desktop.folder.Write("recent/.hidden.lnk", "x");
@@ -168,6 +169,7 @@ TEST_F(CaptureTest, OnlyNormalShortcutFilesAreTaken) {
 }
 
 TEST_F(CaptureTest, WhatLiesWhereADocumentIsDueIsReplacedAndNeverWrittenInto) {
+  if (!testing::CanMakeLinks()) GTEST_SKIP() << testing::kNoLinks;
   const std::string document = desktop.folder.Write("document.odt", "a document");
   const std::string day = Daily("2026/November/21/");
   desktop.folder.Write("program/Daily/2026/November/21/a.lnk", "");

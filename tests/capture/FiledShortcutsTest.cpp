@@ -15,7 +15,7 @@ using testing::SetWritten;
 class FiledShortcutsTest : public ::testing::Test {
  protected:
   FiledShortcutsTest() {
-    for (const char* name : {"a.lnk", "copy.lnk"}) SetWritten(m_folder.Write(name, "x"), "2026-11-21 09:00:00", 7);
+    for (const char* name : {"a.lnk", "copy.lnk"}) SetWritten(m_folder.Write(name, "x"), "2026-11-21 09:00:00", 700);
     m_filed.Remember(Path("a.lnk"), Path("copy.lnk"), m_files.Status(Path("a.lnk"))->written);
   }
   std::string Path(const std::string& name) const { return m_folder.Path() + "\\" + name; }
@@ -34,14 +34,14 @@ TEST_F(FiledShortcutsTest, AShortcutThatIsNotKnownDoes) {
 }
 
 TEST_F(FiledShortcutsTest, AShortcutThatWasRewrittenDoes) {
-  SetWritten(m_folder / "a.lnk", "2026-11-21 09:00:00", 8);
+  SetWritten(m_folder / "a.lnk", "2026-11-21 09:00:00", 800);
   EXPECT_FALSE(m_filed.IsUnchanged(Path("a.lnk")));
   m_filed.Remember(Path("a.lnk"), Path("a.lnk"), m_files.Status(Path("a.lnk"))->written);
   EXPECT_TRUE(m_filed.IsUnchanged(Path("a.lnk"))) << "the newer knowledge counts";
 }
 
 TEST_F(FiledShortcutsTest, AShortcutWhoseCopyWasPurgedOrReplacedDoes) {
-  SetWritten(m_folder / "copy.lnk", "2026-11-21 09:00:00", 8);
+  SetWritten(m_folder / "copy.lnk", "2026-11-21 09:00:00", 800);
   EXPECT_FALSE(m_filed.IsUnchanged(Path("a.lnk")));
   std::filesystem::remove(m_folder / "copy.lnk");
   EXPECT_FALSE(m_filed.IsUnchanged(Path("a.lnk")));

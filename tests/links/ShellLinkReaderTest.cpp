@@ -41,11 +41,11 @@ class ShellLinkReaderTest : public ::testing::Test {
 
 TEST_F(ShellLinkReaderTest, ALinkIsReadWithTheMomentItWasWritten) {
   const std::string native = m_folder.Write("a.lnk", testing::TypicalLink());
-  SetWritten(native, "2026-11-20 14:03:27", 123'456'789);
+  SetWritten(native, "2026-11-20 14:03:27", 123'456'700);
   const auto read = m_reader.Read(Path("a.lnk"));
   EXPECT_EQ(read.link, testing::TypicalFields());
   EXPECT_EQ(read.written, m_files.Status(Path("a.lnk"))->written);
-  EXPECT_EQ(read.written.nanoseconds % 1'000'000'000, 123'456'789);
+  EXPECT_EQ(read.written.nanoseconds % 1'000'000'000, 123'456'700);
   EXPECT_THAT(m_events, IsEmpty());
 }
 
@@ -63,9 +63,9 @@ TEST_F(ShellLinkReaderTest, AFileOfNoBytesIsNoLink) {
 
 TEST_F(ShellLinkReaderTest, AFileThatIsNoLinkIsReportedAgainWhenItIsWrittenAnew) {
   const std::string native = m_folder.Write("a.lnk", "no link");
-  SetWritten(native, "2026-11-20 14:03:27", 1);
+  SetWritten(native, "2026-11-20 14:03:27", 100);
   m_reader.Read(Path("a.lnk"));
-  SetWritten(native, "2026-11-20 14:03:27", 2);
+  SetWritten(native, "2026-11-20 14:03:27", 200);
   m_reader.Read(Path("a.lnk"));
   m_reader.Read(Path("a.lnk"));
   EXPECT_THAT(m_events, SizeIs(2));

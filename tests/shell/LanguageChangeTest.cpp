@@ -39,7 +39,7 @@ class LanguageChangeTest : public ::testing::Test {
   }
 
   void File(const std::string& day, const std::string& localTime) const {
-    fs::create_directories(Daily(day));
+    fs::create_directories(testing::PathOf(Daily(day)));
     platform::ShellLink link;
     link.target = "Z:\\home\\ana\\a.odt";
     testing::WriteShortcut(Daily(day) + "/a.odt.lnk", link, localTime);

@@ -67,7 +67,7 @@ TEST_P(OddLanguagesTest, MonthsAreNamedAndStandInTheOrderOfTheCalendar) {
   std::vector<std::string> months;
   for (const auto& node : Node("2026").children) months.push_back(node->text);
   EXPECT_THAT(months, ElementsAreArray(GetParam().months.begin(), GetParam().months.begin() + 11));
-  EXPECT_TRUE(fs::exists(Daily("2025/" + Month(12) + "/05/12.odt.lnk")));
+  EXPECT_TRUE(fs::exists(testing::PathOf(Daily("2025/" + Month(12) + "/05/12.odt.lnk"))));
 }
 
 TEST_P(OddLanguagesTest, EveryDayIsShownAtAClickAndTheCalendarGoesThere) {
@@ -97,11 +97,12 @@ TEST_P(OddLanguagesTest, TheCalendarChoosesTheDayAndTheLatestOneAtTheStart) {
 }
 
 TEST_P(OddLanguagesTest, OldDaysArePurgedToTheDay) {
-  for (int month = 1; month <= 12; ++month) fs::create_directories(Daily("2025/" + Month(month) + "/05"));
+  for (int month = 1; month <= 12; ++month)
+    fs::create_directories(testing::PathOf(Daily("2025/" + Month(month) + "/05")));
   desktop.clock.Set(2026, 8, 10);  // 401 days before is 5 July 2025.
   EXPECT_TRUE(repository.PurgeOldShortcuts(400));
   for (int month = 1; month <= 12; ++month)
-    EXPECT_EQ(fs::exists(Daily("2025/" + Month(month) + "/05")), month > 7) << Month(month);
+    EXPECT_EQ(fs::exists(testing::PathOf(Daily("2025/" + Month(month) + "/05"))), month > 7) << Month(month);
   EXPECT_THAT(desktop.windowing.messages, SizeIs(1));
 }
 

@@ -32,7 +32,7 @@ TemporaryFolder::TemporaryFolder() : m_native(MakeFolder()) {}
 
 TemporaryFolder::~TemporaryFolder() {
   std::error_code ignored;
-  fs::remove_all(m_native, ignored);
+  fs::remove_all(PathOf(m_native), ignored);
 }
 
 std::string TemporaryFolder::Path() const {
@@ -41,15 +41,19 @@ std::string TemporaryFolder::Path() const {
 
 std::string TemporaryFolder::Write(const std::string& name, const std::string& bytes) const {
   const std::string path = *this / name;
-  fs::create_directories(fs::path(path).parent_path());
-  std::ofstream file(path, std::ios::binary);
+  fs::create_directories(PathOf(path).parent_path());
+  std::ofstream file(PathOf(path), std::ios::binary);
   file << bytes;
   if (!file.flush()) throw std::runtime_error("cannot write " + path);
   return path;
 }
 
+fs::path PathOf(const std::string& nativePath) {
+  return std::u8string(nativePath.begin(), nativePath.end());
+}
+
 std::string ReadFile(const std::string& nativePath) {
-  std::ifstream file(nativePath, std::ios::binary);
+  std::ifstream file(PathOf(nativePath), std::ios::binary);
   if (!file) throw std::runtime_error("cannot read " + nativePath);
   return {std::istreambuf_iterator<char>(file), {}};
 }

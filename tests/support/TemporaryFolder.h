@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <filesystem>
 #include <string>
 
 namespace dayvane::testing {
@@ -25,6 +26,9 @@ class TemporaryFolder {
  private:
   std::string m_native;
 };
+
+/// The path for a native one in UTF-8, which is not what every system takes a plain text for.
+std::filesystem::path PathOf(const std::string& nativePath);
 
 std::string ReadFile(const std::string& nativePath);
 

@@ -124,6 +124,7 @@ TEST_F(CFavoritesFileTest, AFileLargerThanCanBeReadIsMovedAside) {
 }
 
 TEST_F(CFavoritesFileTest, AFileThatTheUserKeepsElsewhereIsReadAndWrittenThroughItsLink) {
+  if (!testing::CanMakeLinks()) GTEST_SKIP() << testing::kNoLinks;
   const std::string elsewhere = desktop.folder.Write("elsewhere/counts.dat", kRecord);
   testing::MakeFileLink(elsewhere, DataFile());
   EXPECT_TRUE(favorites.Read());
@@ -135,6 +136,7 @@ TEST_F(CFavoritesFileTest, AFileThatTheUserKeepsElsewhereIsReadAndWrittenThrough
 }
 
 TEST_F(CFavoritesFileTest, ALinkToAFileThatIsNotThereYetIsRebuiltAndWrittenThrough) {
+  if (!testing::CanMakeLinks()) GTEST_SKIP() << testing::kNoLinks;
   fs::create_directory(desktop.folder / "elsewhere");
   testing::MakeFileLink(desktop.folder / "elsewhere/counts.dat", DataFile());
   File("2026/May/05", "Z:\\home\\a.odt", "2026-05-05 10:00:00");

@@ -106,6 +106,7 @@ TEST_F(CFavoritesTest, FilesThatAreNoShortcutsAreIgnoredByARebuild) {
 }
 
 TEST_F(CFavoritesTest, ARebuildNeverLeavesTheRepositoryByALink) {
+  if (!testing::CanMakeLinks()) GTEST_SKIP() << testing::kNoLinks;
   const testing::TemporaryFolder outside;
   platform::ShellLink link;
   link.target = "Z:\\secret.odt";

@@ -63,6 +63,18 @@ void MakeFolderLink(const std::string& target, const std::string& nativePath) {
   std::filesystem::create_directory_symlink(target, nativePath);
 }
 
+bool CanMakeLinks() {
+  return true;
+}
+
+bool CanQuoteInNames() {
+  return true;
+}
+
+void Hide(const std::string&) {
+  // The name's dot does it.
+}
+
 LocalZone::LocalZone(const char* name) {
   if (const char* before = std::getenv("TZ")) m_before = before;
   SetZone(name);

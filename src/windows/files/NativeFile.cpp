@@ -1,0 +1,135 @@
+// SPDX-License-Identifier: MIT
+#include "windows/files/NativeFile.h"
+
+#include <algorithm>
+#include <limits>
+
+#include "base/Error.h"
+#include "windows/files/NativePath.h"
+#include "windows/files/SystemError.h"
+
+namespace dayvane::files {
+
+namespace {
+
+using platform::EntryKind;
+
+bool IsHeldByAnother(std::uint32_t systemError) {
+  return systemError == ERROR_SHARING_VIOLATION || systemError == ERROR_LOCK_VIOLATION;
+}
+
+/// What a call moves at most at once.
+DWORD Portion(std::size_t size) {
+  return static_cast<DWORD>(std::min<std::size_t>(size, 1U << 30));
+}
+
+bool RemoveOnce(const std::wstring& native, DWORD attributes) {
+  // A link to a folder is removed as a folder is; what it leads to stays.
+  const bool isFolderLink =
+      (attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0 && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+  return (isFolderLink ? RemoveDirectoryW(native.c_str()) : DeleteFileW(native.c_str())) != 0;
+}
+
+/// A file that is kept in a special way is opened as what it seems to be; everything else as what it is, so that a link
+/// is not followed.
+DWORD OpeningFlags(const std::wstring& native) {
+  const std::uint32_t tag = ReparseTagOf(native);
+  const bool isSpecial = tag != 0 && !IsReparseTagNameSurrogate(tag);
+  return FILE_ATTRIBUTE_NORMAL | (isSpecial ? 0 : FILE_FLAG_OPEN_REPARSE_POINT);
+}
+
+bool IsOpenLink(const FileHandle& file, const BY_HANDLE_FILE_INFORMATION& information) {
+  FILE_ATTRIBUTE_TAG_INFO tag{};
+  return (information.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0 &&
+         GetFileInformationByHandleEx(file.Get(), FileAttributeTagInfo, &tag, sizeof tag) != 0 &&
+         KindOf(information.dwFileAttributes, tag.ReparseTag) == EntryKind::Link;
+}
+
+}  // namespace
+
+Place PlaceOf(const std::string& path) {
+  auto native = ToNative(path);
+  if (!native) throw Error(kPathNotFound, "Path not found", path);
+  return {std::move(*native), path};
+}
+
+std::uint32_t Persist(const std::function<bool()>& attempt) {
+  constexpr int kAttempts = 8;
+  constexpr DWORD kFirstPause = 2;  // milliseconds, twice as long each time: a quarter of a second in all
+  DWORD pause = kFirstPause;
+  for (int left = kAttempts;; pause *= 2) {
+    if (attempt()) return ERROR_SUCCESS;
+    const DWORD systemError = GetLastError();
+    if (!IsHeldByAnother(systemError) || --left == 0) return systemError;
+    Sleep(pause);
+  }
+}
+
+FileHandle OpenFile(const Place& place, std::uint32_t access, std::uint32_t disposition,
+                    BY_HANDLE_FILE_INFORMATION& information) {
+  constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+  const DWORD flags = OpeningFlags(place.native);
+  FileHandle file(INVALID_HANDLE_VALUE);
+  const std::uint32_t systemError = Persist([&] {
+    file = FileHandle(CreateFileW(place.native.c_str(), access, kShareAll, nullptr, disposition, flags, nullptr));
+    return file.IsOpen();
+  });
+  const bool isFolder = systemError == ERROR_ACCESS_DENIED && IsFolder(place.native);
+  if (systemError != ERROR_SUCCESS && !isFolder) Fail(systemError, place.named);
+  if (isFolder || GetFileType(file.Get()) != FILE_TYPE_DISK) throw Error(kPathFileAccess, "Not a file", place.named);
+  if (GetFileInformationByHandle(file.Get(), &information) == 0) Fail(place.named);
+  if (IsOpenLink(file, information)) throw Error(kPathFileAccess, "Not a file", place.named);
+  return file;
+}
+
+void WriteAll(const FileHandle& file, std::string_view bytes, const std::string& path) {
+  while (!bytes.empty()) {
+    DWORD written = 0;
+    if (WriteFile(file.Get(), bytes.data(), Portion(bytes.size()), &written, nullptr) == 0) Fail(path);
+    bytes.remove_prefix(written);
+  }
+}
+
+std::size_t ReadUpTo(const FileHandle& file, char* buffer, std::size_t size, const std::string& path) {
+  std::size_t used = 0;
+  while (used < size) {
+    DWORD count = 0;
+    if (ReadFile(file.Get(), buffer + used, Portion(size - used), &count, nullptr) == 0) Fail(path);
+    if (count == 0) break;
+    used += count;
+  }
+  return used;
+}
+
+std::uint32_t Remove(const std::wstring& native) {
+  return Persist([&] {
+    const DWORD attributes = GetFileAttributesW(native.c_str());
+    if (attributes == INVALID_FILE_ATTRIBUTES) return false;
+    if (RemoveOnce(native, attributes)) return true;
+    if (GetLastError() != ERROR_ACCESS_DENIED || (attributes & FILE_ATTRIBUTE_READONLY) == 0) return false;
+    return SetFileAttributesW(native.c_str(), attributes & ~DWORD{FILE_ATTRIBUTE_READONLY}) != 0 &&
+           RemoveOnce(native, attributes);
+  });
+}
+
+EntryKind KindOf(std::uint32_t attributes, std::uint32_t reparseTag) {
+  if ((attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0 && IsReparseTagNameSurrogate(reparseTag)) return EntryKind::Link;
+  if ((attributes & FILE_ATTRIBUTE_DIRECTORY) != 0) return EntryKind::Folder;
+  return (attributes & FILE_ATTRIBUTE_DEVICE) != 0 ? EntryKind::Other : EntryKind::File;
+}
+
+std::uint32_t ReparseTagOf(const std::wstring& native) {
+  WIN32_FIND_DATAW found{};
+  const SearchHandle search(FindFirstFileW(native.c_str(), &found));
+  const bool isTagged = search.IsOpen() && (found.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
+  return isTagged ? found.dwReserved0 : 0;
+}
+
+bool IsFolder(const std::wstring& native) {
+  const DWORD attributes = GetFileAttributesW(native.c_str());
+  if (attributes == INVALID_FILE_ATTRIBUTES) return false;
+  const bool isTagged = (attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
+  return KindOf(attributes, isTagged ? ReparseTagOf(native) : 0) == EntryKind::Folder;
+}
+
+}  // namespace dayvane::files

@@ -23,6 +23,8 @@ make_environment() {
   mkdir -p "$WINEPREFIX" "$HOME"
   run_windows 180 wineboot -i
   run_windows 30 reg add 'HKCU\Software\Wine\WineDbg' /v ShowCrashDialog /t REG_DWORD /d 0 /f
+  # Else files count as hidden when their names begin with a dot.
+  run_windows 30 reg add 'HKCU\Software\Wine' /v ShowDotFiles /t REG_SZ /d Y /f
   run_windows 30 reg add 'HKCU\Software\Wine\Drivers' /v Graphics /t REG_SZ /d null /f
   settle
   touch "$WINEPREFIX/ready"

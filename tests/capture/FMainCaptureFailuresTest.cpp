@@ -13,7 +13,6 @@ using testing::CaptureTest;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
-using testing::ReadFile;
 using testing::SetWritten;
 
 TEST_F(CaptureTest, BrokenShortcutsDoNotKeepOthersFromBeingFiled) {

@@ -1,12 +1,11 @@
 """Dayvane itself, installed into a folder and run in a private desktop."""
 
 import configparser
-import csv
 import pathlib
 import signal
 import subprocess
-import time
 
+from record import Record
 from waiting import wait_until
 
 START_SECONDS = 60
@@ -22,15 +21,13 @@ def install(build_folder, stage):
     )
 
 
-class Dayvane:
+class Dayvane(Record):
     def __init__(self, desktop, stage):
+        super().__init__(desktop.data / "dayvane")
         self.desktop = desktop
         self.executable = pathlib.Path(stage) / "bin/dayvane"
-        self.folder = desktop.data / "dayvane"
         self.recent = self.folder / "Recent"
-        self.daily = self.folder / "Daily"
         self.settings_file = desktop.config / "dayvane/dayvane.ini"
-        self.favorites_file = self.folder / "Favorites.dat"
         self.process = None
         self.witness = None  # SystemCalls that write down what the program does
 
@@ -83,30 +80,6 @@ class Dayvane:
         self.process.kill()
         if self.process.wait(END_SECONDS) != -signal.SIGKILL:
             raise AssertionError(f"Dayvane had ended before with {self.process.returncode}")
-
-    def day_folder(self, moment):
-        """Where what was opened at a moment (seconds since 1970) is filed: "Daily/2026/November/20"."""
-        return self.daily / time.strftime("%Y/%B/%d", time.localtime(moment))
-
-    def filed(self):
-        """Every shortcut in the repository, relative to it: "2026/November/20/Report.odt.lnk"."""
-        return sorted(str(path.relative_to(self.daily)) for path in self.daily.glob("*/*/*/*"))
-
-    def favorites(self):
-        """The data file's records as lists of eight texts: days accessed, last accessed, shortcut, name, folder, …"""
-        if not self.favorites_file.exists():
-            return []
-        with open(self.favorites_file, encoding="utf-8", newline="") as file:
-            return list(csv.reader(file))
-
-    def days_accessed(self):
-        """Days accessed by document name."""
-        return {record[3]: int(record[0]) for record in self.favorites()}
-
-    def errors(self):
-        """The lines of its error log."""
-        log = self.folder / "ErrorLog.txt"
-        return log.read_text(encoding="utf-8").splitlines() if log.exists() else []
 
     def _window_or_end(self):
         return self.process.poll() is not None or self.desktop.windows(WINDOW_TITLE)

@@ -11,7 +11,8 @@ namespace dayvane::files {
 template <auto Close>
 class Handle {
  public:
-  explicit Handle(HANDLE handle) : m_handle(handle) {}
+  /// Of a call that failed there is nothing to own: some calls tell that by a null pointer.
+  explicit Handle(HANDLE handle) : m_handle(handle == nullptr ? INVALID_HANDLE_VALUE : handle) {}
   Handle(Handle&& other) noexcept : m_handle(std::exchange(other.m_handle, INVALID_HANDLE_VALUE)) {}
   Handle& operator=(Handle&& other) noexcept {
     std::swap(m_handle, other.m_handle);
@@ -34,6 +35,7 @@ class Handle {
 };
 
 using FileHandle = Handle<&CloseHandle>;
+using ObjectHandle = Handle<&CloseHandle>;  ///< an event, a mutex, a process
 using SearchHandle = Handle<&FindClose>;
 
 }  // namespace dayvane::files

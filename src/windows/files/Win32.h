@@ -17,4 +17,5 @@
 #undef MessageBox
 #undef PostMessage
 #undef ReplaceFile
+#undef ReportEvent
 #undef ShellExecute

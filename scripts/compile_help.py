@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Compiles the help sources into the one file that the help viewer reads.
 
-Usage: compile_help.py OUTPUT SOURCE_FOLDER PICTURE_FOLDER...
+Usage: compile_help.py [--bitmaps] OUTPUT SOURCE_FOLDER PICTURE_FOLDER...
 
 A source "<name>.html" is one topic, well-formed XML of this shape:
 
@@ -14,10 +14,14 @@ A source "<name>.html" is one topic, well-formed XML of this shape:
 Everything that a reader could stumble over is an error here: a link to nowhere, a missing picture, a topic outside the
 tree, a number given twice, markup that the viewer does not draw. The format of the output is described in
 src/help/HelpFile.h.
+
+With --bitmaps the pictures are packed as PNG, for a desktop that draws no SVG. They are large enough to be made smaller
+for every screen: one drawn for a screen of one scale would be blurred on the others.
 """
 
 import pathlib
 import re
+import subprocess
 import sys
 import xml.etree.ElementTree as ElementTree
 
@@ -40,6 +44,10 @@ ALLOWED = {
 NAME = re.compile(r"[a-z0-9][a-z0-9.-]*\Z")
 
 
+FINEST_SCALE = 3  # device pixels to a pixel of the page
+SMALLEST_BITMAP = 192  # a small picture is used in several sizes, 16 to 64
+
+
 class SourceError(Exception):
     pass
 
@@ -47,7 +55,7 @@ class SourceError(Exception):
 class Topic:
     def __init__(self, path):
         self.name = path.stem
-        self.links, self.pictures = [], []
+        self.links, self.pictures = [], {}  # the pictures' names, each with its greatest width
         root = ElementTree.parse(path).getroot()
         if root.tag != "topic" or not root.get("title"):
             raise SourceError(f"{path}: not a topic with a title")
@@ -58,7 +66,14 @@ class Topic:
         for element in root.iter():
             if element is not root:
                 self._check(path, element)
-        self.body = "".join(ElementTree.tostring(child, encoding="unicode") for child in root).strip()
+        self.root = root
+
+    def body(self):
+        return "".join(ElementTree.tostring(child, encoding="unicode") for child in self.root).strip()
+
+    def use_bitmaps(self):
+        for image in self.root.iter("img"):
+            image.set("src", image.get("src").replace(".svg?", ".png?"))
 
     def _check(self, path, element):
         if element.tag not in ALLOWED or not set(element.keys()) <= ALLOWED[element.tag]:
@@ -68,7 +83,8 @@ class Topic:
         if element.tag == "img":
             if not (element.get("src") and element.get("width") and element.get("height")):
                 raise SourceError(f"{path}: a picture without a size")
-            self.pictures.append(element.get("src"))
+            name, width = element.get("src"), int(element.get("width"))
+            self.pictures[name] = max(width, self.pictures.get(name, 0))
             # The viewer draws a picture for the size that is part of its address: scaled bitmaps are blurred.
             element.set("src", "{src}?{width}x{height}".format(**element.attrib))
 
@@ -107,7 +123,25 @@ def record(kind, words, payload):
     return header.encode("ascii") + b"\n" + payload + b"\n"
 
 
-def compile_help(source_folder, picture_folders):
+def bitmap(path, width):
+    width = max(SMALLEST_BITMAP, FINEST_SCALE * width)
+    command = ["rsvg-convert", f"--width={width}", "--keep-aspect-ratio", path]
+    return subprocess.run(command, check=True, capture_output=True).stdout
+
+
+def picture_records(topics, pictures, bitmaps):
+    widths = {}
+    for topic in topics.values():
+        for name, width in topic.pictures.items():
+            widths[name] = max(width, widths.get(name, 0))
+    for name, width in sorted(widths.items()):
+        if bitmaps:
+            yield record("picture", [name.replace(".svg", ".png")], bitmap(pictures[name], width))
+        else:
+            yield record("picture", [name], pictures[name].read_bytes())
+
+
+def compile_help(source_folder, picture_folders, bitmaps=False):
     sources = sorted(pathlib.Path(source_folder).glob("*.html"))
     topics = {path.stem: Topic(path) for path in sources}
     contents = read_contents(pathlib.Path(source_folder) / "contents.xml")
@@ -116,22 +150,24 @@ def compile_help(source_folder, picture_folders):
 
     output = b"Dayvane help 1\n"
     for topic in topics.values():
-        payload = f"{topic.title}\n{topic.body}".encode("utf-8")
+        if bitmaps:
+            topic.use_bitmaps()
+        payload = f"{topic.title}\n{topic.body()}".encode("utf-8")
         output += record("topic", [topic.name, *map(str, topic.contexts)], payload)
-    for name in sorted({name for topic in topics.values() for name in topic.pictures}):
-        output += record("picture", [name], pictures[name].read_bytes())
+    output += b"".join(picture_records(topics, pictures, bitmaps))
     output += record("contents", [], "\n".join("\t" * depth + name for depth, name in contents).encode("ascii"))
     return output + b"end\n"
 
 
 def main():
-    if len(sys.argv) < 4:
+    arguments = [argument for argument in sys.argv[1:] if argument != "--bitmaps"]
+    if len(arguments) < 3:
         sys.exit(__doc__)
     try:
-        output = compile_help(sys.argv[2], sys.argv[3:])
-    except (SourceError, ElementTree.ParseError, OSError, ValueError) as error:
+        output = compile_help(arguments[1], arguments[2:], bitmaps="--bitmaps" in sys.argv)
+    except (SourceError, ElementTree.ParseError, OSError, ValueError, subprocess.CalledProcessError) as error:
         sys.exit(f"{sys.argv[0]}: {error}")
-    pathlib.Path(sys.argv[1]).write_bytes(output)
+    pathlib.Path(arguments[0]).write_bytes(output)
 
 
 if __name__ == "__main__":

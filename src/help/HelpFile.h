@@ -31,7 +31,7 @@ struct ContentsEntry {
 /// header line, exactly as many bytes as the header says, and a line feed. Lines end with a line feed alone.
 ///
 ///     topic <bytes> <name> <context id>…     the title in the first line, the body in the rest; UTF-8
-///     picture <bytes> <name>                 a file, its kind told by the name's ending: .svg
+///     picture <bytes> <name>                 a file, its kind told by the name's ending: .svg, .png
 ///     contents <bytes>                       a line per entry: a tab for each level, then the topic's name
 ///
 /// Records of another kind are skipped, so that a later version can add some. A size beyond the end of the file, a name

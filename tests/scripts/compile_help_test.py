@@ -1,6 +1,7 @@
 """Broken help sources must stop the build. Run by ctest with the compiler's path as the only argument."""
 
 import pathlib
+import shutil
 import subprocess
 import sys
 import tempfile
@@ -20,10 +21,10 @@ class CompileHelpTest(unittest.TestCase):
     def write(self, name, text):
         (self.folder / name).write_text(text, encoding="utf-8")
 
-    def compile(self):
+    def compile(self, *options):
         output = self.folder / "out.hlp"
         result = subprocess.run(
-            [sys.executable, COMPILER, output, self.folder, self.folder], capture_output=True, text=True
+            [sys.executable, COMPILER, *options, output, self.folder, self.folder], capture_output=True, text=True
         )
         return result.returncode, result.stderr, output.read_bytes() if output.exists() else None
 
@@ -48,6 +49,15 @@ class CompileHelpTest(unittest.TestCase):
         output = self.compile()[2]
         self.assertEqual(output.count(b"picture 6 dot.svg\n<svg/>\n"), 1)
         self.assertEqual(output.count(b'src="dot.svg?3x4"'), 2)
+
+    @unittest.skipUnless(shutil.which("rsvg-convert"), "nothing here draws SVG")
+    def test_pictures_can_be_packed_as_bitmaps(self):
+        self.write("dot.svg", '<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 3 4"/>')
+        self.write("home.html", '<topic title="Home"><img src="dot.svg" width="3" height="4" alt=""/></topic>')
+        output = self.compile("--bitmaps")[2]
+        self.assertRegex(output, rb"picture \d+ dot\.png\n\x89PNG\r\n")
+        self.assertIn(b'src="dot.png?3x4"', output)
+        self.assertNotIn(b".svg", output)
 
     def test_a_link_to_nowhere_is_refused(self):
         self.write("home.html", '<topic title="Home"><p><a href="away">Away</a></p></topic>')

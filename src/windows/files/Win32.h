@@ -3,9 +3,11 @@
 
 /// The one door to the system's headers. They give their functions' names to macros, which would also rename functions
 /// of the program that are called the same.
-// clang-format off: the others need the first
+// The others need the first.
+// clang-format off
 #include <windows.h>
 #include <commctrl.h>
+#include <commoncontrols.h>
 #include <shellapi.h>
 #include <shlobj.h>
 // clang-format on

@@ -25,5 +25,7 @@ using Brush = Drawing<HBRUSH, &DeleteObject>;
 using Bitmap = Drawing<HBITMAP, &DeleteObject>;
 using Icon = Drawing<HICON, &DestroyIcon>;
 using MenuHandle = Drawing<HMENU, &DestroyMenu>;
+using Accelerators = Drawing<HACCEL, &DestroyAcceleratorTable>;
+using ImageListHandle = Drawing<HIMAGELIST, &ImageList_Destroy>;
 
 }  // namespace dayvane::widgets

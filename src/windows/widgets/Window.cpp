@@ -37,8 +37,16 @@ HINSTANCE ThisModule() {
   return GetModuleHandleW(nullptr);
 }
 
+std::wstring ShownText(const std::string& text) {
+  if (auto wide = files::ToWide(text)) return *std::move(wide);
+  const int size = static_cast<int>(text.size());
+  std::wstring damaged(text.size(), L'\0');
+  damaged.resize(static_cast<std::size_t>(MultiByteToWideChar(CP_UTF8, 0, text.data(), size, damaged.data(), size)));
+  return damaged;
+}
+
 void SetText(HWND window, const std::string& text) {
-  SetWindowTextW(window, files::ToWide(text).value_or(L"").c_str());
+  SetWindowTextW(window, ShownText(text).c_str());
 }
 
 Window::Window(const Kind& kind) {

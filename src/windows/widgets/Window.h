@@ -43,7 +43,10 @@ class Window {
 /// The instance of the program or test that this code is part of.
 HINSTANCE ThisModule();
 
-/// The text of a window, UTF-8. A text that is not well formed is shown with what is.
+/// A text for the screen; one that is not well formed UTF-8 is shown with what is.
+std::wstring ShownText(const std::string& text);
+
+/// The text of a window.
 void SetText(HWND window, const std::string& text);
 
 }  // namespace dayvane::widgets

@@ -8,8 +8,10 @@
 #include <windows.h>
 #include <commctrl.h>
 #include <commoncontrols.h>
+#include <uxtheme.h>
 #include <shellapi.h>
 #include <shlobj.h>
+#include <windowsx.h>
 // clang-format on
 
 #undef CopyFile

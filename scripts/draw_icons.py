@@ -14,23 +14,30 @@ import sys
 import tempfile
 
 SIZES = (16, 20, 24, 32, 40, 48, 64)
-LARGE = 256  # of the program's icon, which the shell shows that large
+LARGE = {"dayvane": (256,), "logo": (128, 256)}  # the shell shows the program's icon that large, a window the logo
 
 # Of a picture with drawings of its own: the drawing for a size, and the pixels that it fills. The rest is a margin.
 DRAWN = {16: ("-16", 16), 20: ("-22", 20), 24: ("-22", 22), 32: ("-16", 32)}
 
 
+def height_of(source, width):
+    """Of a drawing of this width: icons are square, and not every drawing is."""
+    box = re.search(r'viewBox="\S+ \S+ (\S+) (\S+)"', source.read_text(encoding="utf-8"))
+    return round(width * float(box[2]) / float(box[1]))
+
+
 def draw(source, size, filled, target):
-    margin = (size - filled) // 2
-    page = [f"--page-width={size}", f"--page-height={size}", f"--left={margin}", f"--top={margin}"]
-    command = ["rsvg-convert", f"--width={filled}", f"--height={filled}", *page, f"--output={target}", source]
+    height = height_of(source, filled)
+    page = [f"--page-width={size}", f"--page-height={size}", f"--left={(size - filled) // 2}"]
+    page.append(f"--top={(size - height) // 2}")
+    command = ["rsvg-convert", f"--width={filled}", f"--height={height}", *page, f"--output={target}", source]
     subprocess.run(command, check=True)
 
 
 def make_icon(picture, output, scratch):
     small = picture.with_name(picture.stem + "-16.svg").exists()
     drawings = []
-    for size in SIZES + ((LARGE,) if picture.stem == "dayvane" else ()):
+    for size in SIZES + LARGE.get(picture.stem, ()):
         suffix, filled = DRAWN.get(size, ("", size)) if small else ("", size)
         target = scratch / f"{picture.stem}-{size}.png"
         draw(picture.with_name(picture.stem + suffix + ".svg"), size, filled, target)

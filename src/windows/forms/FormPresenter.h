@@ -38,6 +38,9 @@ class FormPresenter : public MessageTranslator {
   /// The keys of the menus. The table must outlive the presenter.
   void SetAccelerators(HACCEL accelerators) { m_accelerators = accelerators; }
 
+  /// The child that has the keyboard when the window first opens, where that is not the first one that can have it.
+  void SetFirstFocus(HWND child) { m_focus = child; }
+
   /// Asks the form to go, after updating its place to that of the window.
   bool RequestUnload(controls::UnloadMode mode);
 

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "windows/help/HelpPart.h"
+
+namespace dayvane::help {
+
+enum class HelpCommand { Back = 1, Forward, FirstPage, LargerText, SmallerText, NormalText, Search, Find };
+
+/// The buttons of the help window.
+class HelpToolbar : public HelpPart {
+ public:
+  HelpToolbar(HWND parent, const widgets::SharedLook& look);
+
+  void Enable(HelpCommand command, bool enabled) const;
+  int WantedHeight() const;
+  void SetLook(const widgets::SharedLook& look) override;
+
+ private:
+  using Images = widgets::Drawing<HIMAGELIST, &ImageList_Destroy>;
+
+  void AddButtons() const;
+  void DrawImages();
+
+  Images m_images;
+};
+
+}  // namespace dayvane::help

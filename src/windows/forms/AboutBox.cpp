@@ -5,8 +5,6 @@
 #include <utility>
 
 #include "resources/MResourceConstants.h"
-#include "windows/forms/ScreenFit.h"
-#include "windows/widgets/Lengths.h"
 #include "windows/widgets/Pictures.h"
 
 namespace dayvane::widgets {
@@ -30,10 +28,6 @@ const wchar_t* LinkClass() {
     return InitCommonControlsEx(&classes) != FALSE;
   }();
   return isThere ? kLinkClass : WC_STATICW;
-}
-
-void PlaceChild(const ChildWindow& child, POINT corner, SIZE size) {
-  SetWindowPos(child.Handle(), nullptr, corner.x, corner.y, size.cx, size.cy, SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 }  // namespace
@@ -63,40 +57,34 @@ std::optional<LRESULT> AboutBox::Link::OnNotify(NMHDR& notice) {
 }
 
 AboutBox::AboutBox(const platform::About& about, HWND owner)
-    : TopWindow({.className = L"Dayvane.About",
-                 .style = WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_CLIPCHILDREN,
-                 .extendedStyle = WS_EX_DLGMODALFRAME,
-                 .parent = owner}),
-      m_title(m_titleText, Handle(), CurrentLook(), kSizeOfTitle),
-      m_version(m_versionText, Handle(), CurrentLook()),
-      m_company(m_companyText, Handle(), CurrentLook()),
-      m_copyright(m_copyrightText, Handle(), CurrentLook()),
-      m_warning(m_warningText, Handle(), CurrentLook()),
-      m_link(m_linkText, about.homePage, Handle(), CurrentLook()),
-      m_ok(m_okCommand, Handle(), CurrentLook()),
-      m_presenter(m_form, *this, Handle()) {
+    : DialogWindow(AboutState::form, L"Dayvane.About", owner),
+      m_title(title, Handle(), CurrentLook(), kSizeOfTitle),
+      m_version(version, Handle(), CurrentLook()),
+      m_company(company, Handle(), CurrentLook()),
+      m_copyright(copyright, Handle(), CurrentLook()),
+      m_warning(warning, Handle(), CurrentLook()),
+      m_link(link, about.homePage, Handle(), CurrentLook()),
+      m_ok(ok, Handle(), CurrentLook()) {
   FillIn(about);
-  SetWindowLongPtrW(m_ok.Handle(), GWLP_ID, IDOK);
-  SendMessageW(m_ok.Handle(), BM_SETSTYLE, BS_DEFPUSHBUTTON, FALSE);
-  m_presenter.SetFirstFocus(m_ok.Handle());
-  m_okCommand.Click.Connect([this] { m_form.SetVisible(false); });
-  m_form.QueryUnload.Connect([this](bool& cancel, controls::UnloadMode) {
+  Number(m_ok, IDOK);
+  Presenter().SetFirstFocus(m_ok.Handle());
+  ok.Click.Connect([this] { form.SetVisible(false); });
+  form.QueryUnload.Connect([this](bool& cancel, controls::UnloadMode) {
     cancel = true;
-    m_form.SetVisible(false);
+    form.SetVisible(false);
   });
-  m_isReady = true;
-  FitAround(LayOut());
+  Begin();
 }
 
 void AboutBox::FillIn(const platform::About& about) {
-  m_form.SetCaption("About " + about.title);
-  m_titleText.SetCaption(about.title);
-  m_versionText.SetCaption(about.version);
-  m_companyText.SetCaption(about.company);
-  m_copyrightText.SetCaption(about.copyright);
-  m_warningText.SetCaption(about.warning);
-  m_linkText.SetCaption(about.homePage);
-  m_okCommand.SetCaption("OK");
+  form.SetCaption("About " + about.title);
+  title.SetCaption(about.title);
+  version.SetCaption(about.version);
+  company.SetCaption(about.company);
+  copyright.SetCaption(about.copyright);
+  warning.SetCaption(about.warning);
+  link.SetCaption(about.homePage);
+  ok.SetCaption("OK");
   m_texts.Add(m_title, 0);
   m_texts.Add(m_version, kGapBetweenLines);
   m_texts.Add(m_company, kGapBetweenGroups);
@@ -114,52 +102,25 @@ SIZE AboutBox::LayOut() {
   const POINT corner{2 * margin + picture, margin};
   m_texts.Place(corner, width, look);
   LONG top = corner.y + m_texts.SizeWithin(width, look).cy + look.Pixels(kGapBetweenGroups);
-  const SIZE link = m_link.IdealSize();
-  PlaceChild(m_link, {corner.x, top}, {std::min<LONG>(link.cx + margin, width), link.cy});
-  top += link.cy + margin;
+  const SIZE line = m_link.IdealSize();
+  PlaceChild(m_link, {corner.x, top}, {std::min<LONG>(line.cx + margin, width), line.cy});
+  top += line.cy + margin;
   const SIZE button = m_ok.IdealSize();
   PlaceChild(m_ok, {corner.x + width - button.cx, top}, button);
   return {corner.x + width + margin, top + button.cy + margin};
 }
 
-void AboutBox::FitAround(SIZE inside) {
-  const UINT dpi = CurrentLook()->Dpi();
-  RECT frame{0, 0, inside.cx, inside.cy};
-  AdjustWindowRectExForDpi(&frame, static_cast<DWORD>(GetWindowLongPtrW(Handle(), GWL_STYLE)), FALSE,
-                           static_cast<DWORD>(GetWindowLongPtrW(Handle(), GWL_EXSTYLE)), dpi);
-  const SIZE size{frame.right - frame.left, frame.bottom - frame.top};
-  RECT around = AvailableScreenAt({0, 0});
-  const HWND owner = GetWindow(Handle(), GW_OWNER);
-  if (owner != nullptr && IsWindowVisible(owner) != 0 && IsIconic(owner) == 0) GetWindowRect(owner, &around);
-  MoveControl(m_form, CentredIn(around, size), dpi);
+void AboutBox::RelayLook() {
+  m_texts.SetLook(CurrentLook());
+  m_link.SetLook(CurrentLook());
+  m_ok.SetLook(CurrentLook());
 }
 
-void AboutBox::LookChanged() {
-  const SharedLook& look = CurrentLook();
-  m_texts.SetLook(look);
-  m_link.SetLook(look);
-  m_ok.SetLook(look);
-  FitAround(LayOut());
-  InvalidateRect(Handle(), nullptr, TRUE);
-}
-
-void AboutBox::Paint() {
-  PAINTSTRUCT paint{};
-  const HDC context = BeginPaint(Handle(), &paint);
-  if (context == nullptr) return;
-  if (m_picture != nullptr)
-    DrawIconEx(context, m_picturePlace.left, m_picturePlace.top, m_picture.get(),
-               m_picturePlace.right - m_picturePlace.left, m_picturePlace.bottom - m_picturePlace.top, 0, nullptr,
-               DI_NORMAL);
-  EndPaint(Handle(), &paint);
-}
-
-LRESULT AboutBox::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
-  if (!m_isReady) return TopWindow::OnMessage(message, wParam, lParam);
-  if (message == WM_PAINT) return Paint(), 0;
-  if (message == DM_GETDEFID) return MAKELRESULT(IDOK, DC_HASDEFID);
-  if (const auto answer = m_presenter.OnMessage(message, wParam, lParam)) return *answer;
-  return TopWindow::OnMessage(message, wParam, lParam);
+void AboutBox::Paint(HDC context) {
+  if (m_picture == nullptr) return;
+  DrawIconEx(context, m_picturePlace.left, m_picturePlace.top, m_picture.get(),
+             m_picturePlace.right - m_picturePlace.left, m_picturePlace.bottom - m_picturePlace.top, 0, nullptr,
+             DI_NORMAL);
 }
 
 }  // namespace dayvane::widgets

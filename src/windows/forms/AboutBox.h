@@ -5,24 +5,29 @@
 
 #include "controls/SimpleControls.h"
 #include "platform/Windowing.h"
-#include "windows/forms/FormPresenter.h"
+#include "windows/forms/DialogWindow.h"
 #include "windows/forms/TextColumn.h"
-#include "windows/widgets/ButtonPresenter.h"
 
 namespace dayvane::widgets {
 
+/// What an about box shows; made before its window.
+struct AboutState {
+  controls::Form form;
+  controls::Label title, version, company, copyright, warning, link;
+  controls::Button ok;
+};
+
 /// What the program is and whose, with a link to its home page.
-class AboutBox : public TopWindow {
+class AboutBox : private AboutState, public DialogWindow {
  public:
   /// `owner` may be nullptr.
   AboutBox(const platform::About& about, HWND owner);
-  ~AboutBox() override { m_isReady = false; }
-
-  FormPresenter& Presenter() { return m_presenter; }
+  ~AboutBox() override { End(); }
 
  protected:
-  void LookChanged() override;
-  LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+  void RelayLook() override;
+  SIZE LayOut() override;
+  void Paint(HDC context) override;
 
  private:
   /// A line of which a part can be followed by the mouse and the keyboard.
@@ -41,21 +46,13 @@ class AboutBox : public TopWindow {
   };
 
   void FillIn(const platform::About& about);
-  SIZE LayOut();
-  void FitAround(SIZE inside);
-  void Paint();
 
-  bool m_isReady = false;
-  controls::Form m_form;
-  controls::Label m_titleText, m_versionText, m_companyText, m_copyrightText, m_warningText, m_linkText;
-  controls::Button m_okCommand;
   TextPresenter m_title, m_version, m_company, m_copyright, m_warning;
   Link m_link;
   ButtonPresenter m_ok;
   TextColumn m_texts;
   Icon m_picture;
   RECT m_picturePlace{};
-  FormPresenter m_presenter;
 };
 
 }  // namespace dayvane::widgets

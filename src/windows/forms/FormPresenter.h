@@ -38,6 +38,9 @@ class FormPresenter : public MessageTranslator {
   /// The keys of the menus. The table must outlive the presenter.
   void SetAccelerators(HACCEL accelerators) { m_accelerators = accelerators; }
 
+  /// Gives form and window a place on the screen, in pixels.
+  void MoveTo(const RECT& frame);
+
   /// The child that has the keyboard when the window first opens, where that is not the first one that can have it.
   void SetFirstFocus(HWND child) { m_focus = child; }
 
@@ -92,8 +95,9 @@ class FormPresenter : public MessageTranslator {
   void TellState();
   void TellPlace();
   controls::WindowState StateOfWindow() const;
-  Place PlaceOfWindow() const;
-  RECT MoveTo(const Place& place) const;  ///< returns where it would be on a screen that has room
+  Place PlaceOfFrame(const RECT& frame) const;
+  void Tell(const Place& place);
+  RECT ShowWindowAt(const Place& place) const;  ///< returns where it would be on a screen that has room
 
   void Show();
   void ShowEnabled();

@@ -57,8 +57,7 @@ void FormPresenter::TellState() {
   m_form.SetState(m_shownState);
 }
 
-FormPresenter::Place FormPresenter::PlaceOfWindow() const {
-  const RECT frame = FrameOf(Handle());
+FormPresenter::Place FormPresenter::PlaceOfFrame(const RECT& frame) const {
   const UINT dpi = GetDpiForWindow(Handle());
   return {ToTwips(frame.left, GetDpiForSystem()), ToTwips(frame.top, GetDpiForSystem()),
           ToTwips(frame.right - frame.left, dpi), ToTwips(frame.bottom - frame.top, dpi)};
@@ -66,8 +65,17 @@ FormPresenter::Place FormPresenter::PlaceOfWindow() const {
 
 void FormPresenter::TellPlace() {
   if (m_isPlacing || IsWindowVisible(Handle()) == 0 || StateOfWindow() != WindowState::Normal) return;
-  m_shownPlace = PlaceOfWindow();
-  m_form.Move(m_shownPlace.left, m_shownPlace.top, m_shownPlace.width, m_shownPlace.height);
+  Tell(PlaceOfFrame(FrameOf(Handle())));
+}
+
+void FormPresenter::Tell(const Place& place) {
+  m_shownPlace = place;
+  m_form.Move(place.left, place.top, place.width, place.height);
+}
+
+void FormPresenter::MoveTo(const RECT& frame) {
+  const Place place = PlaceOfFrame(frame);
+  m_form.Move(place.left, place.top, place.width, place.height);
 }
 
 void FormPresenter::Show() {
@@ -92,14 +100,12 @@ void FormPresenter::ShowPlace() {
   if (StateOfWindow() != WindowState::Normal) return;
   const ScopedValue placing(m_isPlacing, true);
   m_shownPlace = place;
-  const RECT wanted = MoveTo(place);
+  const RECT wanted = ShowWindowAt(place);
   const RECT frame = FrameOf(Handle());
-  if (EqualRect(&frame, &wanted) != 0) return;
-  m_shownPlace = PlaceOfWindow();
-  m_form.Move(m_shownPlace.left, m_shownPlace.top, m_shownPlace.width, m_shownPlace.height);
+  if (EqualRect(&frame, &wanted) == 0) Tell(PlaceOfFrame(frame));
 }
 
-RECT FormPresenter::MoveTo(const Place& place) const {
+RECT FormPresenter::ShowWindowAt(const Place& place) const {
   constexpr UINT kOnlyPlace = SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOOWNERZORDER;
   RECT wanted{ToPixels(place.left, GetDpiForSystem()), ToPixels(place.top, GetDpiForSystem()), 0, 0};
   // First to its screen, in whose dots per inch its size is.

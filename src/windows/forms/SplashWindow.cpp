@@ -6,7 +6,6 @@
 #include "resources/MResourceConstants.h"
 #include "shell/FSplash.h"
 #include "windows/forms/ScreenFit.h"
-#include "windows/widgets/Lengths.h"
 #include "windows/widgets/Pictures.h"
 
 namespace dayvane::widgets {
@@ -48,8 +47,7 @@ SplashWindow::SplashWindow(FSplash& splash)
   m_texts.Add(m_copyright, kLineGap);
   m_texts.Add(m_warning, kTextGap);
   m_isReady = true;
-  const RECT place = CentredIn(AvailableScreenAt({0, 0}), LayOut());
-  MoveControl(splash.form, place, CurrentLook()->Dpi());
+  m_form.MoveTo(CentredIn(AvailableScreenAt({0, 0}), LayOut()));
 }
 
 SIZE SplashWindow::LayOut() {

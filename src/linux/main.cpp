@@ -106,7 +106,8 @@ int RunMainWindow(Program& program, activation::BusApplication& bus, activation:
 
 int Run() {
   const xdg::Environment environment = xdg::Environment::OfProcess();
-  const ProgramFolders folders = FindProgramFolders(QCoreApplication::applicationFilePath().toStdString(), environment);
+  const ProgramFolders folders =
+      FindProgramFolders(QCoreApplication::applicationFilePath().toStdString(), DAYVANE_DATA_FOLDER, environment);
   MakeDataFolder(folders);
   const auto programFolder = files::FromNative(folders.data);
   if (!programFolder) return Refuse("The folder for its data has a name that cannot be used: " + folders.data);

@@ -18,15 +18,31 @@ bool IsWritable(const std::string& folder) {
   return faccessat(AT_FDCWD, folder.c_str(), R_OK | W_OK | X_OK, AT_EACCESS) == 0;
 }
 
+bool HasHelp(const fs::path& folder) {
+  std::error_code ignored;
+  return fs::is_regular_file(folder / "Dayvane.hlp", ignored);
+}
+
+bool HasRecord(const fs::path& folder) {
+  std::error_code ignored;
+  return fs::is_directory(folder / "Daily", ignored);
+}
+
 }  // namespace
 
-ProgramFolders FindProgramFolders(const std::string& executable, const xdg::Environment& environment) {
+ProgramFolders FindProgramFolders(const std::string& executable, const std::string& configured,
+                                  const xdg::Environment& environment) {
   const fs::path folder = fs::path(executable).parent_path();
   const fs::path shared = folder.parent_path() / "share" / "dayvane";
+  const bool isInBin = folder.filename() == "bin";
   std::error_code ignored;
-  if (folder.filename() != "bin") return {folder.string(), folder.string(), {}};
-  if (fs::is_directory(shared, ignored)) return {xdg::DataFolder(environment) + "/dayvane", shared.string(), {}};
-  return {folder.string(), folder.string(), shared.string()};
+  const auto installedWith = [&](const std::string& resources) {
+    return ProgramFolders{xdg::DataFolder(environment) + "/dayvane", resources, {}};
+  };
+  if (isInBin && fs::is_directory(shared, ignored)) return installedWith(shared.string());
+  const bool isPortable = HasHelp(folder) || HasRecord(folder);
+  if (!isPortable && HasHelp(configured)) return installedWith(configured);
+  return {folder.string(), folder.string(), isInBin ? shared.string() : std::string()};
 }
 
 void MakeDataFolder(const ProgramFolders& folders) {

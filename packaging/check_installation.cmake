@@ -48,3 +48,9 @@ file(STRINGS ${runner} runner_starts_nothing REGEX "^X-Plasma-DBusRunner-Service
 if(NOT provider_name OR NOT provider_entry OR NOT provider_starts_nothing OR NOT runner_starts_nothing)
   message(SEND_ERROR "the desktops' searches do not find the program, or start it")
 endif()
+
+# The manual page tells where the help is installed.
+file(STRINGS ${STAGE}/${MAN}/man1/dayvane.1 help_path REGEX "Dayvane.hlp$")
+if(NOT help_path MATCHES "^.I ${STAGE}/${DATA}/dayvane/Dayvane.hlp")
+  message(SEND_ERROR "the manual page does not tell where the help is: ${help_path}")
+endif()

@@ -15,7 +15,7 @@ bool IsMeantToRun(const std::string& file) {
   if (file.starts_with("windows/")) return DAYVANE_IS_WINDOWS != 0;
   return DAYVANE_HAS_DESKTOP != 0 ||
          (!file.starts_with("linux/") && !file.starts_with("faults/") && !file.starts_with("session/") &&
-          !file.starts_with("programs/") && !file.starts_with("scripts/"));
+          !file.starts_with("programs/") && !file.starts_with("packages/") && !file.starts_with("scripts/"));
 }
 
 /// The test files with the ending that are meant to run and that the text does not name.

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "windows/widgets/TreePresenter.h"
 
+#include <cstring>
+
 #include "base/ScopedValue.h"
 #include "windows/widgets/Window.h"
 
@@ -80,14 +82,21 @@ HTREEITEM TreePresenter::SelectedInWindow() const {
   return NextItem(Handle(), TVGN_CARET);
 }
 
-bool TreePresenter::IsInView(HTREEITEM item) const {
+std::optional<RECT> TreePresenter::PlaceOf(HTREEITEM item, bool textAlone) const {
+  if (item == nullptr) return std::nullopt;
   RECT place{};
-  *reinterpret_cast<HTREEITEM*>(&place) = item;  // TVM_GETITEMRECT takes the item where it puts its place
+  std::memcpy(&place, &item, sizeof item);  // TVM_GETITEMRECT takes the item where it puts its place
+  if (SendMessageW(Handle(), TVM_GETITEMRECT, textAlone ? TRUE : FALSE, reinterpret_cast<LPARAM>(&place)) == 0)
+    return std::nullopt;
+  return place;
+}
+
+bool TreePresenter::IsInView(HTREEITEM item) const {
+  const auto place = PlaceOf(item, false);
   RECT room{};
   RECT both{};
   GetClientRect(Handle(), &room);
-  return item != nullptr && SendMessageW(Handle(), TVM_GETITEMRECT, FALSE, reinterpret_cast<LPARAM>(&place)) != 0 &&
-         IntersectRect(&both, &place, &room) != 0;
+  return place && IntersectRect(&both, &*place, &room) != 0;
 }
 
 void TreePresenter::BeginChange() {

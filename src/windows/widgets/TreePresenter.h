@@ -40,6 +40,7 @@ class TreePresenter : public ChildWindow {
   void OpenPathTo(const controls::TreeNode* node);
   void ShowSelection();
   void ScrollBack();
+  std::optional<RECT> PlaceOf(HTREEITEM item, bool textAlone) const;  ///< in the window, as far as it is drawn
   bool IsInView(HTREEITEM item) const;
   HTREEITEM SelectedInWindow() const;
 

@@ -122,11 +122,8 @@ void TreePresenter::Click(const TreeNode* node) {
 }
 
 void TreePresenter::RaiseMenuKey() {
-  const HTREEITEM item = ItemOf(m_control.SelectedItem());
-  RECT place{};
-  *reinterpret_cast<HTREEITEM*>(&place) = item;  // TVM_GETITEMRECT takes the item where it puts its place
-  if (item == nullptr || SendMessageW(Handle(), TVM_GETITEMRECT, TRUE, reinterpret_cast<LPARAM>(&place)) == 0) return;
-  RaiseMouseUp(controls::kRightButton, {(place.left + place.right) / 2, (place.top + place.bottom) / 2});
+  if (const auto place = PlaceOf(ItemOf(m_control.SelectedItem()), true))
+    RaiseMouseUp(controls::kRightButton, {(place->left + place->right) / 2, (place->top + place->bottom) / 2});
 }
 
 void TreePresenter::RaiseMouseUp(int button, POINT at) {

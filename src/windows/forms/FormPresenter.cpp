@@ -149,14 +149,21 @@ std::optional<LRESULT> FormPresenter::OnClosing(UINT message, WPARAM wParam) {
       End(m_endMode);
       return 0;
     case WM_QUERYENDSESSION:
-      CloseOpenQuestion();  // now, so that the work that asked is over when the session ends
-      return TRUE;
+      return OnSession(SessionNews::MayEnd);
     case WM_ENDSESSION:
-      if (wParam != FALSE) EndSession();
-      return 0;
+      return OnSession(wParam != FALSE ? SessionNews::Ends : SessionNews::GoesOn);
     default:
       return std::nullopt;
   }
+}
+
+std::optional<LRESULT> FormPresenter::OnSession(SessionNews news) {
+  if (news == SessionNews::MayEnd) CloseOpenQuestion();  // now, so that what it asked is over when the session ends
+  if (m_sessionListener)
+    m_sessionListener(news);
+  else if (news == SessionNews::Ends)
+    EndSession();
+  return news == SessionNews::MayEnd ? TRUE : 0;
 }
 
 std::optional<LRESULT> FormPresenter::OnSystemCommand(WPARAM command) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -13,6 +14,9 @@
 #include "windows/widgets/LateShow.h"
 
 namespace dayvane::widgets {
+
+/// What the system tells of the user's session: that it may end soon, that it does, or that it goes on after all.
+enum class SessionNews { MayEnd, Ends, GoesOn };
 
 /// Shows a form as a window that somebody else owns and fills: caption, place, state, pointer, closing, keys. `inside`
 /// is the window whose size is the form's scale: the form's window itself or a child of it. A window with
@@ -53,6 +57,10 @@ class FormPresenter : public MessageTranslator {
   /// The user's session ends: what the program still asks is closed, and the form goes as soon as it can.
   void EndSession() { End(controls::UnloadMode::SystemSession); }
 
+  /// Who is told of the session's end, in the place of EndSession: every window of the program hears of it, and some
+  /// other than this one may have to go.
+  void SetSessionListener(std::function<void(SessionNews)> listener) { m_sessionListener = std::move(listener); }
+
   /// Shows the form and returns when it is hidden again. Meanwhile the window's owner takes no input.
   void ShowModal();
 
@@ -78,6 +86,7 @@ class FormPresenter : public MessageTranslator {
   bool IsHourglass() const;
 
   std::optional<LRESULT> OnClosing(UINT message, WPARAM wParam);
+  std::optional<LRESULT> OnSession(SessionNews news);
   std::optional<LRESULT> OnSystemCommand(WPARAM command);
   std::optional<LRESULT> OnFocus(UINT message, WPARAM wParam);
   std::optional<LRESULT> OnPointer(LPARAM hit) const;
@@ -123,6 +132,7 @@ class FormPresenter : public MessageTranslator {
   bool m_wasShown = false;
   bool m_showsHourglass = false;
   WPARAM m_pressedKey = 0;  ///< a release whose press was elsewhere, such as in a box, means nothing here
+  std::function<void(SessionNews)> m_sessionListener;
   controls::Deferred m_deferred;
   LateShow m_latePointer{[this] { ShowPointer(); }};
   std::vector<controls::Connection> m_connections;

@@ -4,7 +4,6 @@
 namespace dayvane::session {
 namespace {
 
-
 /// The first start of a user who has opened documents before.
 class FirstRunSession : public SessionTest {
  protected:
@@ -15,9 +14,10 @@ class FirstRunSession : public SessionTest {
 };
 
 TEST_F(FirstRunSession, WelcomesTheUserAndStoresTheOptions) {
-  EXPECT_EQ(Welcome(IDNO),
-            "Welcome to Dayvane.\r\n\r\nWe suggest that you review the default settings\r\nby selecting the View|Options "
-            "menu choice.\r\n\r\nWould you like to view the help file?");
+  EXPECT_EQ(
+      Welcome(IDNO),
+      "Welcome to Dayvane.\r\n\r\nWe suggest that you review the default settings\r\nby selecting the View|Options "
+      "menu choice.\r\n\r\nWould you like to view the help file?");
   Program().WaitForWindow("Dayvane - Daily");
   EXPECT_EQ(Program().FindWindowOf("Dayvane Help"), nullptr);
   EXPECT_EQ(Setting("Options", "Favorites Threshold"), "3");
@@ -85,7 +85,7 @@ TEST_F(CaptureSession, ASuspendedProgramFilesNothingUntilItIsResumed) {
 TEST_F(CaptureSession, ALinkThatIsNoLinkStopsNothing) {
   OpenDocument("Report.txt");
   for (const std::string& bytes : {std::string(), std::string(91'000, 'x'), std::string("L\0\0\0", 4)})
-    testing::PutIntoRecentFolder(L"Damaged " + std::to_wstring(bytes.size()) + L".lnk", bytes);
+    PutIntoRecentFolder("Damaged " + std::to_string(bytes.size()) + ".lnk", bytes);
   Start();
   ExpectSoon(true, [&] { return IsFiled("Report.txt", 0); });
   ExpectSoon(true, [&] { return RowOf(List(), "Report.txt") >= 0; });

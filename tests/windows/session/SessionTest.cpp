@@ -2,12 +2,15 @@
 #include "tests/windows/session/SessionTest.h"
 
 #include <algorithm>
+#include <chrono>
 #include <filesystem>
+#include <fstream>
 #include <stdexcept>
 
 #include "app/Date.h"
 #include "platform/DateConventions.h"
 #include "tests/windows/RecentDocuments.h"
+#include "windows/files/LocalTime.h"
 #include "windows/files/NativePath.h"
 #include "windows/files/WideText.h"
 
@@ -35,26 +38,18 @@ std::wstring KeyOf(const std::string& subtree) {
 }
 
 void EmptyRecentFolder() {
-  for (const auto& entry : fs::directory_iterator(fs::path(testing::RecentFolderPath()))) fs::remove(entry.path());
+  for (const auto& entry : fs::directory_iterator(fs::path(WideOf(testing::RecentFolder())))) fs::remove(entry.path());
 }
 
-/// Noon of a day before today, and for today the moment itself.
-FILETIME MomentOf(int daysAgo) {
-  FILETIME moment{};
-  GetSystemTimeAsFileTime(&moment);
-  constexpr ULONGLONG kDay = 24ULL * 3600 * 10'000'000;
-  const ULONGLONG ticks =
-      (static_cast<ULONGLONG>(moment.dwHighDateTime) << 32 | moment.dwLowDateTime) - static_cast<ULONGLONG>(daysAgo) * kDay;
-  return {static_cast<DWORD>(ticks), static_cast<DWORD>(ticks >> 32)};
+/// In seconds since 1970, at this time of a day before today.
+std::int64_t MomentOf(int daysAgo) {
+  constexpr std::int64_t kDay = 24 * 3600;
+  const auto now = std::chrono::system_clock::now().time_since_epoch();
+  return std::chrono::duration_cast<std::chrono::seconds>(now).count() - daysAgo * kDay;
 }
 
 Date DayBefore(int daysAgo) {
-  const FILETIME moment = MomentOf(daysAgo);
-  SYSTEMTIME utc{};
-  SYSTEMTIME local{};
-  FileTimeToSystemTime(&moment, &utc);
-  SystemTimeToTzSpecificLocalTime(nullptr, &utc, &local);
-  return Date::Of(local.wYear, local.wMonth, local.wDay);
+  return files::LocalTime(MomentOf(daysAgo));
 }
 
 }  // namespace
@@ -95,7 +90,11 @@ std::string SessionTest::Setting(const std::string& subtree, const std::string& 
 
 void SessionTest::OpenDocument(const std::string& name, int daysAgo) {
   m_documents.Write(name, name);
-  testing::OpenRecentDocument(WideOf(DocumentPath(name)), MomentOf(daysAgo));
+  testing::AddRecentDocument(DocumentPath(name), MomentOf(daysAgo));
+}
+
+void SessionTest::PutIntoRecentFolder(const std::string& name, const std::string& bytes) {
+  std::ofstream(fs::path(WideOf(testing::RecentFolder() + "\\" + name)), std::ios::binary) << bytes;
 }
 
 void SessionTest::Start() {

@@ -38,6 +38,7 @@ class SessionTest : public ::testing::Test {
 
   /// The user opens a document, which is made where it is missing, so many days before today.
   void OpenDocument(const std::string& name, int daysAgo = 0);
+  static void PutIntoRecentFolder(const std::string& name, const std::string& bytes);
   std::string DocumentPath(const std::string& name) const { return m_documents.Path() + "\\" + name; }
   testing::TemporaryFolder& Documents() { return m_documents; }
 

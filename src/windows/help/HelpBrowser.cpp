@@ -121,11 +121,14 @@ void HelpBrowser::Zoom(int steps) {
 void HelpBrowser::SetLook(const widgets::SharedLook& look) {
   RichPage::SetLook(look);
   m_pictures.reset();
-  ShowAgain();
+  m_room = 0;
 }
 
 void HelpBrowser::PlaceBrowser(const RECT& place) {
   PlaceWithMargin(place, CurrentLook()->Pixels(kPageMargin));
+}
+
+void HelpBrowser::FitRoom() {
   if (Room() != m_room) ShowAgain();
 }
 

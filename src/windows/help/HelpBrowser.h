@@ -35,11 +35,11 @@ class HelpBrowser : public RichPage {
   void Zoom(int steps);
   void ResetZoom() { Zoom(-m_zoom); }
 
+  /// FitRoom, which must come after these, makes the page anew for another room, other letters or colours. It keeps its
+  /// place.
   void SetLook(const widgets::SharedLook& look) override;
   void PlaceBrowser(const RECT& place);
-
-  /// The colours or the letters are others: the page is made anew and keeps its place.
-  void ShowAgain();
+  void FitRoom();
 
   /// Another page is shown: its topic's name, which means nothing for a page that the browser made itself, and title.
   std::function<void(const std::string& topic, const std::string& title)> TopicShown;
@@ -54,6 +54,7 @@ class HelpBrowser : public RichPage {
   void Leave();
   void Arrive();
   void LayOut();
+  void ShowAgain();
 
   const HelpFile* m_file = nullptr;
   std::string m_problem;

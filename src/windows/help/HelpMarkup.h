@@ -50,6 +50,6 @@ std::vector<Block> ReadMarkup(std::string_view body);
 
 inline constexpr int kMostCells = 16;
 inline constexpr int kDeepestList = 6;
-inline constexpr std::size_t kLongestBody = 500'000;  ///< bytes; ours have some 5000
+inline constexpr std::size_t kLongestBody = 100'000;  ///< bytes; ours have some 5000
 
 }  // namespace dayvane::help

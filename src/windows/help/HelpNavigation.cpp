@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "windows/help/HelpNavigation.h"
 
-#include <uxtheme.h>
-
 #include "base/Text.h"
 #include "windows/files/WideText.h"
 
@@ -43,7 +41,6 @@ HelpNavigation::HelpNavigation(HWND parent, const widgets::SharedLook& look)
   m_tree.SetSpokenName("Contents");
   m_found.SetSpokenName("Topics found");
   m_found.SetVisible(false);
-  SetWindowTheme(m_tree.Handle(), L"Explorer", nullptr);
   m_search.Commanded = [this](UINT code) {
     if (code == EN_CHANGE) SearchFor();
   };

@@ -165,6 +165,7 @@ void HelpViewer::LayOut() {
   SetWindowPos(m_findBar.Handle(), nullptr, splitter.right, room.bottom - below, room.right - splitter.right, below,
                SWP_NOZORDER | SWP_NOACTIVATE);
   m_browser.PlaceBrowser({splitter.right, top, room.right, room.bottom - below});
+  if (!m_isDragged) m_browser.FitRoom();
 }
 
 }  // namespace dayvane::help

@@ -46,18 +46,22 @@ class HelpViewer : public widgets::TopWindow {
   void Hide();
   void LayOut();
   void Do(HelpCommand command);
+  std::optional<LRESULT> OnMouse(UINT message, WPARAM wParam, LPARAM lParam);
+  std::optional<LRESULT> OnKeyboard(UINT message, WPARAM wParam, LPARAM lParam);
   bool TakeKey(WPARAM key);
   bool TakeAltKey(WPARAM key);
   bool TakeControlKey(WPARAM key);
   bool TakePlainKey(WPARAM key, bool shift);
   void GoToNextPart(bool backward);
   void TakeFocus();
+  void SetDragged(bool dragged);
   bool DragSplitter(UINT message, LPARAM lParam);
   RECT Splitter() const;
 
   std::string m_path;
   std::optional<HelpFile> m_file;
   int m_contentsWidth = 260;  ///< pixels at 96 dots per inch
+  bool m_isDragged = false;   ///< the window's edge or the splitter, before it is let go
   HWND m_lastFocus = nullptr;
   HelpToolbar m_toolbar;
   HelpNavigation m_navigation;

@@ -35,6 +35,7 @@ bool HelpViewer::DragSplitter(UINT message, LPARAM lParam) {
   const RECT splitter = Splitter();
   if (message == WM_LBUTTONDOWN && PtInRect(&splitter, at) != 0) {
     SetCapture(Handle());
+    SetDragged(true);
     return true;
   }
   if (GetCapture() != Handle()) return false;
@@ -44,6 +45,12 @@ bool HelpViewer::DragSplitter(UINT message, LPARAM lParam) {
     LayOut();
   }
   return true;
+}
+
+/// Lines are broken anew while something is dragged; tables and pictures, which take longer, when it is let go.
+void HelpViewer::SetDragged(bool dragged) {
+  m_isDragged = dragged;
+  if (!dragged) LayOut();
 }
 
 bool HelpViewer::TakeKey(WPARAM key) {
@@ -130,48 +137,26 @@ void HelpViewer::TakeFocus() {
   SetFocus(isOurs ? m_lastFocus : m_browser.Handle());
 }
 
-LRESULT HelpViewer::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+/// What the mouse does between the parts; nothing where that is for the system.
+std::optional<LRESULT> HelpViewer::OnMouse(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
-    case WM_SIZE:
-      if (wParam != SIZE_MINIMIZED) LayOut();
-      return 0;
-    case WM_GETMINMAXINFO:
-      if (CurrentLook() != nullptr)
-        reinterpret_cast<MINMAXINFO*>(lParam)->ptMinTrackSize = {CurrentLook()->Pixels(kLeastSize.cx),
-                                                                 CurrentLook()->Pixels(kLeastSize.cy)};
-      return 0;
-    case WM_CLOSE:
-      Hide();
-      return 0;
-    case WM_ACTIVATE:
-      if (LOWORD(wParam) == WA_INACTIVE) m_lastFocus = GetFocus();
-      break;
-    case WM_SETFOCUS:
-      TakeFocus();
-      return 0;
-    case kHelpKey:
-      return TakeKey(wParam) ? TRUE : FALSE;
-    case WM_KEYDOWN:
-    case WM_SYSKEYDOWN:
-      if (TakeKey(wParam)) return 0;
-      break;
-    case WM_COMMAND:
-      if (reinterpret_cast<HWND>(lParam) == m_toolbar.Handle()) {
-        Do(static_cast<HelpCommand>(LOWORD(wParam)));
-        return 0;
-      }
-      break;
     case WM_LBUTTONDOWN:
     case WM_LBUTTONUP:
     case WM_MOUSEMOVE:
       if (DragSplitter(message, lParam)) return 0;
       break;
-    case WM_SETCURSOR: {
+    case WM_ENTERSIZEMOVE:
+      SetDragged(true);
+      break;
+    case WM_EXITSIZEMOVE:
+    case WM_CAPTURECHANGED:
+      if (m_isDragged) SetDragged(false);
+      break;
+    case WM_SETCURSOR:
       // Between the parts there is nothing of the window but the splitter.
       if (reinterpret_cast<HWND>(wParam) != Handle() || LOWORD(lParam) != HTCLIENT) break;
       SetCursor(LoadCursorW(nullptr, IDC_SIZEWE));
       return TRUE;
-    }
     case WM_APPCOMMAND:
       if (GET_APPCOMMAND_LPARAM(lParam) == APPCOMMAND_BROWSER_BACKWARD) Do(HelpCommand::Back);
       if (GET_APPCOMMAND_LPARAM(lParam) == APPCOMMAND_BROWSER_FORWARD) Do(HelpCommand::Forward);
@@ -179,7 +164,51 @@ LRESULT HelpViewer::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     default:
       break;
   }
-  return TopWindow::OnMessage(message, wParam, lParam);
+  return std::nullopt;
+}
+
+/// What has to do with the keyboard and the window's own buttons; nothing where that is for the system.
+std::optional<LRESULT> HelpViewer::OnKeyboard(UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
+    case kHelpKey:
+      return TakeKey(wParam) ? TRUE : FALSE;
+    case WM_KEYDOWN:
+    case WM_SYSKEYDOWN:
+      if (TakeKey(wParam)) return 0;
+      break;
+    case WM_ACTIVATE:
+      if (LOWORD(wParam) == WA_INACTIVE) m_lastFocus = GetFocus();
+      break;
+    case WM_SETFOCUS:
+      TakeFocus();
+      return 0;
+    case WM_COMMAND:
+      if (reinterpret_cast<HWND>(lParam) != m_toolbar.Handle()) break;
+      Do(static_cast<HelpCommand>(LOWORD(wParam)));
+      return 0;
+    default:
+      break;
+  }
+  return std::nullopt;
+}
+
+LRESULT HelpViewer::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+  if (const auto answer = OnMouse(message, wParam, lParam)) return *answer;
+  if (const auto answer = OnKeyboard(message, wParam, lParam)) return *answer;
+  switch (message) {
+    case WM_SIZE:
+      if (wParam != SIZE_MINIMIZED) LayOut();
+      return 0;
+    case WM_GETMINMAXINFO:
+      reinterpret_cast<MINMAXINFO*>(lParam)->ptMinTrackSize = {CurrentLook()->Pixels(kLeastSize.cx),
+                                                               CurrentLook()->Pixels(kLeastSize.cy)};
+      return 0;
+    case WM_CLOSE:
+      Hide();
+      return 0;
+    default:
+      return TopWindow::OnMessage(message, wParam, lParam);
+  }
 }
 
 }  // namespace dayvane::help

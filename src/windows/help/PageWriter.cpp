@@ -229,32 +229,28 @@ std::vector<ColumnNeed> PageWriter::NeedsOf(const Table& table) const {
 }
 
 ColumnNeed PageWriter::NeedOf(const Paragraph& paragraph, bool isBold) const {
-  const int indent = SpacesOf(paragraph).left + 2;  // letters may reach over what was measured
   ColumnNeed need;
   int line = 0;
+  const auto take = [&](int width) {
+    need.least = std::max(need.least, width);
+    line += width;
+    need.whole = std::max(need.whole, line);
+  };
   for (const Piece& piece : paragraph.pieces) {
     if (!piece.picture.empty()) {
-      line += piece.width;
-      need.least = std::max(need.least, piece.width);
+      take(piece.width);
+      continue;
     }
-    std::wstring word;
-    const std::wstring text = piece.picture.empty() ? Wide(piece.text) : std::wstring();
-    const auto end = [&] {
-      const int width = word.empty() ? 0 : m_layout.measure(word, isBold || piece.isBold);
-      need.least = std::max(need.least, width);
-      line += width;
-      word.clear();
-    };
-    for (const wchar_t character : text) {
-      if (character != L'\n') word += character;
-      if (character == L' ' || character == L'\n') end();
-      if (character != L'\n') continue;
-      need.whole = std::max(need.whole, line);
-      line = 0;
+    const std::wstring wide = Wide(piece.text);
+    for (std::wstring_view text = wide; !text.empty();) {
+      const std::size_t end = std::min(text.find_first_of(L" \n"), text.size() - 1) + 1;
+      const bool breaks = text[end - 1] == L'\n';
+      take(m_layout.measure(std::wstring(text.substr(0, breaks ? end - 1 : end)), isBold || piece.isBold));
+      if (breaks) line = 0;
+      text.remove_prefix(end);
     }
-    end();
-    need.whole = std::max(need.whole, line);
   }
+  const int indent = SpacesOf(paragraph).left + 2;  // letters may reach over what was measured
   return {need.least + indent, need.whole + indent};
 }
 

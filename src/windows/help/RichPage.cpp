@@ -20,7 +20,8 @@ const wchar_t* RichTextClass() {
 }  // namespace
 
 RichPage::RichPage(HWND parent, const widgets::SharedLook& look, DWORD moreStyle)
-    : HelpPart({RichTextClass(), ES_MULTILINE | ES_READONLY | ES_NOHIDESEL | moreStyle}, parent, look) {
+    : HelpPart({RichTextClass(), ES_MULTILINE | ES_READONLY | ES_NOHIDESEL | moreStyle}, parent, look),
+      m_scrolls((moreStyle & WS_VSCROLL) != 0) {
   Send(EM_SETEVENTMASK, 0, ENM_LINK);
   Send(EM_SETUNDOLIMIT, 0);
   Send(EM_EXLIMITTEXT, 0, 0x7FFFFFFE);
@@ -63,8 +64,11 @@ void RichPage::PlaceWithMargin(const RECT& place, int margin) {
 
 int RichPage::Room() const {
   RECT room;
-  GetClientRect(Handle(), &room);
-  return std::max<int>(room.right - 2 * m_margin, 1);
+  GetWindowRect(Handle(), &room);
+  LONG width = room.right - room.left - 2 * m_margin;
+  // Kept free also where the page needs none: one that comes would take its room from the lines.
+  if (m_scrolls) width -= GetSystemMetricsForDpi(SM_CXVSCROLL, CurrentLook()->Dpi());
+  return std::max<int>(width, 1);
 }
 
 int RichPage::PageHeight() const {

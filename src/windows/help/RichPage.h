@@ -70,6 +70,7 @@ class RichPage : public HelpPart {
   bool IsUnderlined(const CHARRANGE& range) const;
 
   std::vector<Link> m_links;  ///< from top to bottom
+  bool m_scrolls;
   int m_margin = 0;
   int m_dotsPerInch = USER_DEFAULT_SCREEN_DPI;
 };

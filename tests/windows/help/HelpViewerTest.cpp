@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include <filesystem>
 #include <gtest/gtest.h>
+#include <optional>
 
 #include "resources/MHelpConstants.h"
 #include "tests/support/TemporaryFolder.h"
@@ -241,6 +241,22 @@ TEST_F(HelpViewerTest, ANewWidthLaysThePageOutAgainWithoutLosingItsPlace) {
   EXPECT_TRUE(Page().starts_with(L"The main window\n"));
 }
 
+TEST_F(HelpViewerTest, TheSplitterMakesRoomForTheContents) {
+  viewer.ShowTopic(kHelpMainWindow);
+  RECT before;
+  GetWindowRect(help.Page(), &before);
+  RECT inside = before;
+  MapWindowPoints(nullptr, viewer.Handle(), reinterpret_cast<POINT*>(&inside), 2);
+  SendMessageW(viewer.Handle(), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(inside.left - 2, 200));
+  SendMessageW(viewer.Handle(), WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(inside.left + 48, 200));
+  SendMessageW(viewer.Handle(), WM_LBUTTONUP, 0, MAKELPARAM(inside.left + 48, 200));
+  RECT after;
+  GetWindowRect(help.Page(), &after);
+  EXPECT_GT(after.left, before.left + 30);
+  EXPECT_EQ(after.right, before.right);
+  EXPECT_NE(GetCapture(), viewer.Handle());
+}
+
 TEST_F(HelpViewerTest, AScreenOfOtherDotsPerInchGetsAPageOfItsOwn) {
   viewer.ShowTopic(kHelpMainWindow);
   RECT place;
@@ -288,6 +304,54 @@ TEST(HelpViewerWithoutFile, AFileThatAppearsLaterIsRead) {
   folder.Write("Dayvane.hlp", "Dayvane help 1\ntopic 9 home\nHome\nText\ncontents 4\nhome\nend\n");
   viewer.ShowContents();
   EXPECT_EQ(testing::PageText(HelpWindow{viewer.Handle()}.Page()), L"Home\nText");
+}
+
+/// A help file of one topic.
+class HelpViewerOneTopicTest : public ::testing::Test {
+ protected:
+  std::wstring Show(const std::string& title, const std::string& body) {
+    const std::string topic = title + "\n" + body;
+    folder.Write("Dayvane.hlp", "Dayvane help 1\ntopic " + std::to_string(topic.size()) + " home 1\n" + topic +
+                                    "\ncontents 4\nhome\nend\n");
+    viewer.emplace(folder.Path() + "\\Dayvane.hlp");
+    viewer->ShowTopic(1);
+    return testing::PageText(HelpWindow{viewer->Handle()}.Page());
+  }
+
+  TemporaryFolder folder;
+  std::optional<HelpViewer> viewer;
+};
+
+TEST_F(HelpViewerOneTopicTest, GreekAndChineseAreShown) {
+  EXPECT_EQ(Show("Ημερολόγιο 日历", "<p>Τα έγγραφα &#8220;文档&#8221; της ημέρας</p>"),
+            L"Ημερολόγιο 日历\nΤα έγγραφα “文档” της ημέρας");
+  EXPECT_EQ(testing::WindowText(viewer->Handle()), L"Ημερολόγιο 日历 - Dayvane Help");
+  EXPECT_EQ(testing::MarkedEntry(HelpWindow{viewer->Handle()}.Tree()), L"Ημερολόγιο 日历");
+}
+
+TEST_F(HelpViewerOneTopicTest, BracesAndBackslashesAreText) {
+  EXPECT_EQ(Show("{\\b}", "<p>C:\\par {x} \\'41</p>"), L"{\\b}\nC:\\par {x} \\'41");
+}
+
+TEST_F(HelpViewerOneTopicTest, AHugeTopicIsShownFromItsBeginning) {
+  std::string body;
+  for (int line = 0; line < 20'000; line++) body += "<p>Line " + std::to_string(line) + " of a long topic</p>";
+  const std::wstring page = Show("Huge", body);
+  EXPECT_TRUE(page.starts_with(L"Huge\nLine 0 of a long topic\n"));
+  EXPECT_GT(page.size(), 50'000U);
+}
+
+TEST_F(HelpViewerOneTopicTest, ALinkOutOfTheHelpIsNotFollowed) {
+  const std::wstring page = Show("Home", "<p><a href=\"https://dayvane.example/\">Away</a></p>");
+  testing::ClickLink(HelpWindow{viewer->Handle()}.Page(), L"Away");
+  EXPECT_EQ(testing::PageText(HelpWindow{viewer->Handle()}.Page()), page);
+}
+
+TEST_F(HelpViewerOneTopicTest, WordsBeforeALinkOfTheSameWordsAreNoLink) {
+  Show("Home", "<p>Day tree, see <a href=\"home\">Day tree</a></p>");
+  const HWND page = HelpWindow{viewer->Handle()}.Page();
+  EXPECT_FALSE(testing::IsLink(page, testing::PlaceOf(page, L"Day tree")));
+  EXPECT_TRUE(testing::IsLink(page, testing::PlaceOf(page, L"Day tree", 10)));
 }
 
 }  // namespace

@@ -67,6 +67,17 @@ TEST(HelpMarkup, TablesHaveRowsOfCells) {
   EXPECT_EQ(table.rows[1][1].paragraphs.size(), 2U);
 }
 
+TEST(HelpMarkup, ATableInATableIsFurtherTextOfItsCell) {
+  const auto blocks =
+      ReadMarkup("<table><tr><td>A<table class=\"tip\"><tr><td>B</td></tr></table>C</td><td>D</td></tr></table>");
+  ASSERT_EQ(blocks.size(), 1U);
+  const auto& table = std::get<Table>(blocks[0]);
+  EXPECT_EQ(table.kind, TableKind::Grid);
+  ASSERT_EQ(table.rows.size(), 1U);
+  ASSERT_EQ(table.rows[0].size(), 2U);
+  EXPECT_EQ(table.rows[0][0].paragraphs.size(), 3U);
+}
+
 TEST(HelpMarkup, APictureHasItsSizeAndItsWords) {
   const auto blocks = ReadMarkup(R"(<p><img src="a.png?16x20" width="16" height="20" alt="A &amp; B"/></p>)");
   const Piece& piece = ParagraphAt(blocks, 0).pieces.at(0);

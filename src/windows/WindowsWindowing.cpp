@@ -7,6 +7,7 @@
 #include "base/ScopedValue.h"
 #include "controls/Deferred.h"
 #include "windows/forms/AboutBox.h"
+#include "windows/forms/BoxPlace.h"
 #include "windows/forms/FormPresenter.h"
 #include "windows/forms/Questions.h"
 #include "windows/widgets/Lengths.h"
@@ -128,6 +129,7 @@ MessageAnswer WindowsWindowing::ShowMessage(const Message& message) {
       if (presenter->Window().Handle() != owner) closed.Close(presenter->Window().Handle());
     const UINT style = (question ? MB_YESNO : MB_OK) | PictureOf(message.icon) | MB_SETFOREGROUND |
                        (ShownSplash() != nullptr ? MB_TOPMOST : 0);
+    const BoxPlace place(ShownSplash());
     answer = MessageBoxW(owner, ShownText(message.text).c_str(), ShownText(message.title).c_str(), style);
   }
   if (!question) return MessageAnswer::Ok;

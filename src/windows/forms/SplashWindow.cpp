@@ -19,9 +19,7 @@ constexpr int kTextWidth = 300;
 constexpr int kLineGap = 4;
 constexpr int kTextGap = 12;  ///< between groups of texts
 
-// In the usual text's size.
-constexpr double kTitleSize = 2.4;
-constexpr double kSmallSize = 0.9;
+constexpr double kTitleSize = 2.4;  ///< in the usual text's
 
 bool IsRelease(UINT message) {
   return message == WM_LBUTTONUP || message == WM_RBUTTONUP || message == WM_MBUTTONUP;
@@ -39,7 +37,7 @@ SplashWindow::SplashWindow(FSplash& splash)
       m_version(splash.lblVersion, Handle(), CurrentLook()),
       m_company(splash.lblCompany, Handle(), CurrentLook()),
       m_copyright(splash.lblCopyright, Handle(), CurrentLook()),
-      m_warning(splash.lblWarning, Handle(), CurrentLook(), kSmallSize),
+      m_warning(splash.lblWarning, Handle(), CurrentLook()),
       m_form(splash.form, *this, Handle()) {
   m_texts.Add(m_product, 0);
   m_texts.Add(m_version, kLineGap);

@@ -4,6 +4,7 @@
 #include "shell/FSplash.h"
 #include "tests/windows/MessageLoop.h"
 #include "windows/WindowsWindowing.h"
+#include "windows/forms/Questions.h"
 #include "windows/forms/SplashWindow.h"
 
 namespace dayvane::widgets {
@@ -11,6 +12,7 @@ namespace {
 
 using dayvane::testing::PressKey;
 using dayvane::testing::RunMessages;
+using dayvane::testing::Soon;
 
 class WindowsSplashTest : public ::testing::Test {
  protected:
@@ -71,6 +73,20 @@ TEST_F(WindowsSplashTest, ItHasTheKeyboardItself) {
   RunMessages();
 
   EXPECT_EQ(GetFocus(), m_window.Handle());
+}
+
+TEST_F(WindowsSplashTest, AQuestionOpensBelowIt) {
+  RECT splash{};
+  GetWindowRect(m_window.Handle(), &splash);
+  RECT place{};
+  const Soon close([&] {
+    GetWindowRect(OpenQuestion(), &place);
+    PostMessageW(OpenQuestion(), WM_CLOSE, 0, 0);
+  });
+
+  m_windowing.ShowMessage({"Welcome", "Dayvane"});
+
+  EXPECT_GT(place.top, splash.bottom);
 }
 
 TEST_F(WindowsSplashTest, ItGrowsWithTheDotsOfItsScreen) {

@@ -51,6 +51,8 @@ endif()
 
 # The manual page tells where the help is installed.
 file(STRINGS ${STAGE}/${MAN}/man1/dayvane.1 help_path REGEX "Dayvane.hlp$")
+string(REPLACE "\\" "" help_path "${help_path}")
+string(REPLACE ":" "" help_path "${help_path}")
 if(NOT help_path MATCHES "^.I ${STAGE}/${DATA}/dayvane/Dayvane.hlp")
   message(SEND_ERROR "the manual page does not tell where the help is: ${help_path}")
 endif()

@@ -4,6 +4,9 @@ cmake_path(ABSOLUTE_PATH BIN BASE_DIRECTORY "${CMAKE_INSTALL_PREFIX}" NORMALIZE 
 cmake_path(ABSOLUTE_PATH DATA BASE_DIRECTORY "${CMAKE_INSTALL_PREFIX}" NORMALIZE OUTPUT_VARIABLE data)
 cmake_path(ABSOLUTE_PATH MAN BASE_DIRECTORY "${CMAKE_INSTALL_PREFIX}" NORMALIZE OUTPUT_VARIABLE man)
 set(program "${bin}/dayvane")
+# In the page's own language, where a path may end a line behind each slash.
+string(REPLACE "-" "\\-" written_data "${data}")
+string(REPLACE "/" "/\\:" written_data "${written_data}")
 
 function(install_with_places template target)
   message(STATUS "Installing: $ENV{DESTDIR}${target}")

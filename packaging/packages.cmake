@@ -13,6 +13,7 @@ several days are listed as favorites. The record is plain folders of links in
 your own home. The documents themselves are never touched.")
 set(CPACK_RESOURCE_FILE_LICENSE ${PROJECT_SOURCE_DIR}/LICENSE)
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+set(CPACK_PACKAGE_RELOCATABLE OFF) # the bus starts the program by its whole path
 set(CPACK_STRIP_FILES ON)
 set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE
   WORLD_READ WORLD_EXECUTE)
@@ -37,7 +38,6 @@ set(CPACK_RPM_PACKAGE_GROUP Applications/Productivity)
 set(CPACK_RPM_PACKAGE_URL ${DAYVANE_HOME_PAGE})
 set(CPACK_RPM_PACKAGE_DESCRIPTION "${CPACK_PACKAGE_DESCRIPTION}")
 set(CPACK_RPM_PACKAGE_AUTOREQ ON)
-set(CPACK_RPM_PACKAGE_RELOCATABLE OFF)
 set(CPACK_RPM_COMPRESSION_TYPE xz)
 set(CPACK_RPM_EXCLUDE_FROM_AUTO_FILELIST_ADDITION /usr/share/applications /usr/share/metainfo /usr/share/man
   /usr/share/man/man1 /usr/share/doc /usr/share/icons /usr/share/icons/hicolor /usr/share/dbus-1

@@ -173,6 +173,9 @@ class TheRpmPackage(unittest.TestCase):
     def test_bears_the_version_and_the_licence(self):
         self.assertEqual(self.ask("-qp", "--queryformat", "%{VERSION} %{LICENSE}"), [f"{version()} MIT"])
 
+    def test_is_installed_nowhere_but_where_the_bus_looks_for_it(self):
+        self.assertEqual(self.ask("-qp", "--queryformat", "%{PREFIXES}"), ["(none)"])
+
     def test_runs_nothing_at_its_installation(self):
         self.assertEqual(self.ask("-qp", "--scripts"), [])
 

@@ -45,12 +45,24 @@ std::optional<ByteView> FindLongNameBlock(ByteView item, std::size_t offset) {
   return std::nullopt;
 }
 
+/// The shell of Wine leaves the block's version and signature empty. It is known by filling its item, and by its name;
+/// the name beside it is in a code page, where it may have lost its letters.
+std::optional<ByteView> UnsignedLongNameBlock(ByteView item, std::size_t offset) {
+  const ByteView block = item.From(offset);
+  const bool isUnsigned = block.U16(kExtensionVersionAt) == 0 && block.U32(kExtensionSignatureAt) == 0;
+  const auto name = block.WideText(kLongNameHeaderSizeXp);
+  if (!isUnsigned || block.U16(0) != block.Size() || !name || name->empty()) return std::nullopt;
+  return block;
+}
+
 /// The last 16 bits of an item tell where its extension blocks start. Where they do not, the blocks start after the
 /// primary name, at an even place.
 std::optional<ByteView> LongNameBlock(ByteView item, std::size_t afterName) {
   const std::size_t byLastField = item.U16(item.Size() - 2);
-  if (byLastField >= kItemFileNameAt)
+  if (byLastField >= kItemFileNameAt) {
     if (const auto block = FindLongNameBlock(item, byLastField)) return block;
+    if (const auto block = UnsignedLongNameBlock(item, byLastField)) return block;
+  }
   return FindLongNameBlock(item, afterName + afterName % 2);
 }
 

@@ -91,6 +91,27 @@ TEST(ItemList, ALongNameIsFoundAmongOtherExtensionBlocks) {
   EXPECT_EQ(PathOf({RootItem(), DriveItem("C:\\"), file}), "C:\\Long name.odt");
 }
 
+/// A file item as Wine writes it: its block has neither version nor signature, and fills the item.
+std::string UnsignedFileItem(const std::string& primary, const std::u16string& name, const std::string& more = "") {
+  const std::string head = "\x32" + std::string(11, '\0') + primary + std::string(primary.size() % 2, '\0');
+  const std::string body = std::string(18, '\0') + Utf16(name) + std::string(2, '\0');
+  const auto number = [](std::size_t value) { return testing::Number16(static_cast<std::uint32_t>(value)); };
+  return Item(head + number(body.size() + 4) + body + more + number(head.size() + 2));
+}
+
+TEST(ItemList, ALongNameIsFoundInABlockWithoutASignatureThatFillsItsItem) {
+  const auto folder = UnsignedFileItem(Primary("Docs"), u"Docs");
+  const auto file = UnsignedFileItem(Primary("? ?.odt"), u"\u0391 \u6587.odt");
+  EXPECT_EQ(PathOf({RootItem(), DriveItem("C:\\"), folder, file}), Utf8(u8"C:\\Docs\\\u0391 \u6587.odt"));
+}
+
+TEST(ItemList, AnotherBlockWithoutASignatureIsPassedOver) {
+  const auto longer = UnsignedFileItem(Primary("a.odt"), u"other.odt", "more");
+  const auto nameless = UnsignedFileItem(Primary("b.odt"), u"");
+  EXPECT_EQ(PathOf({RootItem(), DriveItem("C:\\"), longer}), "C:\\a.odt");
+  EXPECT_EQ(PathOf({RootItem(), DriveItem("C:\\"), nameless}), "C:\\b.odt");
+}
+
 TEST(ItemList, AnItemBeforeWindowsXpHasItsLongNameFirst) {
   EXPECT_EQ(PathOf({RootItem(), DriveItem("C:\\"), OldFileItem("Long n\xE4me.txt", "LONGNM~1.TXT")}),
             Utf8(u8"C:\\Long n\u00e4me.txt"));

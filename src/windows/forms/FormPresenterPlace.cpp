@@ -43,7 +43,7 @@ FormPresenter::Place FormPresenter::PlaceOf(const controls::Form& form) {
 void FormPresenter::TellScale() {
   RECT inside{};
   if (IsIconic(Handle()) != 0 || GetClientRect(m_inside, &inside) == 0) return;
-  const UINT dpi = GetDpiForWindow(Handle());
+  const UINT dpi = m_window.CurrentLook()->Dpi();
   m_form.SetScale(ToTwips(inside.right, dpi), ToTwips(inside.bottom, dpi));
 }
 

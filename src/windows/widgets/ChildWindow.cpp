@@ -65,6 +65,7 @@ ChildWindow::~ChildWindow() {
 }
 
 void ChildWindow::SetLook(const SharedLook& look) {
+  SendMessageW(m_handle, WM_SYSCOLORCHANGE, 0, 0);  // the system tells windows at the top alone
   SendMessageW(m_handle, WM_SETFONT, reinterpret_cast<WPARAM>(look->TextFont()), TRUE);
   m_look = look;  // last: the window uses the old font until it has the new one
 }
@@ -100,7 +101,7 @@ LRESULT ChildWindow::Answer(UINT message, WPARAM wParam, LPARAM lParam) {
   if (message != ReflectedMessage()) return OnMessage(message, wParam, lParam);
   auto& reflected = *reinterpret_cast<Reflected*>(lParam);
   reflected.answer = reflected.message == WM_NOTIFY ? OnNotify(*reinterpret_cast<NMHDR*>(reflected.lParam))
-                                                    : OnCommand(HIWORD(reflected.wParam));
+                                                    : OnCommandOf(LOWORD(reflected.wParam), HIWORD(reflected.wParam));
   return 0;
 }
 

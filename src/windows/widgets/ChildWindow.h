@@ -57,6 +57,9 @@ class ChildWindow {
   virtual std::optional<LRESULT> OnNotify(NMHDR& notice);
   virtual std::optional<LRESULT> OnCommand(UINT code);
 
+  /// The same where the window has several commands, each with a number.
+  virtual std::optional<LRESULT> OnCommandOf(UINT /*id*/, UINT code) { return OnCommand(code); }
+
   /// The answer to a message. What this does with it: the window's class answers.
   virtual LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam);
 

@@ -19,7 +19,7 @@ void RegisterKind(const Window::Kind& kind, WNDPROC procedure) {
   window.style = kind.classStyle;
   window.lpfnWndProc = procedure;
   window.hInstance = ThisModule();
-  window.hCursor = LoadCursorW(nullptr, IDC_ARROW);
+  window.hCursor = LoadCursorW(nullptr, kind.pointer);
   window.hbrBackground = GetSysColorBrush(kind.background);
   window.lpszClassName = kind.className;
   if (kind.icon != 0) {

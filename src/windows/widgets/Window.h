@@ -16,8 +16,9 @@ class Window {
     DWORD extendedStyle = 0;
     HWND parent = nullptr;  ///< of a child; the owner of a window at the top
     UINT classStyle = 0;
-    int background = COLOR_3DFACE;  ///< COLOR_…
-    int icon = 0;                   ///< number of an icon resource, 0 for none
+    int background = COLOR_3DFACE;       ///< COLOR_…
+    int icon = 0;                        ///< number of an icon resource, 0 for none
+    const wchar_t* pointer = IDC_ARROW;  ///< IDC_…
   };
 
   Window(const Window&) = delete;

@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+#include "windows/widgets/PanePresenter.h"
+
+#include "windows/widgets/ChildWindow.h"
+
+namespace dayvane::widgets {
+
+PanePresenter::PanePresenter(controls::PictureBox& control, HWND parent, const SharedLook& look)
+    : Window({.className = L"Dayvane.Pane",
+              .style = WS_CHILD | WS_CLIPCHILDREN | WS_CLIPSIBLINGS,
+              .extendedStyle = WS_EX_CONTROLPARENT,
+              .parent = parent}),
+      m_control(control),
+      m_placement(Handle(), look) {
+  m_changed = control.Changed.ConnectScoped([this] { Show(); });
+  m_isReady = true;
+  Show();
+}
+
+void PanePresenter::Show() {
+  SetPropW(Handle(), kHelpIdProperty, reinterpret_cast<HANDLE>(static_cast<INT_PTR>(m_control.WhatsThisHelpID())));
+  EnableWindow(Handle(), m_control.Enabled() ? TRUE : FALSE);
+  const bool shown = (GetWindowLongPtrW(Handle(), GWL_STYLE) & WS_VISIBLE) != 0;
+  if (shown != m_control.Visible()) ShowWindow(Handle(), m_control.Visible() ? SW_SHOWNA : SW_HIDE);
+}
+
+LRESULT PanePresenter::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+  if (m_isReady && message == WM_SIZE) m_placement.PlaceAll();
+  if (message == WM_NCDESTROY) RemovePropW(Handle(), kHelpIdProperty);
+  return Window::OnMessage(message, wParam, lParam);
+}
+
+}  // namespace dayvane::widgets

@@ -1,56 +1,14 @@
 // SPDX-License-Identifier: MIT
-#include <gmock/gmock.h>
-#include <memory>
-
-#include "tests/windows/MessageLoop.h"
-#include "tests/windows/forms/TestForm.h"
-#include "windows/files/WideText.h"
+#include "tests/windows/forms/FormPresenterFixture.h"
 #include "windows/forms/FormPresenter.h"
-#include "windows/forms/Questions.h"
-#include "windows/widgets/ChildWindow.h"
 #include "windows/widgets/Lengths.h"
 
 namespace dayvane::widgets {
 namespace {
 
-using controls::UnloadMode;
 using controls::WindowState;
-using dayvane::testing::HeldKey;
-using dayvane::testing::PressKey;
 using dayvane::testing::RunMessages;
-using dayvane::testing::Soon;
-using dayvane::testing::TestFormWindow;
 using dayvane::testing::WaitUntil;
-using ::testing::ElementsAre;
-using ::testing::IsEmpty;
-using ::testing::Pair;
-
-class WindowsFormPresenterTest : public ::testing::Test {
- protected:
-  void Open() {
-    m_form.SetVisible(true);
-    RunMessages();
-  }
-  HWND Handle() const { return m_window.Handle(); }
-  UINT Dpi() const { return GetDpiForWindow(Handle()); }
-  FormPresenter& Presenter() { return m_window.Presenter(); }
-  void HearUnloads(bool refuse) {
-    m_form.QueryUnload.Connect([this, refuse](bool& cancel, UnloadMode mode) {
-      m_modes.push_back(mode);
-      cancel = refuse;
-    });
-  }
-  RECT Frame() const {
-    RECT frame{};
-    GetWindowRect(Handle(), &frame);
-    return frame;
-  }
-
-  controls::Form m_form;
-  TestFormWindow m_window{m_form};
-  DeferredWaker m_waker;
-  std::vector<UnloadMode> m_modes;
-};
 
 TEST_F(WindowsFormPresenterTest, AFormIsHiddenUntilItIsMadeVisible) {
   EXPECT_FALSE(IsWindowVisible(Handle()));
@@ -184,96 +142,6 @@ TEST_F(WindowsFormPresenterTest, AMaximisedFormMayHideWhenItIsMinimisedAndComesB
   EXPECT_FALSE(IsZoomed(Handle()));
 }
 
-TEST_F(WindowsFormPresenterTest, ACloseThatIsRefusedLeavesTheWindow) {
-  Open();
-  HearUnloads(true);
-
-  SendMessageW(Handle(), WM_SYSCOMMAND, SC_CLOSE, 0);
-
-  EXPECT_TRUE(IsWindowVisible(Handle()));
-  EXPECT_THAT(m_modes, ElementsAre(UnloadMode::ControlMenu));
-}
-
-TEST_F(WindowsFormPresenterTest, AClosedWindowIsAFormThatIsGone) {
-  Open();
-
-  SendMessageW(Handle(), WM_SYSCOMMAND, SC_CLOSE, 0);
-
-  EXPECT_FALSE(IsWindowVisible(Handle()));
-  EXPECT_TRUE(m_form.IsUnloaded());
-}
-
-TEST_F(WindowsFormPresenterTest, AProgramThatEndsOthersIsToldApartFromTheCloseBox) {
-  Open();
-  HearUnloads(false);
-
-  SendMessageW(Handle(), WM_CLOSE, 0, 0);
-
-  EXPECT_THAT(m_modes, ElementsAre(UnloadMode::TaskManager));
-}
-
-TEST_F(WindowsFormPresenterTest, ClosingInTheMiddleOfWorkDoesNothing) {
-  Open();
-  const controls::WorkScope work;
-
-  SendMessageW(Handle(), WM_SYSCOMMAND, SC_CLOSE, 0);
-
-  EXPECT_FALSE(m_form.IsUnloaded());
-}
-
-TEST_F(WindowsFormPresenterTest, TheEndOfTheSessionIsToldAsSuchAndNotRefused) {
-  Open();
-  HearUnloads(false);
-
-  EXPECT_TRUE(SendMessageW(Handle(), WM_QUERYENDSESSION, 0, 0));
-  EXPECT_THAT(m_modes, IsEmpty());
-  SendMessageW(Handle(), WM_ENDSESSION, TRUE, 0);
-
-  EXPECT_THAT(m_modes, ElementsAre(UnloadMode::SystemSession));
-}
-
-TEST_F(WindowsFormPresenterTest, ASessionThatGoesOnAfterAllChangesNothing) {
-  Open();
-  HearUnloads(false);
-
-  SendMessageW(Handle(), WM_QUERYENDSESSION, 0, 0);
-  SendMessageW(Handle(), WM_ENDSESSION, FALSE, 0);
-
-  EXPECT_THAT(m_modes, IsEmpty());
-}
-
-TEST_F(WindowsFormPresenterTest, TheSessionsEndWaitsForTheEndOfTheWork) {
-  Open();
-  {
-    const controls::WorkScope work;
-    Presenter().EndSession();
-    EXPECT_FALSE(m_form.IsUnloaded());
-  }
-  EXPECT_TRUE(WaitUntil([this] { return m_form.IsUnloaded(); }));
-}
-
-TEST_F(WindowsFormPresenterTest, TheSessionsEndClosesWhatIsStillAsked) {
-  Open();
-  bool wasAsking = true;
-  m_form.Unload.Connect([&] { wasAsking = controls::IsAsking(); });
-  {
-    const controls::QuestionScope question;
-    const Soon end([this] { Presenter().EndSession(); });
-    EXPECT_EQ(MessageBoxW(Handle(), L"Remove?", L"Dayvane", MB_YESNO), IDNO);
-    EXPECT_FALSE(m_form.IsUnloaded());
-  }
-  EXPECT_TRUE(WaitUntil([this] { return m_form.IsUnloaded(); }));
-  EXPECT_FALSE(wasAsking);
-}
-
-TEST_F(WindowsFormPresenterTest, AMessageIsClosedAtTheSessionsEndToo) {
-  Open();
-  const controls::QuestionScope question;
-  const Soon end([this] { SendMessageW(Handle(), WM_QUERYENDSESSION, 0, 0); });
-
-  EXPECT_NE(MessageBoxW(Handle(), L"Done.", L"Dayvane", MB_OK), 0);
-}
-
 TEST_F(WindowsFormPresenterTest, TheHourglassIsOverTheWholeWindow) {
   Open();
   const auto pointerOver = [this] {
@@ -286,129 +154,6 @@ TEST_F(WindowsFormPresenterTest, TheHourglassIsOverTheWholeWindow) {
 
   m_form.SetPointer(controls::MousePointer::Default);
   EXPECT_EQ(pointerOver(), LoadCursorW(nullptr, IDC_ARROW));
-}
-
-TEST_F(WindowsFormPresenterTest, TheFormIsToldWhenItIsActivated) {
-  int activations = 0;
-  m_form.Activate.Connect([&] { ++activations; });
-
-  Open();
-
-  EXPECT_EQ(activations, 1);
-}
-
-TEST_F(WindowsFormPresenterTest, AReleasedKeyIsHeard) {
-  const HWND child = m_window.AddChild(L"EDIT", 0);
-  Open();
-  std::vector<std::pair<int, int>> keys;
-  m_form.KeyUp.Connect([&](int key, int modifiers) { keys.emplace_back(key, modifiers); });
-
-  PressKey(child, VK_F1);
-
-  EXPECT_THAT(keys, ElementsAre(Pair(112, 0)));
-}
-
-TEST_F(WindowsFormPresenterTest, AKeyThatWasPressedElsewhereIsNotHeard) {
-  Open();
-  int keys = 0;
-  m_form.KeyUp.Connect([&](int, int) { ++keys; });
-
-  PostMessageW(Handle(), WM_KEYUP, VK_RETURN, static_cast<LPARAM>(0xC0000001));
-  RunMessages();
-
-  EXPECT_EQ(keys, 0);
-}
-
-TEST_F(WindowsFormPresenterTest, TabGoesFromControlToControl) {
-  const HWND first = m_window.AddChild(L"EDIT", 0);
-  const HWND second = m_window.AddChild(L"EDIT", 50);
-  Open();
-  EXPECT_EQ(GetFocus(), first);
-
-  PressKey(first, VK_TAB);
-
-  EXPECT_EQ(GetFocus(), second);
-}
-
-TEST_F(WindowsFormPresenterTest, TheKeyboardComesBackToTheControlThatHadIt) {
-  m_window.AddChild(L"EDIT", 0);
-  const HWND second = m_window.AddChild(L"EDIT", 50);
-  controls::Form otherForm;
-  TestFormWindow other(otherForm);
-  Open();
-  SetFocus(second);
-
-  otherForm.SetVisible(true);
-  RunMessages();
-  ASSERT_NE(GetFocus(), second);
-  Presenter().BringToFront();
-  RunMessages();
-
-  EXPECT_EQ(GetFocus(), second);
-}
-
-TEST_F(WindowsFormPresenterTest, AModalFormReturnsWhenItHides) {
-  const Soon hide([this] { m_form.SetVisible(false); });
-
-  Presenter().ShowModal();
-
-  EXPECT_FALSE(IsWindowVisible(Handle()));
-}
-
-TEST_F(WindowsFormPresenterTest, TheOwnerOfAModalFormTakesNoInputMeanwhile) {
-  Open();
-  controls::Form form;
-  TestFormWindow dialog(form, Handle());
-  bool wasEnabled = true;
-  HWND question = nullptr;
-  const Soon hide([&] {
-    m_form.SetPointer(controls::MousePointer::Hourglass);  // whatever is new in the owner
-    wasEnabled = IsWindowEnabled(Handle()) != 0;
-    question = OpenQuestion();
-    form.SetVisible(false);
-  });
-
-  dialog.Presenter().ShowModal();
-
-  EXPECT_FALSE(wasEnabled);
-  EXPECT_EQ(question, dialog.Handle());
-  EXPECT_EQ(OpenQuestion(), nullptr);
-  EXPECT_TRUE(IsWindowEnabled(Handle()));
-  EXPECT_EQ(GetActiveWindow(), Handle());
-}
-
-TEST_F(WindowsFormPresenterTest, AClosedDialogIsNotTheProgramsEnd) {
-  controls::Form form;
-  TestFormWindow dialog(form, nullptr, WS_EX_DLGMODALFRAME);
-  std::vector<UnloadMode> modes;
-  form.QueryUnload.Connect([&](bool&, UnloadMode mode) { modes.push_back(mode); });
-
-  SendMessageW(dialog.Handle(), WM_CLOSE, 0, 0);
-
-  EXPECT_THAT(modes, ElementsAre(UnloadMode::ControlMenu));
-}
-
-TEST_F(WindowsFormPresenterTest, EscapeInADialogAsksItsFormToGo) {
-  controls::Form form;
-  TestFormWindow dialog(form, nullptr, WS_EX_DLGMODALFRAME);
-  const HWND field = dialog.AddChild(L"EDIT", 0);
-  form.SetVisible(true);
-
-  PressKey(field, VK_ESCAPE);
-
-  EXPECT_TRUE(form.IsUnloaded());
-}
-
-TEST_F(WindowsFormPresenterTest, AFormThatIsAskedToCloseGoesWhenItIsAnswered) {
-  Open();
-  {
-    const controls::QuestionScope question;
-    Presenter().CloseWhenAnswered();
-    RunMessages();
-    EXPECT_FALSE(m_form.IsUnloaded());
-  }
-  RunMessages();
-  EXPECT_TRUE(m_form.IsUnloaded());
 }
 
 TEST_F(WindowsFormPresenterTest, TheHourglassOfAPollThatIsOverInAMomentIsNeverSeen) {

@@ -21,9 +21,9 @@ ODD_FOLDER = "Ein Stück weit – 日誌 %20"
 
 
 def dependencies():
-    """The names of the packages that ours depends on."""
+    """The packages that ours depends on, with their least versions."""
     wanted = output("dpkg-deb", "--field", package("*.deb"), "Depends")
-    return [alternatives.split("|")[0].split("(")[0].strip() for alternatives in wanted.split(",")]
+    return [alternatives.partition("|")[0].strip() for alternatives in wanted.split(",")]
 
 
 def system():

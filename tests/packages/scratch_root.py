@@ -1,8 +1,8 @@
 """A small system of its own, with nothing in it but what its distribution calls essential, what a package depends on,
 and a screen; as root in it, packages are installed and removed, and a user who is not root works there.
 
-    enter_namespaces_with(base(["libc6", "xvfb"]))
-    with ScratchRoot(base(["libc6", "xvfb"])) as root:
+    enter_namespaces_with(base(["libc6 (>= 2.34)", "xvfb"]))
+    with ScratchRoot(base(["libc6 (>= 2.34)", "xvfb"])) as root:
         root.run(["dpkg", "--install", "/tmp/dayvane.deb"])
 
 It is made from the same package sources as the machine's, kept in build/package-test as long as what it is made of
@@ -14,7 +14,6 @@ import os
 import pathlib
 import shutil
 import stat
-import subprocess
 import sys
 import tempfile
 
@@ -23,7 +22,6 @@ from packages import SOURCES, output
 FOLDER = SOURCES / "build/package-test"
 ENTERED = "DAYVANE_IN_NAMESPACES"
 USER = 1000  # the user who works in it, and its group
-HOSTNAME = "dayvane"
 SEARCHED = "/usr/local/sbin:/usr/local/bin:/usr/sbin:/usr/bin:/sbin:/bin"
 DEVICES = ("null", "zero", "full", "random", "urandom")
 # What package tools write on their own account. Their caches of icons and menus are looked at.
@@ -53,16 +51,18 @@ def package_sources():
     return sorted(set(own))
 
 
-def base(packages):
-    """The archive of a system with these packages; made where there is none yet, which takes a minute."""
+def base(dependencies):
+    """The archive of a system with what these dependencies ("libc6 (>= 2.34)") name; made where there is none yet, which
+    takes a minute or two."""
     lines = package_sources()
-    key = hashlib.sha256("\n".join([*lines, *sorted(packages)]).encode()).hexdigest()[:16]
+    key = hashlib.sha256("\n".join([*lines, *sorted(dependencies)]).encode()).hexdigest()[:16]
     archive = FOLDER / f"base-{key}.tar"
     if archive.exists():
         return archive
     shutil.rmtree(FOLDER, ignore_errors=True)
     FOLDER.mkdir(parents=True)
     unfinished = archive.with_suffix(".unfinished.tar")
+    packages = [dependency.partition(" ")[0] for dependency in dependencies]
     command = ["mmdebstrap", "--variant=apt", f"--include={','.join(packages)}", "--quiet"]
     command += ["--aptopt=APT::Install-Recommends false"]
     command += [f'--customize-hook=chroot "$1" useradd --uid {USER} --user-group --create-home ana']

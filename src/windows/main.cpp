@@ -5,6 +5,7 @@
 #include <exception>
 #include <optional>
 #include <string>
+#include <utility>
 
 #include "app/EventSink.h"
 #include "app/ReportErrors.h"
@@ -21,9 +22,10 @@
 #include "windows/files/ProgramFolder.h"
 #include "windows/files/SingleInstance.h"
 #include "windows/files/WideText.h"
+#include "windows/forms/ErrorNet.h"
 #include "windows/forms/EventLoop.h"
+#include "windows/forms/Later.h"
 #include "windows/launch/ComApartment.h"
-#include "windows/widgets/Guard.h"
 
 namespace dayvane {
 namespace {
@@ -38,31 +40,25 @@ int Refuse(const std::string& reason) {
 }
 
 /// An error that no handler catches is reported like any other.
-class ErrorNet {
- public:
-  ErrorNet() = default;
-  ErrorNet(const ErrorNet&) = delete;
-  ErrorNet& operator=(const ErrorNet&) = delete;
-  ~ErrorNet() { widgets::SetStrayErrorReport({}); }
-
-  void Lay(Application& application) {
-    widgets::SetStrayErrorReport(
-        [&application] { ReportCurrentError(application, kProcessingSelection, "MDayvane", "EventLoop"); });
-  }
-};
+void LayNet(std::optional<widgets::ErrorNet>& net, Application& application) {
+  const auto report = [&application](StringId phrase) {
+    ReportCurrentError(application, phrase, "MDayvane", "EventLoop");
+  };
+  net.emplace(report, [] { PostQuitMessage(kFailure); });
+}
 
 /// A user who asked for help at the welcome wants to read it, and not to have the main window cover it.
-void KeepHelpInFront(help::WindowsHelp& help, controls::Deferred& later, FMainControls& mainWindow) {
+void KeepHelpInFront(help::WindowsHelp& help, widgets::Later& later, FMainControls& mainWindow) {
   mainWindow.form.Activate.Connect([&help, &later, isFirst = true]() mutable {
-    if (std::exchange(isFirst, false)) later.AfterWorkAndQuestions([&help] { help.BringToFront(); });
+    if (std::exchange(isFirst, false)) later.Do([&help] { help.BringToFront(); });
   });
 }
 
 int Run(const std::string& programFolder) {
+  const launch::ComApartment apartment;
   EventSink events;
   const ReportEvent reportEvent = [&events](const std::string& text) { events.Report(text); };
   const std::optional<SingleInstance> instance = SingleInstance::Acquire();
-  const launch::ComApartment apartment;
   files::WindowsFileSystem files;
   WindowsShell shell(files, reportEvent);
   WindowsShellIcons shellIcons(shell);
@@ -75,15 +71,15 @@ int Run(const std::string& programFolder) {
 
   const std::string helpFile = programFolder + "\\Dayvane.hlp";
   Program program;
-  ErrorNet net;
-  controls::Deferred later;
+  std::optional<widgets::ErrorNet> net;
+  widgets::Later later;
   widgets::ProgramWindows windows(windowing, dates,
                                   [&](int contextId, POINT at) { help.ShowPopup(helpFile, contextId, at); });
   program = Main(desktop, programFolder, !instance,
                  {[&](FSplash& splash) { windows.Present(splash); },
                   [&](FMainControls& mainWindow, Application& application) {
                     events.SetLog(&application.eventLog);
-                    net.Lay(application);
+                    LayNet(net, application);
                     windows.Present(mainWindow);
                     KeepHelpInFront(help, later, mainWindow);
                   }});
@@ -97,6 +93,8 @@ int Run(const std::string& programFolder) {
 int Start() {
   const INITCOMMONCONTROLSEX classes{sizeof classes, ICC_WIN95_CLASSES | ICC_STANDARD_CLASSES | ICC_DATE_CLASSES};
   InitCommonControlsEx(&classes);
+  SetErrorMode(
+      SEM_FAILCRITICALERRORS);  // a drive without a disk is an error like any other, and no box of the system's
   const std::string folder = ProgramFolder();
   if (CanBeWritten(folder)) return Run(folder);
   return Refuse("Dayvane keeps its record beside itself, and nothing can be written in its folder:\r\n\r\n" + folder +

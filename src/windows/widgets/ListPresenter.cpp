@@ -17,6 +17,7 @@ namespace {
 constexpr int kLargeImage = 48;
 constexpr int kSmallImage = 16;
 constexpr SIZE kLargeCell{120, 88};
+constexpr SIZE kSmallCell{220, 20};
 constexpr int kListCellWidth = 220;
 constexpr int kRoomBesideCell = 12;
 
@@ -46,7 +47,7 @@ ListPresenter::ListPresenter(controls::ListView& control, Icons& icons, HWND par
     : ChildWindow(control,
                   {.className = WC_LISTVIEWW,
                    .style = LVS_REPORT | LVS_OWNERDATA | LVS_SINGLESEL | LVS_SHOWSELALWAYS | LVS_SHAREIMAGELISTS |
-                            WS_TABSTOP | WS_CLIPSIBLINGS,
+                            LVS_AUTOARRANGE | WS_TABSTOP | WS_CLIPSIBLINGS,
                    .extendedStyle = WS_EX_CLIENTEDGE},
                   parent, look),
       m_control(control),
@@ -77,7 +78,8 @@ void ListPresenter::ShowSizes() {
   for (const auto& [kind, pixels] : {std::pair{LVSIL_NORMAL, kLargeImage}, std::pair{LVSIL_SMALL, kSmallImage}})
     SendMessageW(Handle(), LVM_SETIMAGELIST, static_cast<WPARAM>(kind),
                  reinterpret_cast<LPARAM>(m_icons.ImagesOf(look.Pixels(pixels))));
-  SendMessageW(Handle(), LVM_SETICONSPACING, 0, MAKELPARAM(look.Pixels(kLargeCell.cx), look.Pixels(kLargeCell.cy)));
+  const SIZE cell = m_control.View() == ListStyle::SmallIcons ? kSmallCell : kLargeCell;
+  SendMessageW(Handle(), LVM_SETICONSPACING, 0, MAKELPARAM(look.Pixels(cell.cx), look.Pixels(cell.cy)));
 }
 
 int ListPresenter::ImagePixels() const {
@@ -120,6 +122,9 @@ void ListPresenter::ShowStyle() {
   const bool down = m_control.Arrange() == controls::ListArrange::Left;
   SetWindowLongPtrW(Handle(), GWL_STYLE, other | (down ? LVS_ALIGNLEFT : LVS_ALIGNTOP));
   SendMessageW(Handle(), LVM_SETVIEW, ViewOf(style), 0);
+  ShowSizes();  // a view may begin with spaces of its own
+  if (style == ListStyle::LargeIcons || style == ListStyle::SmallIcons)
+    SendMessageW(Handle(), LVM_ARRANGE, LVA_DEFAULT, 0);
   if (style == ListStyle::List) SendMessageW(Handle(), LVM_SETCOLUMNWIDTH, 0, CurrentLook()->Pixels(kListCellWidth));
   ScrollToSelection();
   // What the other style drew would be left in places.

@@ -37,7 +37,6 @@ TreePresenter::TreePresenter(controls::TreeView& control, Icons& icons, HWND par
                   parent, look),
       m_control(control),
       m_icons(icons) {
-  SetWindowTheme(Handle(), L"Explorer", nullptr);
   m_connections.push_back(control.ContentsWillChange.ConnectScoped([this] { BeginChange(); }));
   m_connections.push_back(control.ContentsChanged.ConnectScoped([this] { EndChange(); }));
   m_connections.push_back(control.SelectionChanged.ConnectScoped([this] { ShowSelection(); }));

@@ -13,12 +13,36 @@ namespace dayvane::widgets {
 
 using controls::TreeNode;
 
+namespace {
+
+/// A selection in a tree that does not have the keyboard is muted, but seen: a quarter of its colour.
+COLORREF MutedSelection() {
+  const COLORREF selection = GetSysColor(COLOR_HIGHLIGHT);
+  const COLORREF window = GetSysColor(COLOR_WINDOW);
+  const auto mix = [](int part, int rest) { return static_cast<BYTE>((part + 3 * rest) / 4); };
+  return RGB(mix(GetRValue(selection), GetRValue(window)), mix(GetGValue(selection), GetGValue(window)),
+             mix(GetBValue(selection), GetBValue(window)));
+}
+
+LRESULT DrawMuted(NMTVCUSTOMDRAW& draw, bool hasKeyboard) {
+  if (draw.nmcd.dwDrawStage == CDDS_PREPAINT) return CDRF_NOTIFYITEMDRAW;
+  if (draw.nmcd.dwDrawStage != CDDS_ITEMPREPAINT || hasKeyboard || (draw.nmcd.uItemState & CDIS_SELECTED) == 0)
+    return CDRF_DODEFAULT;
+  draw.clrText = GetSysColor(COLOR_WINDOWTEXT);
+  draw.clrTextBk = MutedSelection();
+  return CDRF_DODEFAULT;
+}
+
+}  // namespace
+
 std::optional<LRESULT> TreePresenter::OnNotify(NMHDR& notice) {
   if (!m_isReady) return std::nullopt;
   switch (notice.code) {
     case TVN_GETDISPINFOW:
       GiveImage(reinterpret_cast<NMTVDISPINFOW&>(notice).item);
       return 0;
+    case NM_CUSTOMDRAW:
+      return DrawMuted(reinterpret_cast<NMTVCUSTOMDRAW&>(notice), GetFocus() == Handle());
     case TVN_GETINFOTIPW:
       GiveTip(reinterpret_cast<NMTVGETINFOTIPW&>(notice));
       return 0;

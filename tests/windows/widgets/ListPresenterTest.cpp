@@ -40,6 +40,16 @@ TEST_F(WindowsListTest, EveryStyleIsTheListsOwn) {
   EXPECT_THAT(views, ElementsAre(LV_VIEW_ICON, LV_VIEW_SMALLICON, LV_VIEW_LIST, LV_VIEW_DETAILS));
 }
 
+TEST_F(WindowsListTest, IconsStandBesideEachOtherWhateverTheStyleBefore) {
+  Fill(3);
+  Present();
+
+  m_control.SetView(ListStyle::LargeIcons);
+
+  EXPECT_EQ(RectOf("K1", LVIR_ICON).top, RectOf("K0", LVIR_ICON).top);
+  EXPECT_GE(RectOf("K1", LVIR_ICON).left, RectOf("K0", LVIR_ICON).right);
+}
+
 TEST_F(WindowsListTest, FiftyThousandRowsAreShownWithoutACopy) {
   Fill(50'000);
   Present();

@@ -88,8 +88,8 @@ TEST_F(OptionsSession, StoreEverythingAfterOk) {
   Write(kAge, L"5000");
   Press("OK");
   ExpectSoon(false, [&] { return IsOpen(); });
-  EXPECT_EQ(Setting("Options", "Favorites Threshold"), "5");
-  EXPECT_EQ(Setting("Options", "Purge Age"), "5000");
+  ExpectSoon(std::string("5"), [&] { return Setting("Options", "Favorites Threshold"); });
+  ExpectSoon(std::string("5000"), [&] { return Setting("Options", "Purge Age"); });
 }
 
 TEST_F(OptionsSession, OpenTheirHelp) {

@@ -97,8 +97,8 @@ int SelectedRow(HWND list) {
   return static_cast<int>(Ask(list, LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED));
 }
 
-DWORD StyleOf(HWND list) {
-  return static_cast<DWORD>(GetWindowLongPtrW(list, GWL_STYLE)) & LVS_TYPEMASK;
+LRESULT ViewOf(HWND list) {
+  return Ask(list, LVM_GETVIEW);
 }
 
 POINT PlaceOfRow(HWND list, int row) {

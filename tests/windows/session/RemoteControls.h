@@ -22,7 +22,7 @@ int RowCount(HWND list);
 std::vector<Row> Rows(HWND list);  ///< with the texts of all columns
 std::vector<std::string> Names(HWND list);
 int SelectedRow(HWND list);  ///< -1 for none
-DWORD StyleOf(HWND list);    ///< LVS_ICON …
+LRESULT ViewOf(HWND list);   ///< LV_VIEW_ICON …
 POINT PlaceOfRow(HWND list, int row);
 POINT PlaceOfHeader(HWND list, int column);
 int ColumnWidth(HWND list, int column);

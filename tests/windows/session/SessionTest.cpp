@@ -125,6 +125,7 @@ HWND SessionTest::Child(const std::string& className, const std::string& text) c
 void SessionTest::ChooseMenu(const std::string& accessKeys) {
   SetForegroundWindow(m_main);
   PressKey(VK_MENU, static_cast<WORD>(accessKeys.front()));
+  WaitUntil([&] { return HasOpenMenu(); }, "the menu " + accessKeys);
   for (const char key : accessKeys.substr(1)) PressKey(static_cast<WORD>(key));
 }
 
@@ -134,6 +135,13 @@ void SessionTest::PressTool(int button) {
 
 bool SessionTest::CanPressTool(int button) const {
   return ToolButtons(Toolbar()).at(static_cast<std::size_t>(button)).enabled;
+}
+
+bool SessionTest::HasOpenMenu() const {
+  GUITHREADINFO thread{};
+  thread.cbSize = sizeof thread;
+  return GetGUIThreadInfo(GetWindowThreadProcessId(m_main, nullptr), &thread) != 0 &&
+         (thread.flags & (GUI_INMENUMODE | GUI_POPUPMENUMODE)) != 0;
 }
 
 void SessionTest::ClickNode(const std::string& text) {

@@ -21,12 +21,13 @@ using std::chrono::local_days;
 /// own, made for them.
 class SessionTest : public ::testing::Test {
  protected:
+  // Of the toolbar, which has no button for what does nothing.
   static constexpr int kDailyButton = 0;
   static constexpr int kFavoritesButton = 1;
-  static constexpr int kExploreButton = 3;
-  static constexpr int kFindButton = 5;
-  static constexpr int kFirstStyleButton = 6;
-  static constexpr int kHelpButton = 10;
+  static constexpr int kExploreButton = 2;
+  static constexpr int kFindButton = 4;
+  static constexpr int kFirstStyleButton = 5;
+  static constexpr int kHelpButton = 9;
 
   void SetUp() override;
   void TearDown() override;
@@ -63,6 +64,7 @@ class SessionTest : public ::testing::Test {
   void ChooseMenu(const std::string& accessKeys);  ///< of the menu, then of its entries
   void PressTool(int button);
   bool CanPressTool(int button) const;
+  bool HasOpenMenu() const;
   void ClickNode(const std::string& text);
   void ClickRow(HWND list, const std::string& name);
   int RowOf(HWND list, const std::string& name) const;

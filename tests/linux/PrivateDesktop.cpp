@@ -75,6 +75,7 @@ class PrivateDesktop : public ::testing::Environment {
   void WriteTypes() {
     m_folder->Write("data/mime/globs2", kPatterns);
     m_folder->Write("data/mime/application/x-letter.xml", TypeDescription("application/x-letter", "Letter"));
+    m_folder->Write("data/mime/application/x-sketch.xml", TypeDescription("application/x-sketch", "Sketch"));
   }
 
   void WritePrograms() {

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "base/Text.h"
 #include "tests/windows/session/SessionTest.h"
 
 namespace dayvane::session {
@@ -30,11 +31,10 @@ TEST_F(MainWindowSession, ADayClickedInTheTreeListsItsDocumentsAndIsChosenInTheC
   });
 }
 
-TEST_F(MainWindowSession, ADayChosenInTheCalendarIsSelectedInTheTree) {
-  ClickNode(DayName(0));
-  SetForegroundWindow(Main());
-  PressKey(VK_SHIFT, VK_TAB);  // from the tree to the calendar
-  PressKey(VK_LEFT);
+TEST_F(MainWindowSession, ADayClickedInTheCalendarIsSelectedInTheTree) {
+  ClickNode(DayName(2));
+  ExpectSoon(DayName(2), [&] { return SelectedNode(Tree()); });
+  Click(PlaceOfDay(Calendar(), std::stoi(DayName(1))));
   ExpectSoon(DayName(1), [&] { return SelectedNode(Tree()); });
   ExpectSoon(2, [&] { return RowCount(List()); });
 }
@@ -44,7 +44,7 @@ TEST_F(MainWindowSession, TheFavoritesAreShownByTheMenuAndTheToolbar) {
   ExpectSoon(std::string("Dayvane - Favorites"), [&] { return Title(); });
   EXPECT_TRUE(IsShown(Favorites()));
   EXPECT_EQ(Names(Favorites()).size(), 2U);
-  EXPECT_EQ(Rows(Favorites()).front()[3], "2");
+  EXPECT_EQ(text::Trim(Rows(Favorites()).front()[3]), "2");
   EXPECT_FALSE(CanPressTool(kFavoritesButton));
   PressTool(kDailyButton);
   ExpectSoon(std::string("Dayvane - Daily"), [&] { return Title(); });
@@ -82,23 +82,24 @@ TEST_F(MainWindowSession, OnlyAChosenDocumentHasAFolderToShow) {
   ExpectSoon(true, [&] { return CanPressTool(kExploreButton); });
 }
 
-TEST_F(MainWindowSession, ADocumentThatIsGoneIsAskedAboutAndRemovedAfterYes) {
+TEST_F(MainWindowSession, ADocumentThatIsGoneIsAskedAboutAndItsLinkRemovedAfterYes) {
   std::remove((Documents() / "Report.txt").c_str());
+  ClickNode(DayName(0));
   ClickRow(List(), "Report.txt");
   PressKey(VK_RETURN);
-  EXPECT_THAT(AnswerBox(IDYES), ::testing::HasSubstr("Report.txt"));
+  EXPECT_THAT(AnswerBox(IDYES), ::testing::HasSubstr("was not found. Remove this link?"));
   ExpectSoon(std::vector<std::string>{"Plan.png"}, [&] { return Names(List()); });
-  ExpectSoon(false, [&] { return IsFiled("Report.txt", 0) || IsFiled("Report.txt", 1); });
+  ExpectSoon(false, [&] { return IsFiled("Report.txt", 0); });
 }
 
 TEST_F(MainWindowSession, ADayIsPurgedByItsMenu) {
+  ChooseMenu("DU");  // what is still in the Recent folder would be filed again
   ClickNode(DayName(2));
   ExpectSoon(std::vector<std::string>{"Old.txt"}, [&] { return Names(List()); });
   for (const Node& node : Nodes(Tree()))
     if (node.text == DayName(2)) RightClick(PlaceOfNode(Tree(), node.item));
   WaitUntil([&] { return HasOpenMenu(); }, "the menu of the day");
   PressKey('P');
-  EXPECT_NE(AnswerBox(IDYES), "");
   ExpectSoon(false, [&] { return IsFiled("Old.txt", 2); });
   EXPECT_TRUE(Exists(DocumentPath("Old.txt")));
 }
@@ -116,12 +117,14 @@ TEST_F(MainWindowSession, FindIsYetToCome) {
   EXPECT_EQ(AnswerBox(IDOK), "Display find dialog box here.");
 }
 
-TEST_F(MainWindowSession, TheHelpOpensWithItsContentsAndWithTheTopicOfTheWindow) {
+TEST_F(MainWindowSession, TheHelpOpensWithItsContents) {
   ChooseMenu("HD");
   EXPECT_NE(Program().WaitForWindow("Dayvane Help"), nullptr);
-  SetForegroundWindow(Main());
+}
+
+TEST_F(MainWindowSession, TheHelpOpensWithTheTopicOfTheWindow) {
   PressTool(kHelpButton);
-  EXPECT_NE(Program().WaitForWindow("Main window"), nullptr);
+  EXPECT_NE(Program().WaitForWindow("The main window - Dayvane Help"), nullptr);
 }
 
 }  // namespace

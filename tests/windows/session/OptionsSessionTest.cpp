@@ -26,6 +26,8 @@ class OptionsSession : public SessionTest {
     PressKey(VK_HOME);
     PressKey(VK_SHIFT, VK_END);
     TypeText(text);
+    // The system hands on what is typed in its own time.
+    ExpectSoon(std::string(text.begin(), text.end()), [&] { return TextOf(Field(index)); });
   }
 
   void Press(const std::string& caption) {
@@ -93,8 +95,8 @@ TEST_F(OptionsSession, StoreEverythingAfterOk) {
 }
 
 TEST_F(OptionsSession, OpenTheirHelp) {
-  Press("Help");
-  EXPECT_NE(Program().WaitForWindow("Options"), nullptr);
+  Press("&Help");
+  EXPECT_NE(Program().WaitForWindow("Options - Dayvane Help"), nullptr);
 }
 
 }  // namespace

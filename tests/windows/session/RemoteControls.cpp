@@ -3,6 +3,7 @@
 
 #include <array>
 #include <functional>
+#include <stdexcept>
 
 #include "tests/windows/session/RemoteMemory.h"
 #include "windows/files/WideText.h"
@@ -154,6 +155,25 @@ SYSTEMTIME ChosenDay(HWND calendar) {
   const RemoteMemory memory(calendar);
   memory.Ask(MCM_GETCURSEL);
   return memory.Read<SYSTEMTIME>();
+}
+
+POINT PlaceOfDay(HWND calendar, int day) {
+  constexpr int kStep = 6;  // pixels, less than half of a day's place
+  RemoteMemory memory(calendar);
+  RECT room{};
+  GetClientRect(calendar, &room);
+  for (LONG y = 0; y < room.bottom; y += kStep)
+    for (LONG x = 0; x < room.right; x += kStep) {
+      MCHITTESTINFO hit{};
+      hit.cbSize = MCHITTESTINFO_V1_SIZE;
+      hit.pt = {x, y};
+      memory.Write(hit);
+      if (memory.Ask(MCM_HITTEST) != MCHT_CALENDARDATE || memory.Read<MCHITTESTINFO>().st.wDay != day) continue;
+      POINT place{x + kStep / 2, y + kStep / 2};
+      ClientToScreen(calendar, &place);
+      return place;
+    }
+  throw std::runtime_error("the calendar shows no day " + std::to_string(day));
 }
 
 std::vector<ToolButton> ToolButtons(HWND toolbar) {

@@ -39,6 +39,7 @@ POINT PlaceOfNode(HWND tree, HTREEITEM item);
 
 // The calendar
 SYSTEMTIME ChosenDay(HWND calendar);
+POINT PlaceOfDay(HWND calendar, int day);  ///< of the month that is shown; throws when it is not found
 
 // Toolbars
 struct ToolButton {

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Compiles the help sources into the one file that the help viewer reads.
 
-Usage: compile_help.py [--bitmaps] OUTPUT SOURCE_FOLDER PICTURE_FOLDER...
+Usage: compile_help.py --system=SYSTEM [--bitmaps] OUTPUT SOURCE_FOLDER PICTURE_FOLDER...
 
 A source "<name>.html" is one topic, well-formed XML of this shape:
 
@@ -15,10 +15,18 @@ Everything that a reader could stumble over is an error here: a link to nowhere,
 tree, a number given twice, markup that the viewer does not draw. The format of the output is described in
 src/help/HelpFile.h.
 
+What is true of one system only has the attribute system="linux" or system="windows", and is left out of the help for
+the other; <span> holds such words within a text, and vanishes:
+
+    <p>It lies <span system="linux">in your home folder</span><span system="windows">beside the program</span>.</p>
+
+The markup and the links of what is left out are checked too, so that no system's build breaks the help of the other.
+
 With --bitmaps the pictures are packed as PNG, for a desktop that draws no SVG. They are large enough to be made smaller
 for every screen: one drawn for a screen of one scale would be blurred on the others.
 """
 
+import argparse
 import pathlib
 import re
 import subprocess
@@ -40,7 +48,9 @@ ALLOWED = {
     "tr": set(),
     "td": set(),
     "th": set(),
+    "span": set(),
 }
+SYSTEMS = ("linux", "windows")
 NAME = re.compile(r"[a-z0-9][a-z0-9.-]*\Z")
 
 
@@ -52,8 +62,44 @@ class SourceError(Exception):
     pass
 
 
+def append_text(parent, index, text):
+    """Adds text before the child of that index."""
+    if index == 0:
+        parent.text = (parent.text or "") + (text or "")
+    else:
+        parent[index - 1].tail = (parent[index - 1].tail or "") + (text or "")
+
+
+def leave_out(parent, child):
+    index, tail = list(parent).index(child), child.tail
+    parent.remove(child)
+    # The line that a block had for itself goes with it; the blank behind words belongs to the text.
+    if child.tag == "span" or (tail or "").strip():
+        append_text(parent, index, tail)
+
+
+def dissolve(parent, child):
+    index, grandchildren = list(parent).index(child), list(child)
+    parent.remove(child)
+    append_text(parent, index, child.text)
+    for offset, grandchild in enumerate(grandchildren):
+        parent.insert(index + offset, grandchild)
+    append_text(parent, index + len(grandchildren), child.tail)
+
+
+def keep_for(system, parent):
+    """Leaves what is true of this system, and nothing that says so."""
+    for child in list(parent):
+        if child.attrib.pop("system", system) != system:
+            leave_out(parent, child)
+            continue
+        keep_for(system, child)
+        if child.tag == "span":
+            dissolve(parent, child)
+
+
 class Topic:
-    def __init__(self, path):
+    def __init__(self, path, system):
         self.name = path.stem
         self.links, self.pictures = [], {}  # the pictures' names, each with its greatest width
         root = ElementTree.parse(path).getroot()
@@ -66,6 +112,9 @@ class Topic:
         for element in root.iter():
             if element is not root:
                 self._check(path, element)
+        keep_for(system, root)
+        for image in root.iter("img"):
+            self._use_picture(image)
         self.root = root
 
     def body(self):
@@ -76,17 +125,20 @@ class Topic:
             image.set("src", image.get("src").replace(".svg?", ".png?"))
 
     def _check(self, path, element):
-        if element.tag not in ALLOWED or not set(element.keys()) <= ALLOWED[element.tag]:
+        if element.tag not in ALLOWED or not set(element.keys()) <= ALLOWED[element.tag] | {"system"}:
             raise SourceError(f"{path}: <{element.tag}> with {list(element.keys())} is not part of the markup")
+        if element.get("system", SYSTEMS[0]) not in SYSTEMS:
+            raise SourceError(f"{path}: no such system: {element.get('system')}")
         if element.tag == "a":
             self.links.append(element.get("href"))
-        if element.tag == "img":
-            if not (element.get("src") and element.get("width") and element.get("height")):
-                raise SourceError(f"{path}: a picture without a size")
-            name, width = element.get("src"), int(element.get("width"))
-            self.pictures[name] = max(width, self.pictures.get(name, 0))
-            # The viewer draws a picture for the size that is part of its address: scaled bitmaps are blurred.
-            element.set("src", "{src}?{width}x{height}".format(**element.attrib))
+        if element.tag == "img" and not (element.get("src") and element.get("width") and element.get("height")):
+            raise SourceError(f"{path}: a picture without a size")
+
+    def _use_picture(self, image):
+        name, width = image.get("src"), int(image.get("width"))
+        self.pictures[name] = max(width, self.pictures.get(name, 0))
+        # The viewer draws a picture for the size that is part of its address: scaled bitmaps are blurred.
+        image.set("src", "{src}?{width}x{height}".format(**image.attrib))
 
 
 def read_contents(path):
@@ -141,9 +193,9 @@ def picture_records(topics, pictures, bitmaps):
             yield record("picture", [name], pictures[name].read_bytes())
 
 
-def compile_help(source_folder, picture_folders, bitmaps=False):
+def compile_help(source_folder, picture_folders, system, bitmaps=False):
     sources = sorted(pathlib.Path(source_folder).glob("*.html"))
-    topics = {path.stem: Topic(path) for path in sources}
+    topics = {path.stem: Topic(path, system) for path in sources}
     contents = read_contents(pathlib.Path(source_folder) / "contents.xml")
     pictures = {path.name: path for folder in picture_folders for path in pathlib.Path(folder).glob("*.svg")}
     check(topics, contents, pictures)
@@ -160,14 +212,18 @@ def compile_help(source_folder, picture_folders, bitmaps=False):
 
 
 def main():
-    arguments = [argument for argument in sys.argv[1:] if argument != "--bitmaps"]
-    if len(arguments) < 3:
-        sys.exit(__doc__)
+    parser = argparse.ArgumentParser()
+    parser.add_argument("--system", choices=SYSTEMS, required=True)
+    parser.add_argument("--bitmaps", action="store_true")
+    parser.add_argument("output", type=pathlib.Path)
+    parser.add_argument("sources")
+    parser.add_argument("pictures", nargs="+")
+    arguments = parser.parse_args()
     try:
-        output = compile_help(arguments[1], arguments[2:], bitmaps="--bitmaps" in sys.argv)
+        output = compile_help(arguments.sources, arguments.pictures, arguments.system, arguments.bitmaps)
     except (SourceError, ElementTree.ParseError, OSError, ValueError, subprocess.CalledProcessError) as error:
         sys.exit(f"{sys.argv[0]}: {error}")
-    pathlib.Path(arguments[0]).write_bytes(output)
+    arguments.output.write_bytes(output)
 
 
 if __name__ == "__main__":

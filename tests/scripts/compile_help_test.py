@@ -21,12 +21,17 @@ class CompileHelpTest(unittest.TestCase):
     def write(self, name, text):
         (self.folder / name).write_text(text, encoding="utf-8")
 
-    def compile(self, *options):
+    def compile(self, *options, system="linux"):
         output = self.folder / "out.hlp"
-        result = subprocess.run(
-            [sys.executable, COMPILER, *options, output, self.folder, self.folder], capture_output=True, text=True
-        )
+        command = [sys.executable, COMPILER, f"--system={system}", *options, output, self.folder, self.folder]
+        result = subprocess.run(command, capture_output=True, text=True)
         return result.returncode, result.stderr, output.read_bytes() if output.exists() else None
+
+    def body(self, system):
+        """The one topic's text as the system's help has it."""
+        code, message, output = self.compile(system=system)
+        self.assertEqual((code, message), (0, ""))
+        return output.decode("utf-8").split("Home\n")[1].rsplit("\ncontents", 1)[0]
 
     def assert_refused(self, why):
         code, message, output = self.compile()
@@ -58,6 +63,54 @@ class CompileHelpTest(unittest.TestCase):
         self.assertRegex(output, rb"picture \d+ dot\.png\n\x89PNG\r\n")
         self.assertIn(b'src="dot.png?3x4"', output)
         self.assertNotIn(b".svg", output)
+
+    def test_a_paragraph_of_one_system_is_missing_from_the_other_with_its_line(self):
+        self.write("home.html", '<topic title="Home"><p>A</p>\n<p system="windows">B <b>C</b></p>\n<p>D</p></topic>')
+        self.assertEqual(self.body("linux"), "<p>A</p>\n<p>D</p>")
+        self.assertEqual(self.body("windows"), "<p>A</p>\n<p>B <b>C</b></p>\n<p>D</p>")
+
+    def test_words_of_one_system_leave_the_text_around_them_whole(self):
+        self.write(
+            "home.html",
+            '<topic title="Home"><p>It is <span system="linux">here, <b>really</b>,</span><span system="windows">there'
+            "</span> <i>now</i>.</p></topic>",
+        )
+        self.assertEqual(self.body("linux"), "<p>It is here, <b>really</b>, <i>now</i>.</p>")
+        self.assertEqual(self.body("windows"), "<p>It is there <i>now</i>.</p>")
+
+    def test_list_items_and_rows_can_be_of_one_system(self):
+        self.write(
+            "home.html",
+            '<topic title="Home"><ul><li system="linux">A</li><li>B</li></ul>'
+            '<table><tr system="windows"><td>C</td></tr><tr><td>D</td></tr></table></topic>',
+        )
+        self.assertEqual(self.body("linux"), "<ul><li>A</li><li>B</li></ul><table><tr><td>D</td></tr></table>")
+        windows = "<ul><li>B</li></ul><table><tr><td>C</td></tr><tr><td>D</td></tr></table>"
+        self.assertEqual(self.body("windows"), windows)
+
+    def test_words_of_one_system_can_stand_within_such_words(self):
+        self.write(
+            "home.html",
+            '<topic title="Home"><p>A<span> B<span system="windows"> C</span> D</span></p></topic>',
+        )
+        self.assertEqual(self.body("linux"), "<p>A B D</p>")
+        self.assertEqual(self.body("windows"), "<p>A B C D</p>")
+
+    def test_a_picture_of_the_other_system_is_not_packed(self):
+        self.write("dot.svg", "<svg/>")
+        self.write(
+            "home.html", '<topic title="Home"><img system="windows" src="dot.svg" width="3" height="4"/></topic>'
+        )
+        self.assertNotIn(b"svg", self.compile()[2])
+        self.assertIn(b"picture 6 dot.svg\n", self.compile(system="windows")[2])
+
+    def test_what_is_left_out_is_checked_too(self):
+        self.write("home.html", '<topic title="Home"><p system="windows"><a href="away">Away</a></p></topic>')
+        self.assert_refused("link to a topic that does not exist: away")
+
+    def test_an_unknown_system_is_refused(self):
+        self.write("home.html", '<topic title="Home"><p system="amiga">Text</p></topic>')
+        self.assert_refused("no such system: amiga")
 
     def test_a_link_to_nowhere_is_refused(self):
         self.write("home.html", '<topic title="Home"><p><a href="away">Away</a></p></topic>')

@@ -114,5 +114,11 @@ TEST(HelpTopics, EverySourceArrivesWithItsTitleAndWords) {
   }
 }
 
+TEST(HelpTopics, NothingIsToldOfWindows) {
+  for (const Topic& topic : Shipped().Topics())
+    for (const char* word : {"Windows", "registry", "HKEY", "dayvane.exe"})
+      EXPECT_EQ(topic.text.find(word), std::string::npos) << topic.name << ": " << word;
+}
+
 }  // namespace
 }  // namespace dayvane::help

@@ -110,5 +110,20 @@ TEST(HelpTopics, EveryControlIsExplainedWhereItIsAskedAbout) {
     EXPECT_NE(Shipped().FindContext(context), nullptr) << context;
 }
 
+TEST(HelpTopics, NothingIsToldOfOtherSystems) {
+  for (const Topic& topic : Shipped().Topics())
+    for (const char* word :
+         {"Linux", "GNOME", "KDE", "Xfce", "your desktop", "dock", "home folder", ".config", "terminal"})
+      EXPECT_EQ(topic.text.find(word), std::string::npos) << topic.name << ": " << word;
+}
+
+TEST(HelpTopics, WhereTheProgramKeepsItsFilesAndSettingsIsTold) {
+  const Topic* files = Shipped().Find("files");
+  ASSERT_NE(files, nullptr);
+  for (const char* words : {"Daily", "Favorites.dat", "ErrorLog.txt", "EventLog.txt",
+                            "the folder that the program itself", "HKEY_CURRENT_USER\\Software\\Korvath\\Dayvane"})
+    EXPECT_NE(files->text.find(words), std::string::npos) << words;
+}
+
 }  // namespace
 }  // namespace dayvane::help

@@ -5,19 +5,23 @@
 set -euo pipefail
 build=$(realpath "$1/src/windows") output=$(realpath -m "$2") version=$3
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
+export LC_ALL=C.UTF-8 TZ=UTC
 
 stage=$(mktemp -d)
 trap 'rm -rf "$stage"' EXIT
 folder=$stage/Dayvane
 mkdir -p "$folder" "$output"
-cp "$build/dayvane.exe" "$build/Dayvane.hlp" packaging/windows/ReadMe.txt "$folder"
+cp "$build/dayvane.exe" "$build/Dayvane.hlp" "$folder"
 sed 's/$/\r/' LICENSE >"$folder/License.txt"
+sed 's/$/\r/' packaging/windows/ReadMe.txt >"$folder/ReadMe.txt"
 chmod 644 "$folder"/*
 find "$stage" -exec touch -d "@${SOURCE_DATE_EPOCH:?}" {} +
 
 zip=$output/dayvane-$version-windows.zip
 rm -f "$zip"
-(cd "$stage" && TZ=UTC zip -X -9 -q "$zip" Dayvane/*)
+(cd "$stage" && zip -X -9 -q "$zip" Dayvane/*)
 
-makensis -V2 -INPUTCHARSET UTF8 -DVERSION="$version" -DBUILD="$build" -DSOURCE="$PWD" -DICONS="$build/resources/icons" \
-  -DOUTPUT="$output/dayvane-$version-windows-setup.exe" packaging/windows/dayvane.nsi
+kilobytes=$(cat "$folder"/* | wc -c | awk '{ print int(($1 + 1023) / 1024) }')
+makensis -V2 -WX -INPUTCHARSET UTF8 -DVERSION="$version" -DSTAGE="$folder" -DKILOBYTES="$kilobytes" \
+  -DICON="$build/resources/icons/dayvane.ico" -DOUTPUT="$output/dayvane-$version-windows-setup.exe" \
+  packaging/windows/dayvane.nsi

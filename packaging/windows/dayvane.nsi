@@ -1,18 +1,23 @@
 ; SPDX-License-Identifier: MIT
 
 ; The installer for one user: no rights of an administrator, everything in one folder, where the program keeps the
-; record beside itself. Called by scripts/package_windows.sh with /DVERSION=, /DBUILD= (the built program's folder),
-; /DSOURCE= (the project's folder) and /DOUTPUT=.
+; record beside itself. Called by scripts/package_windows.sh with /DVERSION=, /DSTAGE= (the folder of what is
+; installed), /DKILOBYTES= (its size), /DICON= and /DOUTPUT=.
 
 Unicode true
 Target amd64-unicode
 SetCompressor /SOLID lzma
 SetDateSave off
+AllowSkipFiles off ; without one of its files it would not be installed
 
 !include "MUI2.nsh"
+!include "LogicLib.nsh"
 
 !define PRODUCT "Dayvane"
+!define PROGRAM "$INSTDIR\dayvane.exe"
+!define START_MENU_LINK "$SMPROGRAMS\${PRODUCT}.lnk"
 !define UNINSTALL_KEY "Software\Microsoft\Windows\CurrentVersion\Uninstall\${PRODUCT}"
+!define REPLACED "*.dayvane-replaced" ; files of programs that ran on when they were replaced or removed
 
 Name "${PRODUCT}"
 OutFile "${OUTPUT}"
@@ -22,6 +27,7 @@ InstallDir "$LOCALAPPDATA\Programs\${PRODUCT}"
 InstallDirRegKey HKCU "${UNINSTALL_KEY}" "InstallLocation"
 BrandingText "${PRODUCT} ${VERSION}"
 VIProductVersion "${VERSION}.0"
+VIFileVersion "${VERSION}.0"
 VIAddVersionKey "ProductName" "${PRODUCT}"
 VIAddVersionKey "ProductVersion" "${VERSION}"
 VIAddVersionKey "FileVersion" "${VERSION}"
@@ -30,70 +36,133 @@ VIAddVersionKey "CompanyName" "Korvath"
 VIAddVersionKey "LegalCopyright" "Copyright © 2026 The Dayvane authors"
 ManifestDPIAware true
 
-!define MUI_ICON "${ICONS}/dayvane.ico"
-!define MUI_UNICON "${ICONS}/dayvane.ico"
+Var RunsOn ; "yes" when the program ran on while it was replaced
+
+!define MUI_ICON "${ICON}"
+!define MUI_UNICON "${ICON}"
 !define MUI_ABORTWARNING
 
 !define MUI_WELCOMEPAGE_TEXT "Dayvane keeps a day-by-day record of the documents that you open. The record stays on this computer, in plain files, in the folder that the program is installed in.$\r$\n$\r$\nClick Next to continue."
 !insertmacro MUI_PAGE_WELCOME
+!define MUI_PAGE_CUSTOMFUNCTION_PRE SkipAtUpgrade
 !insertmacro MUI_PAGE_DIRECTORY
 !insertmacro MUI_PAGE_INSTFILES
-!define MUI_FINISHPAGE_RUN "$INSTDIR\dayvane.exe"
+!define MUI_FINISHPAGE_RUN "${PROGRAM}"
 !define MUI_FINISHPAGE_RUN_TEXT "Start Dayvane"
+!define MUI_PAGE_CUSTOMFUNCTION_SHOW TellThatItRunsOn
 !insertmacro MUI_PAGE_FINISH
 
 !insertmacro MUI_UNPAGE_CONFIRM
 !insertmacro MUI_UNPAGE_INSTFILES
 !define MUI_FINISHPAGE_TITLE "Dayvane has been removed"
-!define MUI_FINISHPAGE_TEXT "Your record has been left where it is:$\r$\n$\r$\n$INSTDIR$\r$\n$\r$\nIt is plain files: the folder Daily with the shortcuts of each day, and Favorites.dat with the counts. A later installation into this folder finds it again. Delete the folder to delete the record."
+!define MUI_FINISHPAGE_TEXT "Your record is still where it was:$\r$\n$\r$\n$INSTDIR$\r$\n$\r$\nIt is plain files: the folder Daily with the shortcuts of each day, and Favorites.dat with the counts. A later installation into this folder finds it again. To delete the record, delete the folder."
+!define MUI_FINISHPAGE_TEXT_LARGE
 !insertmacro MUI_UNPAGE_FINISH
 
 !insertmacro MUI_LANGUAGE "English"
 
-; A program that runs goes on with its file under another name; the next start is the new one.
-!macro MOVE_OLD_PROGRAM_AWAY
-  ClearErrors
-  Delete "$INSTDIR\dayvane.exe"
-  ${If} ${Errors}
-    GetTempFileName $0 "$INSTDIR"
-    Delete "$0"
-    ClearErrors
-    Rename "$INSTDIR\dayvane.exe" "$0"
-    ${If} ${Errors}
-      MessageBox MB_OK|MB_ICONSTOP "Dayvane cannot be replaced in $INSTDIR. Please end the program (E&xit in its menu) and try again." /SD IDOK
-      Abort
-    ${EndIf}
-    Delete /REBOOTOK "$0"
+; The record is beside the program; in another folder it would begin anew.
+Function SkipAtUpgrade
+  ReadRegStr $0 HKCU "${UNINSTALL_KEY}" "InstallLocation"
+  ${If} $0 == $INSTDIR
+  ${AndIf} ${FileExists} "${PROGRAM}"
+    Abort
   ${EndIf}
+FunctionEnd
+
+; A second start would only say that the program runs.
+Function TellThatItRunsOn
+  ${If} $RunsOn == "yes"
+    SendMessage $mui.FinishPage.Text ${WM_SETTEXT} 0 "STR:Dayvane ${VERSION} has been installed on your computer. The version that is running goes on until you end it (Exit in its menu); the next start is the new one.$\r$\n$\r$\nClick Finish to close Setup."
+    SendMessage $mui.FinishPage.Run ${BM_SETCHECK} ${BST_UNCHECKED} 0
+    ShowWindow $mui.FinishPage.Run ${SW_HIDE}
+  ${EndIf}
+FunctionEnd
+
+; Makes room where the program lies. The file of a program that runs cannot be deleted, only moved, and is deleted at the
+; next occasion. It goes to the temporary files, so that a removal leaves nothing beside the record; where these are
+; on another disk, moving would copy it, and it stays in the folder under another name.
+!macro PUT_PROGRAM_AWAY_FUNCTION un
+Function ${un}PutProgramAway
+  Delete "$TEMP\${REPLACED}"
+  Delete "$INSTDIR\${REPLACED}"
+  Delete "${PROGRAM}"
+  ${If} ${FileExists} "${PROGRAM}"
+    StrCpy $RunsOn "yes"
+    Push "$TEMP"
+    Call ${un}MoveProgram
+  ${EndIf}
+  ${If} ${FileExists} "${PROGRAM}"
+    Push "$INSTDIR"
+    Call ${un}MoveProgram
+  ${EndIf}
+  ${If} ${FileExists} "${PROGRAM}"
+    SetErrorLevel 2
+    MessageBox MB_OK|MB_ICONSTOP "The program in $INSTDIR cannot be replaced or removed. Please end it (Exit in its menu) and try again." /SD IDOK
+    Abort
+  ${EndIf}
+FunctionEnd
+
+; Into the folder on the stack.
+Function ${un}MoveProgram
+  Exch $1
+  Push $0
+  GetTempFileName $0 "$1"
+  Delete "$0"
+  Rename "${PROGRAM}" "$0.dayvane-replaced"
+  ${If} ${FileExists} "${PROGRAM}"
+    Delete "$0.dayvane-replaced" ; a copy
+  ${EndIf}
+  Pop $0
+  Pop $1
+FunctionEnd
 !macroend
+!insertmacro PUT_PROGRAM_AWAY_FUNCTION ""
+!insertmacro PUT_PROGRAM_AWAY_FUNCTION "un."
 
 Section
   SetOutPath "$INSTDIR"
-  !insertmacro MOVE_OLD_PROGRAM_AWAY
-  File "${BUILD}/dayvane.exe"
-  File "${BUILD}/Dayvane.hlp"
-  File /oname=License.txt "${SOURCE}/LICENSE"
+  Call PutProgramAway
+  File "${STAGE}/dayvane.exe"
+  File "${STAGE}/Dayvane.hlp"
+  File "${STAGE}/License.txt"
   WriteUninstaller "$INSTDIR\Uninstall.exe"
-  CreateShortcut "$SMPROGRAMS\${PRODUCT}.lnk" "$INSTDIR\dayvane.exe"
+  CreateShortcut "${START_MENU_LINK}" "${PROGRAM}"
   WriteRegStr HKCU "${UNINSTALL_KEY}" "DisplayName" "${PRODUCT}"
   WriteRegStr HKCU "${UNINSTALL_KEY}" "DisplayVersion" "${VERSION}"
-  WriteRegStr HKCU "${UNINSTALL_KEY}" "DisplayIcon" "$INSTDIR\dayvane.exe"
+  WriteRegStr HKCU "${UNINSTALL_KEY}" "DisplayIcon" "${PROGRAM}"
   WriteRegStr HKCU "${UNINSTALL_KEY}" "Publisher" "Korvath"
   WriteRegStr HKCU "${UNINSTALL_KEY}" "InstallLocation" "$INSTDIR"
   WriteRegStr HKCU "${UNINSTALL_KEY}" "UninstallString" '"$INSTDIR\Uninstall.exe"'
   WriteRegStr HKCU "${UNINSTALL_KEY}" "QuietUninstallString" '"$INSTDIR\Uninstall.exe" /S'
+  WriteRegDWORD HKCU "${UNINSTALL_KEY}" "EstimatedSize" ${KILOBYTES}
   WriteRegDWORD HKCU "${UNINSTALL_KEY}" "NoModify" 1
   WriteRegDWORD HKCU "${UNINSTALL_KEY}" "NoRepair" 1
 SectionEnd
 
+; Whoever removes the program expects it to end. Only the user ends it; without one to ask, it goes on until its end.
+Function un.AskToEndIt
+  ${DoUntil} ${Silent}
+    ClearErrors
+    Delete "${PROGRAM}"
+    ${IfNot} ${FileExists} "${PROGRAM}"
+      ${Break}
+    ${EndIf}
+    MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION "Dayvane is still running. Please end it (Exit in its menu), then click Retry." IDRETRY again
+    Abort
+    again:
+  ${Loop}
+FunctionEnd
+
 Section "Uninstall"
-  !insertmacro MOVE_OLD_PROGRAM_AWAY
+  Call un.AskToEndIt
+  Call un.PutProgramAway
   Delete "$INSTDIR\Dayvane.hlp"
   Delete "$INSTDIR\License.txt"
-  Delete "$INSTDIR\Uninstall.exe"
-  Delete "$SMPROGRAMS\${PRODUCT}.lnk"
+  Delete "${START_MENU_LINK}"
   DeleteRegKey HKCU "${UNINSTALL_KEY}"
   ; Gone only when it is empty: the record is the user's.
   SetOutPath "$TEMP"
+  Delete "$INSTDIR\Uninstall.exe"
   RMDir "$INSTDIR"
 SectionEnd

@@ -2,17 +2,11 @@
 
 import os
 import shutil
-import tarfile
 import tempfile
 import unittest
 from pathlib import Path
 
-from packages import PACKAGES, SOURCES, output, package
-
-
-def date_in_packages():
-    with tarfile.open(package("*.tar.gz")) as archive:
-        return int(archive.next().mtime)
+from packages import PACKAGES, SOURCES, date_in_packages, output
 
 
 class PackagesBuiltAgain(unittest.TestCase):

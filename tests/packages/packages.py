@@ -3,6 +3,7 @@
 import os
 import pathlib
 import subprocess
+import tarfile
 
 SOURCES = pathlib.Path(os.environ["DAYVANE_SOURCE_FOLDER"])
 PACKAGES = SOURCES / "build/packages"
@@ -28,3 +29,14 @@ def version():
     """The version of the build, without what belongs to a package."""
     cache = (SOURCES / "build/package/CMakeCache.txt").read_text(encoding="utf-8")
     return next(line.partition("=")[2] for line in cache.splitlines() if line.startswith("CMAKE_PROJECT_VERSION:"))
+
+
+def package_environment():
+    """What the commands that make packages are told, so that the dates are those of the packages here."""
+    return {**os.environ, "SOURCE_DATE_EPOCH": str(date_in_packages())}
+
+
+def date_in_packages():
+    """The date of every file in the packages, in seconds since 1970."""
+    with tarfile.open(package("*.tar.gz")) as archive:
+        return int(archive.next().mtime)

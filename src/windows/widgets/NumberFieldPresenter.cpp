@@ -14,6 +14,7 @@ namespace {
 constexpr int kUsualDigits = 8;
 constexpr int kArrowsWidth = 20;     ///< at 96 dots per inch
 constexpr int kRoomAboveNumber = 4;  ///< at 96 dots per inch, with the frame
+constexpr int kRoomOfCaret = 2;      ///< pixels that the system leaves above and below a line, together
 
 std::wstring TextOf(HWND window) {
   std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(window)), L'\0');
@@ -46,7 +47,7 @@ SIZE NumberFieldPresenter::IdealSize() const {
 void NumberFieldPresenter::Place(const RECT& place) {
   const int width = place.right - place.left;
   SetWindowPos(Handle(), nullptr, place.left, place.top, width, place.bottom - place.top,
-               SWP_NOZORDER | SWP_NOACTIVATE);
+               SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
   // The arrows take their room from the field.
   SendMessageW(m_arrows.Handle(), UDM_SETBUDDY, reinterpret_cast<WPARAM>(Handle()), 0);
 }
@@ -69,6 +70,7 @@ std::optional<LRESULT> NumberFieldPresenter::OnCommand(UINT code) {
 
 LRESULT NumberFieldPresenter::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   if (!m_isReady) return ChildWindow::OnMessage(message, wParam, lParam);
+  if (const auto answer = OnFrame(message, wParam, lParam)) return *answer;
   switch (message) {
     case WM_CHAR: {
       // Commands such as Ctrl+C come as characters too.
@@ -92,6 +94,41 @@ LRESULT NumberFieldPresenter::OnMessage(UINT message, WPARAM wParam, LPARAM lPar
       break;
   }
   return ChildWindow::OnMessage(message, wParam, lParam);
+}
+
+/// What is around the line of text; nothing for every other message.
+std::optional<LRESULT> NumberFieldPresenter::OnFrame(UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message != WM_NCCALCSIZE && message != WM_NCPAINT && message != WM_NCHITTEST) return std::nullopt;
+  const LRESULT answer = ChildWindow::OnMessage(message, wParam, lParam);
+  if (message == WM_NCCALCSIZE) NarrowToLine(*reinterpret_cast<RECT*>(lParam));  // the first thing in both its forms
+  if (message == WM_NCPAINT) FillAroundLine();
+  if (message == WM_NCHITTEST && (answer == HTNOWHERE || answer == HTBORDER)) return HTCLIENT;
+  return answer;
+}
+
+void NumberFieldPresenter::NarrowToLine(RECT& inside) const {
+  // The system draws a single line at the top of its room, however high that is: the line gets the middle of it.
+  const LONG line = CurrentLook()->TextHeight() + kRoomOfCaret;
+  const LONG above = (inside.bottom - inside.top - line) / 2;
+  if (above <= 0) return;
+  inside.top += above;
+  inside.bottom = inside.top + line;
+}
+
+void NumberFieldPresenter::FillAroundLine() const {
+  RECT frame{};
+  RECT line{};
+  GetWindowRect(Handle(), &frame);
+  GetClientRect(Handle(), &line);
+  MapWindowPoints(Handle(), nullptr, reinterpret_cast<POINT*>(&line), 2);
+  OffsetRect(&line, -frame.left, -frame.top);
+  const int edge = GetSystemMetricsForDpi(SM_CYEDGE, CurrentLook()->Dpi());
+  const RECT above{line.left, edge, line.right, line.top};
+  const RECT below{line.left, line.bottom, line.right, frame.bottom - frame.top - edge};
+  HDC device = GetWindowDC(Handle());
+  HBRUSH paper = GetSysColorBrush(IsWindowEnabled(Handle()) != 0 ? COLOR_WINDOW : COLOR_3DFACE);
+  for (const RECT& room : {above, below}) FillRect(device, &room, paper);
+  ReleaseDC(Handle(), device);
 }
 
 void NumberFieldPresenter::Turn(int delta) {

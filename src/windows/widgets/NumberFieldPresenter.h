@@ -41,6 +41,9 @@ class NumberFieldPresenter : public ChildWindow {
   /// A step for every one asked for, until one changes nothing: the end is reached, which is one beep and not many.
   void StepBy(int steps);
   void Turn(int delta);  ///< of the mouse wheel
+  std::optional<LRESULT> OnFrame(UINT message, WPARAM wParam, LPARAM lParam);
+  void NarrowToLine(RECT& inside) const;
+  void FillAroundLine() const;
   void ShowSelection();
 
   controls::TextBox& m_text;

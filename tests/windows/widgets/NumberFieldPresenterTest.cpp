@@ -104,6 +104,32 @@ TEST_F(NumberFieldPresenterTest, AFieldThatGetsTheKeyboardSaysSo) {
   EXPECT_EQ(SendMessageW(m_presenter.Handle(), EM_GETSEL, 0, 0), MAKELONG(0, 1));
 }
 
+TEST_F(NumberFieldPresenterTest, TheNumberStandsInTheMiddleHoweverLargeItsScreenDrawsIt) {
+  for (const UINT dpi : {96U, 144U, 192U}) {
+    const auto look = std::make_shared<Look>(dpi);
+    m_presenter.SetLook(look);
+    const LONG height = m_presenter.IdealSize().cy;
+    m_presenter.Place({10, 10, 200, 10 + height});
+    POINT number{};
+    ClientToScreen(m_presenter.Handle(), &number);
+    number.y += GET_Y_LPARAM(SendMessageW(m_presenter.Handle(), EM_POSFROMCHAR, 0, 0));
+    RECT field{};
+    GetWindowRect(m_presenter.Handle(), &field);
+
+    EXPECT_NEAR(number.y - field.top, field.bottom - number.y - look->TextHeight(), 2) << dpi;
+  }
+}
+
+TEST_F(NumberFieldPresenterTest, AClickAboveTheNumberIsOneInTheField) {
+  m_presenter.Place({10, 10, 200, 110});
+  RECT field{};
+  GetWindowRect(m_presenter.Handle(), &field);
+
+  const LRESULT hit = SendMessageW(m_presenter.Handle(), WM_NCHITTEST, 0, MAKELPARAM(field.left + 8, field.top + 8));
+
+  EXPECT_EQ(hit, HTCLIENT);
+}
+
 TEST_F(NumberFieldPresenterTest, FieldAndArrowsShareTheirPlaceHoweverOftenTheyGetIt) {
   m_presenter.Place({10, 10, 110, 34});
   RECT field{};

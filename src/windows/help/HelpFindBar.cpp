@@ -42,11 +42,11 @@ HelpFindBar::HelpFindBar(HWND parent, const widgets::SharedLook& look, RichPage&
       m_previous(Button(), Handle(), look),
       m_notFound(Label(), Handle(), look),
       m_close(Button(), Handle(), look) {
-  m_caption.SetSpokenName("Find in &page:");
-  m_next.SetSpokenName("&Next");
-  m_previous.SetSpokenName("P&revious");
-  m_notFound.SetSpokenName("Not found");
-  m_close.SetSpokenName("&Close");
+  widgets::SetText(m_caption.Handle(), "Find in &page:");
+  widgets::SetText(m_next.Handle(), "&Next");
+  widgets::SetText(m_previous.Handle(), "P&revious");
+  widgets::SetText(m_notFound.Handle(), "Not found");
+  widgets::SetText(m_close.Handle(), "&Close");
   m_notFound.SetVisible(false);
   m_words.Commanded = [this](UINT code) {
     if (code == EN_CHANGE) FindWhileTyping();

@@ -7,6 +7,7 @@
 #include "controls/Deferred.h"
 #include "windows/files/SystemError.h"
 #include "windows/widgets/Guard.h"
+#include "windows/widgets/SpokenName.h"
 #include "windows/widgets/Window.h"
 
 namespace dayvane::widgets {
@@ -22,9 +23,9 @@ UINT ReflectedMessage() {
 }
 
 struct Reflected {
-  UINT message;
-  WPARAM wParam;
-  LPARAM lParam;
+  UINT message = WM_NULL;
+  WPARAM wParam = 0;
+  LPARAM lParam = 0;
   std::optional<LRESULT> answer;
 };
 
@@ -60,6 +61,7 @@ ChildWindow::ChildWindow(controls::Control& control, const Kind& kind, HWND pare
 
 ChildWindow::~ChildWindow() {
   if (m_handle == nullptr) return;
+  if (m_isNamed) ForgetSpokenName(m_handle);
   RemoveWindowSubclass(m_handle, &ChildWindow::Procedure, kSubclass);
   DestroyWindow(m_handle);
 }
@@ -72,6 +74,8 @@ void ChildWindow::SetLook(const SharedLook& look) {
 
 void ChildWindow::SetSpokenName(const std::string& name) {
   SetText(m_handle, name);
+  SpeakName(m_handle, name);
+  m_isNamed = true;
 }
 
 void ChildWindow::Show() {
@@ -108,6 +112,7 @@ LRESULT ChildWindow::Answer(UINT message, WPARAM wParam, LPARAM lParam) {
 LRESULT CALLBACK ChildWindow::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR /*id*/,
                                         DWORD_PTR self) {
   auto* child = reinterpret_cast<ChildWindow*>(self);
+  if (message == WM_DESTROY && child->m_isNamed) ForgetSpokenName(window);
   if (message == WM_NCDESTROY) {
     RemovePropW(window, kHelpIdProperty);
     RemoveWindowSubclass(window, &ChildWindow::Procedure, kSubclass);

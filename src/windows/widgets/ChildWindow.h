@@ -72,6 +72,7 @@ class ChildWindow {
   controls::Control& m_control;
   SharedLook m_look;
   HWND m_handle = nullptr;
+  bool m_isNamed = false;  ///< for screen readers
   std::vector<controls::Connection> m_connections;
 };
 

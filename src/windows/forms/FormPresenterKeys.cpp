@@ -6,21 +6,9 @@
 
 #include "controls/Keys.h"
 #include "windows/forms/FormPresenter.h"
+#include "windows/widgets/Keys.h"
 
 namespace dayvane::widgets {
-
-namespace {
-
-bool IsDown(int key) {
-  return GetKeyState(key) < 0;
-}
-
-int ModifiersDown() {
-  return (IsDown(VK_SHIFT) ? controls::kShiftMask : 0) | (IsDown(VK_CONTROL) ? controls::kCtrlMask : 0) |
-         (IsDown(VK_MENU) ? controls::kAltMask : 0);
-}
-
-}  // namespace
 
 bool FormPresenter::Translate(MSG& message) {
   const HWND window = Handle();
@@ -46,7 +34,7 @@ bool FormPresenter::Translate(MSG& message) {
 
 bool FormPresenter::KeyDown(const MSG& message) {
   m_pressedKey = 0;
-  if (message.wParam == VK_F1 && ModifiersDown() == controls::kShiftMask) {
+  if (message.wParam == VK_F1 && ModifiersNow() == controls::kShiftMask) {
     m_whatsThis.ExplainFocus();
     return true;
   }
@@ -59,8 +47,8 @@ bool FormPresenter::KeyDown(const MSG& message) {
 }
 
 bool FormPresenter::MoveFocus(const MSG& message) const {
-  if (message.wParam != VK_TAB || (ModifiersDown() & ~controls::kShiftMask) != 0) return false;
-  const HWND next = GetNextDlgTabItem(Handle(), GetFocus(), IsDown(VK_SHIFT) ? TRUE : FALSE);
+  if (message.wParam != VK_TAB || (ModifiersNow() & ~controls::kShiftMask) != 0) return false;
+  const HWND next = GetNextDlgTabItem(Handle(), GetFocus(), ModifiersNow() == controls::kShiftMask ? TRUE : FALSE);
   if (next == nullptr) return false;
   SetFocus(next);
   return true;
@@ -68,7 +56,7 @@ bool FormPresenter::MoveFocus(const MSG& message) const {
 
 bool FormPresenter::KeyUp(const MSG& message) {
   if (message.wParam != std::exchange(m_pressedKey, 0)) return false;
-  m_form.KeyUp.Raise(static_cast<int>(message.wParam), ModifiersDown());
+  m_form.KeyUp.Raise(static_cast<int>(message.wParam), ModifiersNow());
   // What the form did may have been to end this window.
   return IsWindow(message.hwnd) == 0;
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "windows/help/HelpNavigation.h"
 
+#include "base/ScopedValue.h"
 #include "base/Text.h"
 #include "windows/files/WideText.h"
 
@@ -13,18 +14,6 @@ constexpr int kMargin = 6;
 std::wstring WideTitle(const std::string& text) {
   return files::ToWide(text).value_or(L"");
 }
-
-/// What happens to the tree until the end of this is not the user's doing.
-class Quietly {
- public:
-  explicit Quietly(bool& quiet) : m_quiet(quiet) { m_quiet = true; }
-  Quietly(const Quietly&) = delete;
-  Quietly& operator=(const Quietly&) = delete;
-  ~Quietly() { m_quiet = false; }
-
- private:
-  bool& m_quiet;
-};
 
 }  // namespace
 
@@ -59,7 +48,7 @@ void HelpNavigation::SetHelpFile(const HelpFile& file) {
 }
 
 void HelpNavigation::BuildTree() {
-  const Quietly quietly(m_quiet);
+  const ScopedValue quiet(m_quiet, true);
   m_items.clear();
   m_tree.Send(WM_SETREDRAW, FALSE);
   m_tree.Send(TVM_DELETEITEM, 0, reinterpret_cast<LPARAM>(TVI_ROOT));
@@ -97,7 +86,7 @@ void HelpNavigation::SetLook(const widgets::SharedLook& look) {
 }
 
 void HelpNavigation::MarkTopic(const std::string& name) {
-  const Quietly quietly(m_quiet);
+  const ScopedValue quiet(m_quiet, true);
   const auto found = m_items.find(name);
   const HTREEITEM item = found == m_items.end() ? nullptr : found->second;
   m_tree.Send(TVM_SELECTITEM, TVGN_CARET, reinterpret_cast<LPARAM>(item));

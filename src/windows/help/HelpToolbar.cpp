@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "resources/MResourceConstants.h"
-#include "windows/widgets/Window.h"
+#include "windows/widgets/Pictures.h"
 
 namespace dayvane::help {
 
@@ -22,9 +22,9 @@ int DrawnSide(int wanted) {
 }
 
 struct ToolbarButton {
-  HelpCommand command;
-  int icon;
-  const wchar_t* text;  ///< its name for screen readers, which appears when the pointer rests on it
+  HelpCommand command{};
+  int icon = 0;
+  const wchar_t* text = nullptr;  ///< its name for screen readers, which appears when the pointer rests on it
   bool beginsGroup = false;
 };
 
@@ -73,10 +73,10 @@ void HelpToolbar::AddButtons() const {
 
 void HelpToolbar::DrawImages() {
   const int side = DrawnSide(CurrentLook()->Pixels(kIconSide));
-  Images images(ImageList_Create(side, side, ILC_COLOR32 | ILC_MASK, static_cast<int>(kButtons.size()), 0));
+  widgets::ImageListHandle images(
+      ImageList_Create(side, side, ILC_COLOR32 | ILC_MASK, static_cast<int>(kButtons.size()), 0));
   for (const ToolbarButton& row : kButtons) {
-    const widgets::Icon icon(static_cast<HICON>(
-        LoadImageW(widgets::ThisModule(), MAKEINTRESOURCEW(row.icon), IMAGE_ICON, side, side, LR_DEFAULTCOLOR)));
+    const widgets::Icon icon = widgets::PictureIcon(row.icon, side);
     ImageList_ReplaceIcon(images.get(), -1, icon.get());
   }
   Send(TB_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(images.get()));

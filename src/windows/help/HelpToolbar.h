@@ -17,12 +17,10 @@ class HelpToolbar : public HelpPart {
   void SetLook(const widgets::SharedLook& look) override;
 
  private:
-  using Images = widgets::Drawing<HIMAGELIST, &ImageList_Destroy>;
-
   void AddButtons() const;
   void DrawImages();
 
-  Images m_images;
+  widgets::ImageListHandle m_images;
 };
 
 }  // namespace dayvane::help

@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "windows/widgets/Icons.h"
 
-#include <array>
-#include <charconv>
-#include <optional>
-#include <string_view>
+#include <utility>
 
 #include "resources/MResourceConstants.h"
+#include "windows/launch/SystemIcon.h"
 #include "windows/widgets/Pictures.h"
 
 namespace dayvane::widgets {
@@ -20,16 +18,6 @@ std::string NameOf(const controls::Picture& picture) {
   std::string name = std::to_string(picture.resource);
   for (const std::string& icon : picture.iconNames) name += '\n' + icon;
   return name;
-}
-
-std::optional<int> SystemIndex(std::string_view name) {
-  constexpr std::string_view kPrefix = kSystemIconPrefix;
-  if (!name.starts_with(kPrefix)) return std::nullopt;
-  name.remove_prefix(kPrefix.size());
-  int index = 0;
-  const auto [end, error] = std::from_chars(name.data(), name.data() + name.size(), index);
-  if (error != std::errc() || end != name.data() + name.size() || index < 0) return std::nullopt;
-  return index;
 }
 
 int WidthOf(HIMAGELIST images) {
@@ -71,7 +59,7 @@ Icon SystemIcon(int index, int pixels) {
 
 Icon FindIcon(const controls::Picture& picture, int pixels) {
   for (const std::string& name : picture.iconNames)
-    if (const auto index = SystemIndex(name))
+    if (const auto index = launch::SystemIconIndex(name))
       if (Icon icon = SystemIcon(*index, pixels)) return icon;
   if (Icon own = PictureIcon(picture.resource, pixels)) return own;
   return PictureIcon(kDefaultDocumentPicture, pixels);

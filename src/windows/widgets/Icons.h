@@ -10,11 +10,9 @@
 
 namespace dayvane::widgets {
 
-/// What the icon of a picture is called that is image <number> of the shell's own image lists: "system:<number>".
-inline constexpr const char* kSystemIconPrefix = "system:";
-
 /// The controls' pictures as the system's controls draw them: images of one list for every size in pixels, which grows
-/// as new pictures are asked for. A picture that has no icon shows as a plain document.
+/// as new pictures are asked for. Icons of the system are known by their names (launch/SystemIcon.h). A picture that
+/// has no icon shows as a plain document.
 class Icons {
  public:
   /// The list of the images of this size; lives as long as this.

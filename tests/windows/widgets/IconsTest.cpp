@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "resources/MResourceConstants.h"
+#include "windows/launch/SystemIcon.h"
 #include "windows/widgets/Icons.h"
 #include "windows/widgets/Pictures.h"
 
@@ -57,7 +58,7 @@ TEST(WindowsIcons, AnIconOfTheShellStandsAmongTheProgramsOwn) {
                  SHGFI_SYSICONINDEX | SHGFI_USEFILEATTRIBUTES | SHGFI_SMALLICON);
 
   const int own = icons.IndexOf({{}, kDefaultDocumentPicture}, 16);
-  const int shells = icons.IndexOf({{kSystemIconPrefix + std::to_string(info.iIcon)}, 0}, 16);
+  const int shells = icons.IndexOf({{launch::SystemIconName(info.iIcon)}, 0}, 16);
 
   EXPECT_NE(shells, own);
   EXPECT_GE(shells, 0);

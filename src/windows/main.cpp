@@ -93,8 +93,8 @@ int Run(const std::string& programFolder) {
 int Start() {
   const INITCOMMONCONTROLSEX classes{sizeof classes, ICC_WIN95_CLASSES | ICC_STANDARD_CLASSES | ICC_DATE_CLASSES};
   InitCommonControlsEx(&classes);
-  SetErrorMode(
-      SEM_FAILCRITICALERRORS);  // a drive without a disk is an error like any other, and no box of the system's
+  // A drive without a disk is an error like any other, and no box of the system's.
+  SetErrorMode(SEM_FAILCRITICALERRORS);
   const std::string folder = ProgramFolder();
   if (CanBeWritten(folder)) return Run(folder);
   return Refuse("Dayvane keeps its record beside itself, and nothing can be written in its folder:\r\n\r\n" + folder +

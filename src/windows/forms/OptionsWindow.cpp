@@ -61,9 +61,9 @@ LONG OptionsWindow::PlaceFields(LONG margin, LONG labels) const {
 
 LONG OptionsWindow::PlaceButtons(LONG right, LONG top) const {
   LONG bottom = top;
-  for (auto button = m_buttons.rbegin(); button != m_buttons.rend(); ++button) {
-    const SIZE size = (*button)->IdealSize();
-    PlaceChild(**button, {right - size.cx, top}, size);
+  for (std::size_t i = m_buttons.size(); i-- > 0;) {
+    const SIZE size = m_buttons[i]->IdealSize();
+    PlaceChild(*m_buttons[i], {right - size.cx, top}, size);
     right -= size.cx + CurrentLook()->Pixels(kButtonGap);
     bottom = std::max(bottom, top + size.cy);
   }

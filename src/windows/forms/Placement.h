@@ -25,7 +25,7 @@ class Placement {
  private:
   struct Child {
     const controls::Control& control;
-    HWND window;
+    HWND window = nullptr;
     controls::Connection changed;
   };
 

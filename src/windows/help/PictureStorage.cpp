@@ -3,7 +3,7 @@
 
 namespace dayvane::help {
 
-HRESULT PictureStorage::QueryInterface(REFIID interfaceId, void** result) {
+HRESULT PictureStorage::QueryInterface(REFIID interfaceId, void** result) noexcept {
   *result = nullptr;
   if (interfaceId != IID_IUnknown && interfaceId != IID_IRichEditOleCallback) return E_NOINTERFACE;
   *result = static_cast<IRichEditOleCallback*>(this);
@@ -11,13 +11,13 @@ HRESULT PictureStorage::QueryInterface(REFIID interfaceId, void** result) {
   return S_OK;
 }
 
-ULONG PictureStorage::Release() {
+ULONG PictureStorage::Release() noexcept {
   const ULONG count = --m_count;
   if (count == 0) delete this;
   return count;
 }
 
-HRESULT PictureStorage::GetNewStorage(IStorage** storage) {
+HRESULT PictureStorage::GetNewStorage(IStorage** storage) noexcept {
   *storage = nullptr;
   ILockBytes* bytes = nullptr;
   if (const HRESULT made = CreateILockBytesOnHGlobal(nullptr, TRUE, &bytes); FAILED(made)) return made;

@@ -15,42 +15,44 @@ namespace dayvane::help {
 
 /// Gives the system's rich text memory to keep pictures in; without it, it shows none. It is counted like every object
 /// of COM and belongs to whoever asks for it.
-class PictureStorage : public IRichEditOleCallback {
+class PictureStorage final : public IRichEditOleCallback {
  public:
-  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID interfaceId, void** result) override;
-  ULONG STDMETHODCALLTYPE AddRef() override { return ++m_count; }
-  ULONG STDMETHODCALLTYPE Release() override;
+  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID interfaceId, void** result) noexcept override;
+  ULONG STDMETHODCALLTYPE AddRef() noexcept override { return ++m_count; }
+  ULONG STDMETHODCALLTYPE Release() noexcept override;
 
-  HRESULT STDMETHODCALLTYPE GetNewStorage(IStorage** storage) override;
-  HRESULT STDMETHODCALLTYPE QueryInsertObject(CLSID* /*kind*/, IStorage* /*storage*/, LONG /*place*/) override {
+  HRESULT STDMETHODCALLTYPE GetNewStorage(IStorage** storage) noexcept override;
+  HRESULT STDMETHODCALLTYPE QueryInsertObject(CLSID* /*kind*/, IStorage* /*storage*/,
+                                              LONG /*place*/) noexcept override {
     return S_OK;
   }
-  HRESULT STDMETHODCALLTYPE DeleteObject(IOleObject* /*object*/) override { return S_OK; }
+  HRESULT STDMETHODCALLTYPE DeleteObject(IOleObject* /*object*/) noexcept override { return S_OK; }
 
   // What is not wanted of a page that is only read.
   HRESULT STDMETHODCALLTYPE GetInPlaceContext(IOleInPlaceFrame** /*frame*/, IOleInPlaceUIWindow** /*document*/,
-                                              OLEINPLACEFRAMEINFO* /*information*/) override {
+                                              OLEINPLACEFRAMEINFO* /*information*/) noexcept override {
     return E_NOTIMPL;
   }
-  HRESULT STDMETHODCALLTYPE ShowContainerUI(BOOL /*show*/) override { return E_NOTIMPL; }
+  HRESULT STDMETHODCALLTYPE ShowContainerUI(BOOL /*show*/) noexcept override { return E_NOTIMPL; }
   HRESULT STDMETHODCALLTYPE QueryAcceptData(IDataObject* /*data*/, CLIPFORMAT* /*format*/, DWORD /*purpose*/,
-                                            BOOL /*really*/, HGLOBAL /*picture*/) override {
+                                            BOOL /*really*/, HGLOBAL /*picture*/) noexcept override {
     return E_FAIL;
   }
-  HRESULT STDMETHODCALLTYPE ContextSensitiveHelp(BOOL /*enter*/) override { return E_NOTIMPL; }
-  HRESULT STDMETHODCALLTYPE GetClipboardData(CHARRANGE* /*range*/, DWORD /*purpose*/, IDataObject** /*data*/) override {
+  HRESULT STDMETHODCALLTYPE ContextSensitiveHelp(BOOL /*enter*/) noexcept override { return E_NOTIMPL; }
+  HRESULT STDMETHODCALLTYPE GetClipboardData(CHARRANGE* /*range*/, DWORD /*purpose*/,
+                                             IDataObject** /*data*/) noexcept override {
     return E_NOTIMPL;
   }
-  HRESULT STDMETHODCALLTYPE GetDragDropEffect(BOOL /*drag*/, DWORD /*keys*/, DWORD* /*effect*/) override {
+  HRESULT STDMETHODCALLTYPE GetDragDropEffect(BOOL /*drag*/, DWORD /*keys*/, DWORD* /*effect*/) noexcept override {
     return E_NOTIMPL;
   }
   HRESULT STDMETHODCALLTYPE GetContextMenu(WORD /*selected*/, IOleObject* /*object*/, CHARRANGE* /*range*/,
-                                           HMENU* /*menu*/) override {
+                                           HMENU* /*menu*/) noexcept override {
     return E_NOTIMPL;
   }
 
  private:
-  virtual ~PictureStorage() = default;
+  ~PictureStorage() = default;
 
   ULONG m_count = 0;
 };

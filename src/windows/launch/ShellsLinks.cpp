@@ -71,7 +71,8 @@ std::string PathByShell(std::string_view bytes) {
   // Not every shell looks whether what an item tells of itself lies in the item. It then finds zeros, as far as 16 bits
   // reach.
   std::string list(items.Bytes());
-  list.resize(list.size() + 2 * 0x10000);
+  constexpr std::size_t kReachOf16Bits = 0x10000;
+  list.resize(list.size() + 2 * kReachOf16Bits);
   wchar_t path[MAX_PATH] = {};
   const auto* first = reinterpret_cast<const ITEMIDLIST*>(list.data());
   return SHGetPathFromIDListW(first, path) != 0 ? files::FromNative(path).value_or("") : "";

@@ -9,7 +9,7 @@
 namespace dayvane::widgets {
 
 /// Shows the status bar: its text, and at its end a picture while there is one to show.
-class StatusBarPresenter : public ChildWindow {
+class StatusBarPresenter final : public ChildWindow {
  public:
   StatusBarPresenter(controls::StatusBar& control, HWND parent, const SharedLook& look);
 

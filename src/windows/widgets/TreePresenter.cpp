@@ -84,7 +84,7 @@ HTREEITEM TreePresenter::SelectedInWindow() const {
 std::optional<RECT> TreePresenter::PlaceOf(HTREEITEM item, bool textAlone) const {
   if (item == nullptr) return std::nullopt;
   RECT place{};
-  std::memcpy(&place, &item, sizeof item);  // TVM_GETITEMRECT takes the item where it puts its place
+  std::memcpy(&place, &item, sizeof(HTREEITEM));  // TVM_GETITEMRECT takes the item where it puts its place
   if (SendMessageW(Handle(), TVM_GETITEMRECT, textAlone ? TRUE : FALSE, reinterpret_cast<LPARAM>(&place)) == 0)
     return std::nullopt;
   return place;

@@ -29,7 +29,7 @@ bool Holds(const std::string& text, const std::string& part) {
 /// The words after "\cellx" of the first row.
 std::vector<int> CellEnds(const std::string& richText) {
   std::vector<int> ends;
-  const auto rowEnd = richText.find("\n", richText.find("\\trowd"));
+  const auto rowEnd = richText.find('\n', richText.find("\\trowd"));
   for (auto at = richText.find("\\cellx"); at < rowEnd; at = richText.find("\\cellx", at + 1))
     ends.push_back(std::atoi(richText.c_str() + at + 6));
   return ends;

@@ -26,12 +26,12 @@ class RemoteMemory {
 
   template <class Value>
   void Write(const Value& value) {
-    WriteBytes(&value, sizeof value);
+    WriteBytes(&value, sizeof(Value));
   }
   template <class Value>
   Value Read() const {
     Value value{};
-    ReadBytes(&value, sizeof value, 0);
+    ReadBytes(&value, sizeof(Value), 0);
     return value;
   }
 

@@ -43,7 +43,7 @@ void EmptyRecentFolder() {
 
 /// In seconds since 1970, at this time of a day before today.
 std::int64_t MomentOf(int daysAgo) {
-  constexpr std::int64_t kDay = 24 * 3600;
+  constexpr std::int64_t kDay = 86400;
   const auto now = std::chrono::system_clock::now().time_since_epoch();
   return std::chrono::duration_cast<std::chrono::seconds>(now).count() - daysAgo * kDay;
 }

@@ -22,6 +22,7 @@ rm -f "$zip"
 (cd "$stage" && zip -X -9 -q "$zip" Dayvane/*)
 
 kilobytes=$(cat "$folder"/* | wc -c | awk '{ print int(($1 + 1023) / 1024) }')
+python3 -B scripts/draw_wizard_picture.py src/resources/pictures/logo.svg "$stage/wizard.bmp"
 makensis -V2 -WX -INPUTCHARSET UTF8 -DVERSION="$version" -DSTAGE="$folder" -DKILOBYTES="$kilobytes" \
-  -DICON="$build/resources/icons/dayvane.ico" -DOUTPUT="$output/dayvane-$version-windows-setup.exe" \
-  packaging/windows/dayvane.nsi
+  -DICON="$build/resources/icons/dayvane.ico" -DPICTURE="$stage/wizard.bmp" \
+  -DOUTPUT="$output/dayvane-$version-windows-setup.exe" packaging/windows/dayvane.nsi

@@ -2,7 +2,7 @@
 
 ; The installer for one user: no rights of an administrator, everything in one folder, where the program keeps the
 ; record beside itself. Called by scripts/package_windows.sh with /DVERSION=, /DSTAGE= (the folder of what is
-; installed), /DKILOBYTES= (its size), /DICON= and /DOUTPUT=.
+; installed), /DKILOBYTES= (its size), /DICON=, /DPICTURE= (at the left of the first and last page) and /DOUTPUT=.
 
 Unicode true
 Target amd64-unicode
@@ -36,10 +36,12 @@ VIAddVersionKey "CompanyName" "Korvath"
 VIAddVersionKey "LegalCopyright" "Copyright © 2026 The Dayvane authors"
 ManifestDPIAware true
 
-Var RunsOn ; "yes" when the program ran on while it was replaced
+Var Runs ; "yes" while the program runs, also when it was started before its file was replaced
 
 !define MUI_ICON "${ICON}"
 !define MUI_UNICON "${ICON}"
+!define MUI_WELCOMEFINISHPAGE_BITMAP "${PICTURE}"
+!define MUI_UNWELCOMEFINISHPAGE_BITMAP "${PICTURE}"
 !define MUI_ABORTWARNING
 
 !define MUI_WELCOMEPAGE_TEXT "Dayvane keeps a day-by-day record of the documents that you open. The record stays on this computer, in plain files, in the folder that the program is installed in.$\r$\n$\r$\nClick Next to continue."
@@ -52,6 +54,7 @@ Var RunsOn ; "yes" when the program ran on while it was replaced
 !define MUI_PAGE_CUSTOMFUNCTION_SHOW TellThatItRunsOn
 !insertmacro MUI_PAGE_FINISH
 
+!define MUI_UNCONFIRMPAGE_TEXT_TOP "The program will be removed from this folder. Your record stays there: the days, the favorites and the logs. Click Uninstall to begin."
 !insertmacro MUI_UNPAGE_CONFIRM
 !insertmacro MUI_UNPAGE_INSTFILES
 !define MUI_FINISHPAGE_TITLE "Dayvane has been removed"
@@ -72,23 +75,33 @@ FunctionEnd
 
 ; A second start would only say that the program runs.
 Function TellThatItRunsOn
-  ${If} $RunsOn == "yes"
+  ${If} $Runs == "yes"
     SendMessage $mui.FinishPage.Text ${WM_SETTEXT} 0 "STR:Dayvane ${VERSION} has been installed on your computer. The version that is running goes on until you end it (Exit in its menu); the next start is the new one.$\r$\n$\r$\nClick Finish to close Setup."
     SendMessage $mui.FinishPage.Run ${BM_SETCHECK} ${BST_UNCHECKED} 0
     ShowWindow $mui.FinishPage.Run ${SW_HIDE}
   ${EndIf}
 FunctionEnd
 
-; Makes room where the program lies. The file of a program that runs cannot be deleted, only moved, and is deleted at the
-; next occasion. It goes to the temporary files, so that a removal leaves nothing beside the record; where these are
-; on another disk, moving would copy it, and it stays in the folder under another name.
-!macro PUT_PROGRAM_AWAY_FUNCTION un
-Function ${un}PutProgramAway
+!macro PROGRAM_FUNCTIONS un
+; Deletes the predecessors of the program. One that still runs cannot be deleted, and is at the next occasion.
+Function ${un}DeleteReplaced
   Delete "$TEMP\${REPLACED}"
   Delete "$INSTDIR\${REPLACED}"
+  StrCpy $Runs "no"
+  ${If} ${FileExists} "$TEMP\${REPLACED}"
+  ${OrIf} ${FileExists} "$INSTDIR\${REPLACED}"
+    StrCpy $Runs "yes"
+  ${EndIf}
+FunctionEnd
+
+; Makes room where the program lies. The file of a program that runs can only be moved. It goes to the temporary files,
+; so that a removal leaves nothing beside the record; where these are on another disk, moving would copy it, and it stays
+; in the folder under another name.
+Function ${un}PutProgramAway
+  Call ${un}DeleteReplaced
   Delete "${PROGRAM}"
   ${If} ${FileExists} "${PROGRAM}"
-    StrCpy $RunsOn "yes"
+    StrCpy $Runs "yes"
     Push "$TEMP"
     Call ${un}MoveProgram
   ${EndIf}
@@ -117,8 +130,8 @@ Function ${un}MoveProgram
   Pop $1
 FunctionEnd
 !macroend
-!insertmacro PUT_PROGRAM_AWAY_FUNCTION ""
-!insertmacro PUT_PROGRAM_AWAY_FUNCTION "un."
+!insertmacro PROGRAM_FUNCTIONS ""
+!insertmacro PROGRAM_FUNCTIONS "un."
 
 Section
   SetOutPath "$INSTDIR"
@@ -143,10 +156,12 @@ SectionEnd
 ; Whoever removes the program expects it to end. Only the user ends it; without one to ask, it goes on until its end.
 Function un.AskToEndIt
   ${DoUntil} ${Silent}
-    ClearErrors
-    Delete "${PROGRAM}"
-    ${IfNot} ${FileExists} "${PROGRAM}"
-      ${Break}
+    Call un.DeleteReplaced
+    ${If} $Runs == "no"
+      Delete "${PROGRAM}"
+      ${IfNot} ${FileExists} "${PROGRAM}"
+        ${Break}
+      ${EndIf}
     ${EndIf}
     MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION "Dayvane is still running. Please end it (Exit in its menu), then click Retry." IDRETRY again
     Abort

@@ -90,7 +90,8 @@ void FormPresenter::Later(WPARAM what) {
 
 void FormPresenter::DoLater(WPARAM what) {
   if (what == kTellState) TellState();
-  if (what == kTellActivated) m_form.Activate.Raise();
+  // A program that is ended from elsewhere may come to the front by just that.
+  if (what == kTellActivated && !m_form.IsUnloaded()) m_form.Activate.Raise();
   if (what == kClose) m_deferred.AfterWorkAndQuestions([this] { RequestUnload(UnloadMode::Code); });
   if (what == kEnterWhatsThis) m_whatsThis.Enter();
 }

@@ -7,6 +7,7 @@ namespace dayvane::widgets {
 namespace {
 
 using controls::UnloadMode;
+using dayvane::testing::RunMessages;
 using dayvane::testing::Soon;
 using dayvane::testing::WaitUntil;
 using ::testing::ElementsAre;
@@ -29,6 +30,18 @@ TEST_F(WindowsFormPresenterTest, AClosedWindowIsAFormThatIsGone) {
 
   EXPECT_FALSE(IsWindowVisible(Handle()));
   EXPECT_TRUE(m_form.IsUnloaded());
+}
+
+TEST_F(WindowsFormPresenterTest, AFormThatIsGoneIsNotToldOfAnActivation) {
+  Open();
+  int activations = 0;
+  m_form.Activate.Connect([&] { ++activations; });
+  SendMessageW(Handle(), WM_ACTIVATE, WA_ACTIVE, 0);
+
+  SendMessageW(Handle(), WM_SYSCOMMAND, SC_CLOSE, 0);
+  RunMessages();
+
+  EXPECT_EQ(activations, 0);
 }
 
 TEST_F(WindowsFormPresenterTest, AProgramThatEndsOthersIsToldApartFromTheCloseBox) {

@@ -69,10 +69,9 @@ std::string Contents(const FileHandle& file, std::uint64_t expected, std::size_t
 bool TouchIfSame(const Place& place, std::string_view bytes) {
   if (GetFileAttributesW(place.native.c_str()) == INVALID_FILE_ATTRIBUTES) return false;
   try {
-    BY_HANDLE_FILE_INFORMATION information{};
-    const FileHandle file = OpenFile(place, GENERIC_READ | FILE_WRITE_ATTRIBUTES, OPEN_EXISTING, information);
-    if (information.nNumberOfLinks != 1) return false;
-    if (Joined(information.nFileSizeHigh, information.nFileSizeLow) != bytes.size()) return false;
+    const FileHandle file = OpenFile(place, GENERIC_READ | FILE_WRITE_ATTRIBUTES, OPEN_EXISTING).handle;
+    const FILE_STANDARD_INFO told = SizeAndNames(file, place.named);
+    if (told.NumberOfLinks != 1 || static_cast<std::uint64_t>(told.EndOfFile.QuadPart) != bytes.size()) return false;
     if (Contents(file, bytes.size(), bytes.size(), place.named) != bytes) return false;
     FILETIME now{};
     GetSystemTimeAsFileTime(&now);
@@ -153,10 +152,9 @@ std::vector<DirectoryEntry> WindowsFileSystem::List(const std::string& folder) {
 }
 
 FileContents WindowsFileSystem::Read(const std::string& path, std::size_t limit) {
-  BY_HANDLE_FILE_INFORMATION information{};
-  const FileHandle file = OpenFile(PlaceOf(path), GENERIC_READ, OPEN_EXISTING, information);
-  const std::uint64_t size = Joined(information.nFileSizeHigh, information.nFileSizeLow);
-  return {Contents(file, size, limit, path), MomentOf(information.ftLastWriteTime)};
+  const OpenedFile file = OpenFile(PlaceOf(path), GENERIC_READ, OPEN_EXISTING);
+  const auto size = static_cast<std::uint64_t>(SizeAndNames(file.handle, path).EndOfFile.QuadPart);
+  return {Contents(file.handle, size, limit, path), MomentOf(file.written)};
 }
 
 void WindowsFileSystem::Replace(const std::string& path, std::string_view bytes) {
@@ -175,22 +173,20 @@ void WindowsFileSystem::ReplaceUnflushed(const std::string& path, std::string_vi
 }
 
 void WindowsFileSystem::Copy(const std::string& source, const std::string& destination) {
-  BY_HANDLE_FILE_INFORMATION information{};
-  const FileHandle from = OpenFile(PlaceOf(source), GENERIC_READ, OPEN_EXISTING, information);
+  const OpenedFile from = OpenFile(PlaceOf(source), GENERIC_READ, OPEN_EXISTING);
   UnfinishedFile to(PlaceOf(destination));
   char buffer[65536];
   for (std::size_t count = sizeof buffer; count == sizeof buffer;) {
-    count = ReadUpTo(from, buffer, sizeof buffer, source);
+    count = ReadUpTo(from.handle, buffer, sizeof buffer, source);
     to.Write({buffer, count});
   }
-  to.SetWritten(information.ftLastWriteTime);
+  to.SetWritten(from.written);
   to.Finish();
 }
 
 void WindowsFileSystem::Append(const std::string& path, std::string_view text) {
   constexpr DWORD kAppend = FILE_APPEND_DATA | FILE_READ_ATTRIBUTES | SYNCHRONIZE;
-  BY_HANDLE_FILE_INFORMATION information{};
-  const FileHandle file = OpenFile(PlaceOf(path), kAppend, OPEN_ALWAYS, information);
+  const FileHandle file = OpenFile(PlaceOf(path), kAppend, OPEN_ALWAYS).handle;
   WriteAll(file, text, path);
 }
 

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 #include "base/Error.h"
 #include "windows/files/NativePath.h"
@@ -30,19 +31,25 @@ bool RemoveOnce(const std::wstring& native, DWORD attributes) {
   return (isFolderLink ? RemoveDirectoryW(native.c_str()) : DeleteFileW(native.c_str())) != 0;
 }
 
-/// A file that is kept in a special way is opened as what it seems to be; everything else as what it is, so that a link
-/// is not followed.
-DWORD OpeningFlags(const std::wstring& native) {
-  const std::uint32_t tag = ReparseTagOf(native);
-  const bool isSpecial = tag != 0 && !IsReparseTagNameSurrogate(tag);
-  return FILE_ATTRIBUTE_NORMAL | (isSpecial ? 0 : FILE_FLAG_OPEN_REPARSE_POINT);
+/// The reparse tag of what is open; 0 where there is none.
+std::uint32_t ReparseTagOf(const FileHandle& file, DWORD attributes) {
+  FILE_ATTRIBUTE_TAG_INFO tag{};
+  const bool isTagged = (attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0 &&
+                        GetFileInformationByHandleEx(file.Get(), FileAttributeTagInfo, &tag, sizeof tag) != 0;
+  return isTagged ? tag.ReparseTag : 0;
 }
 
-bool IsOpenLink(const FileHandle& file, const BY_HANDLE_FILE_INFORMATION& information) {
-  FILE_ATTRIBUTE_TAG_INFO tag{};
-  return (information.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0 &&
-         GetFileInformationByHandleEx(file.Get(), FileAttributeTagInfo, &tag, sizeof tag) != 0 &&
-         KindOf(information.dwFileAttributes, tag.ReparseTag) == EntryKind::Link;
+FileHandle OpenWith(const Place& place, std::uint32_t access, std::uint32_t disposition, DWORD flags) {
+  constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+  FileHandle file(INVALID_HANDLE_VALUE);
+  const std::uint32_t systemError = Persist([&] {
+    file = FileHandle(CreateFileW(place.native.c_str(), access, kShareAll, nullptr, disposition, flags, nullptr));
+    return file.IsOpen();
+  });
+  const bool isFolder = systemError == ERROR_ACCESS_DENIED && IsFolder(place.native);
+  if (systemError != ERROR_SUCCESS && !isFolder) Fail(systemError, place.named);
+  if (isFolder || GetFileType(file.Get()) != FILE_TYPE_DISK) throw Error(kPathFileAccess, "Not a file", place.named);
+  return file;
 }
 
 }  // namespace
@@ -65,21 +72,26 @@ std::uint32_t Persist(const std::function<bool()>& attempt) {
   }
 }
 
-FileHandle OpenFile(const Place& place, std::uint32_t access, std::uint32_t disposition,
-                    BY_HANDLE_FILE_INFORMATION& information) {
-  constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
-  const DWORD flags = OpeningFlags(place.native);
-  FileHandle file(INVALID_HANDLE_VALUE);
-  const std::uint32_t systemError = Persist([&] {
-    file = FileHandle(CreateFileW(place.native.c_str(), access, kShareAll, nullptr, disposition, flags, nullptr));
-    return file.IsOpen();
-  });
-  const bool isFolder = systemError == ERROR_ACCESS_DENIED && IsFolder(place.native);
-  if (systemError != ERROR_SUCCESS && !isFolder) Fail(systemError, place.named);
-  if (isFolder || GetFileType(file.Get()) != FILE_TYPE_DISK) throw Error(kPathFileAccess, "Not a file", place.named);
-  if (GetFileInformationByHandle(file.Get(), &information) == 0) Fail(place.named);
-  if (IsOpenLink(file, information)) throw Error(kPathFileAccess, "Not a file", place.named);
-  return file;
+// Not by GetFileInformationByHandle, which also asks for the disk that the file lies on. That takes longer than the
+// rest.
+OpenedFile OpenFile(const Place& place, std::uint32_t access, std::uint32_t disposition) {
+  // As what it is, so that a link is not followed.
+  FileHandle file = OpenWith(place, access, disposition, FILE_ATTRIBUTE_NORMAL | FILE_FLAG_OPEN_REPARSE_POINT);
+  FILE_BASIC_INFO information{};
+  if (GetFileInformationByHandleEx(file.Get(), FileBasicInfo, &information, sizeof information) == 0) Fail(place.named);
+  const std::uint32_t tag = ReparseTagOf(file, information.FileAttributes);
+  if (KindOf(information.FileAttributes, tag) == EntryKind::Link)
+    throw Error(kPathFileAccess, "Not a file", place.named);
+  // A file that is kept in a special way, such as in a cloud, has its bytes only as what it seems to be.
+  if (tag != 0) file = OpenWith(place, access, disposition, FILE_ATTRIBUTE_NORMAL);
+  const LARGE_INTEGER written = information.LastWriteTime;
+  return {std::move(file), {written.LowPart, static_cast<DWORD>(written.HighPart)}};
+}
+
+FILE_STANDARD_INFO SizeAndNames(const FileHandle& file, const std::string& path) {
+  FILE_STANDARD_INFO information{};
+  if (GetFileInformationByHandleEx(file.Get(), FileStandardInfo, &information, sizeof information) == 0) Fail(path);
+  return information;
 }
 
 void WriteAll(const FileHandle& file, std::string_view bytes, const std::string& path) {

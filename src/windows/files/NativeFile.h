@@ -25,9 +25,17 @@ Place PlaceOf(const std::string& path);
 /// for some milliseconds, and all that can be done is to try again. Returns the system's error, 0 for success.
 std::uint32_t Persist(const std::function<bool()>& attempt);
 
+/// A file that was opened, with its moment.
+struct OpenedFile {
+  FileHandle handle;
+  FILETIME written;
+};
+
 /// Opens a file and nothing else; a link in its place is not followed.
-FileHandle OpenFile(const Place& place, std::uint32_t access, std::uint32_t disposition,
-                    BY_HANDLE_FILE_INFORMATION& information);
+OpenedFile OpenFile(const Place& place, std::uint32_t access, std::uint32_t disposition);
+
+/// The size of an open file, and how many names it has.
+FILE_STANDARD_INFO SizeAndNames(const FileHandle& file, const std::string& path);
 
 void WriteAll(const FileHandle& file, std::string_view bytes, const std::string& path);
 

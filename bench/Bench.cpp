@@ -11,7 +11,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "links/ShellLinkFormat.h"
+#include "bench/MadeUpDocuments.h"
 #include "tests/support/System.h"
 
 namespace dayvane {
@@ -22,22 +22,6 @@ constexpr std::int64_t kLastYear = 2026;
 constexpr std::int64_t kDaysOfMonth = 28;  // every month has them
 constexpr std::int64_t kMonths = 12;
 constexpr std::int64_t kDaysPerDocument = 5;
-
-std::string DocumentName(std::int64_t document) {
-  static const char* const kExtensions[] = {"odt", "pdf", "txt", "png", "ods"};
-  return "Document number " + std::to_string(document) + "." + kExtensions[document % 5];
-}
-
-std::string ShortcutName(std::int64_t document) {
-  return DocumentName(document) + ".lnk";
-}
-
-std::string LinkBytes(std::int64_t document) {
-  platform::ShellLink link;
-  link.workingDirectory = "Z:\\home\\ana\\Documents\\project " + std::to_string(document % 100);
-  link.target = link.workingDirectory + "\\" + DocumentName(document);
-  return links::WriteShellLink(link);
-}
 
 /// "2017/January/01" for day 0 of the ten years up to 2026.
 std::string DayFolder(std::int64_t day, std::int64_t years) {

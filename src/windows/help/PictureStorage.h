@@ -15,7 +15,7 @@ namespace dayvane::help {
 
 /// Gives the system's rich text memory to keep pictures in; without it, it shows none. It is counted like every object
 /// of COM and belongs to whoever asks for it.
-class PictureStorage final : public IRichEditOleCallback {
+class PictureStorage final : public IRichEditOleCallback {  // NOLINT(*-virtual-class-destructor): it ends itself
  public:
   HRESULT STDMETHODCALLTYPE QueryInterface(REFIID interfaceId, void** result) noexcept override;
   ULONG STDMETHODCALLTYPE AddRef() noexcept override { return ++m_count; }

@@ -26,7 +26,7 @@ class RemoteMemory {
 
   template <class Value>
   void Write(const Value& value) {
-    WriteBytes(&value, sizeof(Value));
+    WriteBytes(&value, sizeof(Value));  // NOLINT(bugprone-sizeof-expression): an item of a tree is a pointer
   }
   template <class Value>
   Value Read() const {

@@ -19,7 +19,6 @@ namespace {
 constexpr UINT_PTR kInsideSubclass = 2;  // ChildWindow's is another one
 constexpr UINT_PTR kEndTimer = 0x3E0D;   // beside those that a window has for itself
 constexpr UINT kLookAgainMilliseconds = 50;
-constexpr WPARAM kSystemCommandMask = 0xFFF0;  // the low bits are the system's own (documentation of WM_SYSCOMMAND)
 
 enum LaterAct : WPARAM { kTellState, kTellActivated, kClose, kEnterWhatsThis };
 

@@ -9,7 +9,6 @@
 #include "windows/forms/ScreenFit.h"
 #include "windows/widgets/DayWords.h"
 #include "windows/widgets/Lengths.h"
-#include "windows/widgets/Pictures.h"
 
 namespace dayvane::widgets {
 
@@ -160,13 +159,7 @@ void MainWindow::ShowSuspended() {
 
 void MainWindow::ShowIcon() {
   const int picture = m_showsSuspended.value_or(false) ? kSuspendedIcon : kNormalIcon;
-  const UINT dpi = CurrentLook()->Dpi();
-  Icon large = PictureIcon(picture, GetSystemMetricsForDpi(SM_CXICON, dpi));
-  Icon small = PictureIcon(picture, GetSystemMetricsForDpi(SM_CXSMICON, dpi));
-  SendMessageW(Handle(), WM_SETICON, ICON_BIG, reinterpret_cast<LPARAM>(large.get()));
-  SendMessageW(Handle(), WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(small.get()));
-  m_largeIcon = std::move(large);  // the window has had the old ones until now
-  m_smallIcon = std::move(small);
+  m_icons.Show(Handle(), picture, CurrentLook()->Dpi());
 }
 
 void MainWindow::SplitDailyPane(int left) {

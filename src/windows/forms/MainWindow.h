@@ -12,6 +12,7 @@
 #include "windows/widgets/ListPresenter.h"
 #include "windows/widgets/MenuPresenter.h"
 #include "windows/widgets/PanePresenter.h"
+#include "windows/widgets/Pictures.h"
 #include "windows/widgets/StatusBarPresenter.h"
 #include "windows/widgets/TimerPresenter.h"
 #include "windows/widgets/ToolbarPresenter.h"
@@ -111,8 +112,7 @@ class MainWindow : public TopWindow {
   Placement m_placement;
   bool m_showsFavorites = false;
   std::optional<bool> m_showsSuspended;
-  Icon m_largeIcon;
-  Icon m_smallIcon;
+  WindowIcons m_icons;
   TimerPresenter m_timer;
   FormPresenter m_form;
   std::vector<controls::Connection> m_connections;

@@ -29,12 +29,9 @@ TextPresenter::TextPresenter(controls::Label& control, HWND parent, const Shared
 
 SIZE TextPresenter::SizeWithin(int width) const {
   RECT room{0, 0, width, 0};
-  const HDC screen = GetDC(nullptr);
-  const HGDIOBJ old = SelectObject(screen, m_font.get());
-  DrawTextW(screen, ShownText(m_control.Caption()).c_str(), -1, &room,
+  const MeasuringDevice screen(m_font.get());
+  DrawTextW(screen.Get(), ShownText(m_control.Caption()).c_str(), -1, &room,
             DT_CALCRECT | DT_WORDBREAK | DT_NOPREFIX | DT_EXPANDTABS);
-  SelectObject(screen, old);
-  ReleaseDC(nullptr, screen);
   return {room.right, room.bottom};
 }
 

@@ -6,6 +6,9 @@
 
 namespace dayvane::widgets {
 
+/// What is a command in the wParam of WM_SYSCOMMAND; the low bits are the system's own.
+inline constexpr WPARAM kSystemCommandMask = 0xFFF0;
+
 /// A window at the top of the screen, which knows how the user wants windows to look and hears when that changes.
 class TopWindow : public Window {
  public:

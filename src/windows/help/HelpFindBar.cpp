@@ -20,7 +20,8 @@ widgets::ChildWindow::Kind Label() {
 
 /// Width of a part's own text, an underlined letter's "&" counted in: it makes up for the edges.
 int WidthOf(const HelpPart& part) {
-  return static_cast<int>(widgets::TextSize(part.CurrentLook()->TextFont(), TextOf(part.Handle()).c_str()).cx);
+  return static_cast<int>(
+      widgets::TextSize(part.CurrentLook()->TextFont(), widgets::WideTextOf(part.Handle()).c_str()).cx);
 }
 
 template <class Act>
@@ -81,7 +82,7 @@ void HelpFindBar::FindWhileTyping() {
 }
 
 void HelpFindBar::Find(FindOne find) {
-  const std::wstring words = TextOf(m_words.Handle());
+  const std::wstring words = widgets::WideTextOf(m_words.Handle());
   m_notFound.SetVisible(!words.empty() && !FindOrWrap(find, words));
 }
 

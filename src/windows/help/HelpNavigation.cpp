@@ -101,7 +101,7 @@ void HelpNavigation::FocusSearch() {
 }
 
 void HelpNavigation::SearchFor() {
-  const std::string words = files::FromWide(TextOf(m_search.Handle())).value_or("");
+  const std::string words = files::FromWide(widgets::WideTextOf(m_search.Handle())).value_or("");
   const bool isWanted = m_file != nullptr && !text::Trim(words).empty();
   if (isWanted) ShowFound(words);
   m_found.SetVisible(isWanted);

@@ -44,10 +44,4 @@ LRESULT HelpPart::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   return ChildWindow::OnMessage(message, wParam, lParam);
 }
 
-std::wstring TextOf(HWND window) {
-  std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(window)) + 1, L'\0');
-  text.resize(static_cast<std::size_t>(GetWindowTextW(window, text.data(), static_cast<int>(text.size()))));
-  return text;
-}
-
 }  // namespace dayvane::help

@@ -41,7 +41,4 @@ class HelpPart : private HelpPartState, public widgets::ChildWindow {
   LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 };
 
-/// The text of an edit box or another window.
-std::wstring TextOf(HWND window);
-
 }  // namespace dayvane::help

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "windows/forms/ScreenFit.h"
 #include "windows/help/HelpBrowser.h"
 
 namespace dayvane::help {
@@ -14,16 +15,9 @@ constexpr int kTextWidth = 340;
 constexpr int kTextMargin = 8;
 constexpr int kBelowPointer = 12;  ///< between the place asked about and the window
 
-RECT RoomAt(POINT point) {
-  MONITORINFO screen{};
-  screen.cbSize = sizeof screen;
-  GetMonitorInfoW(MonitorFromPoint(point, MONITOR_DEFAULTTONEAREST), &screen);
-  return screen.rcWork;
-}
-
 /// The look of the screen that the window is to open on.
 widgets::SharedLook LookAt(HWND window, POINT at) {
-  const RECT room = RoomAt(at);
+  const RECT room = widgets::AvailableScreenAt(at);
   SetWindowPos(window, nullptr, std::clamp(at.x, room.left, room.right - 1),
                std::clamp(at.y, room.top, room.bottom - 1), 1, 1, SWP_NOZORDER | SWP_NOACTIVATE);
   return std::make_shared<widgets::Look>(GetDpiForWindow(window));
@@ -60,7 +54,7 @@ void HelpPopup::OpenAt(POINT at) const {
   GetWindowRect(m_page.Handle(), &size);
   OffsetRect(&size, -size.left, -size.top);
   AdjustWindowRectEx(&size, WS_POPUP | WS_BORDER, FALSE, WS_EX_TOOLWINDOW);
-  const RECT room = RoomAt(at);
+  const RECT room = widgets::AvailableScreenAt(at);
   const LONG width = size.right - size.left;
   const LONG height = std::min(size.bottom - size.top, room.bottom - room.top);
   POINT corner{at.x, at.y + m_look->Pixels(kBelowPointer)};

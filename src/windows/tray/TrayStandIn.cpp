@@ -1,17 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "windows/tray/TrayStandIn.h"
 
-#include <utility>
-
-#include "windows/widgets/Pictures.h"
-
 namespace dayvane::widgets {
-
-namespace {
-
-constexpr WPARAM kCommandMask = 0xFFF0;  // the low bits are the system's own (documentation of WM_SYSCOMMAND)
-
-}  // namespace
 
 TrayStandIn::TrayStandIn()
     : TopWindow({.className = L"Dayvane.TrayStandIn",
@@ -21,13 +11,7 @@ TrayStandIn::TrayStandIn()
 }
 
 void TrayStandIn::SetPicture(int picture) {
-  const UINT dpi = CurrentLook()->Dpi();
-  Icon large = PictureIcon(picture, GetSystemMetricsForDpi(SM_CXICON, dpi));
-  Icon small = PictureIcon(picture, GetSystemMetricsForDpi(SM_CXSMICON, dpi));
-  SendMessageW(Handle(), WM_SETICON, ICON_BIG, reinterpret_cast<LPARAM>(large.get()));
-  SendMessageW(Handle(), WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(small.get()));
-  m_large = std::move(large);  // last: the window uses the old ones until it has the new ones
-  m_small = std::move(small);
+  m_icons.Show(Handle(), picture, CurrentLook()->Dpi());
 }
 
 LRESULT TrayStandIn::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -39,7 +23,7 @@ LRESULT TrayStandIn::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_CLOSE:
       return 0;
     case WM_SYSCOMMAND:
-      if ((wParam & kCommandMask) == SC_CLOSE) return 0;
+      if ((wParam & kSystemCommandMask) == SC_CLOSE) return 0;
       break;
     default:
       break;

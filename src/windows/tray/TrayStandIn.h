@@ -5,6 +5,7 @@
 
 #include "controls/Signal.h"
 #include "windows/forms/TopWindow.h"
+#include "windows/widgets/Pictures.h"
 
 namespace dayvane::widgets {
 
@@ -29,8 +30,7 @@ class TrayStandIn : public TopWindow {
 
  private:
   bool m_isReady = false;
-  Icon m_large;
-  Icon m_small;
+  WindowIcons m_icons;
 };
 
 }  // namespace dayvane::widgets

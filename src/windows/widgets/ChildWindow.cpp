@@ -36,6 +36,13 @@ HWND SenderOf(UINT message, LPARAM lParam) {
 
 }  // namespace
 
+void ShowState(HWND window, const controls::Control& control) {
+  SetPropW(window, kHelpIdProperty, reinterpret_cast<HANDLE>(static_cast<INT_PTR>(control.WhatsThisHelpID())));
+  if ((IsWindowEnabled(window) != 0) != control.Enabled()) EnableWindow(window, control.Enabled() ? TRUE : FALSE);
+  const bool shown = (GetWindowLongPtrW(window, GWL_STYLE) & WS_VISIBLE) != 0;
+  if (shown != control.Visible()) ShowWindow(window, control.Visible() ? SW_SHOWNA : SW_HIDE);
+}
+
 std::optional<LRESULT> Reflect(UINT message, WPARAM wParam, LPARAM lParam) {
   const HWND sender = SenderOf(message, lParam);
   if (sender == nullptr || GetWindowThreadProcessId(sender, nullptr) != GetCurrentThreadId()) return std::nullopt;
@@ -79,11 +86,7 @@ void ChildWindow::SetSpokenName(const std::string& name) {
 }
 
 void ChildWindow::Show() {
-  SetPropW(m_handle, kHelpIdProperty, reinterpret_cast<HANDLE>(static_cast<INT_PTR>(m_control.WhatsThisHelpID())));
-  if ((IsWindowEnabled(m_handle) != 0) != m_control.Enabled())
-    EnableWindow(m_handle, m_control.Enabled() ? TRUE : FALSE);
-  const bool shown = (GetWindowLongPtrW(m_handle, GWL_STYLE) & WS_VISIBLE) != 0;
-  if (shown != m_control.Visible()) ShowWindow(m_handle, m_control.Visible() ? SW_SHOWNA : SW_HIDE);
+  ShowState(m_handle, m_control);
   ShowControl();
 }
 

@@ -76,6 +76,9 @@ class ChildWindow {
   std::vector<controls::Connection> m_connections;
 };
 
+/// Shows what every control has: its help context, and whether it is enabled and visible.
+void ShowState(HWND window, const controls::Control& control);
+
 /// Gives WM_COMMAND and WM_NOTIFY back to the child of the program's own that they are from; nothing for every other
 /// message and child.
 std::optional<LRESULT> Reflect(UINT message, WPARAM wParam, LPARAM lParam);

@@ -59,23 +59,6 @@ int WidthOf(const std::string& text, HDC device) {
   return size.cx;
 }
 
-/// The screen with a font, to measure texts.
-class MeasuringDevice {
- public:
-  explicit MeasuringDevice(HFONT font) : m_device(GetDC(nullptr)), m_old(SelectObject(m_device, font)) {}
-  MeasuringDevice(const MeasuringDevice&) = delete;
-  MeasuringDevice& operator=(const MeasuringDevice&) = delete;
-  ~MeasuringDevice() {
-    SelectObject(m_device, m_old);
-    ReleaseDC(nullptr, m_device);
-  }
-  HDC Get() const { return m_device; }
-
- private:
-  HDC m_device;
-  HGDIOBJ m_old;
-};
-
 }  // namespace
 
 std::vector<int> ColumnFit::Widths(const Look& look, int width) {

@@ -7,11 +7,8 @@ namespace dayvane::widgets {
 
 SIZE TextSize(HFONT font, const wchar_t* text) {
   SIZE size{};
-  const HDC screen = GetDC(nullptr);
-  const HGDIOBJ old = SelectObject(screen, font);
-  GetTextExtentPoint32W(screen, text, static_cast<int>(std::wcslen(text)), &size);
-  SelectObject(screen, old);
-  ReleaseDC(nullptr, screen);
+  const MeasuringDevice screen(font);
+  GetTextExtentPoint32W(screen.Get(), text, static_cast<int>(std::wcslen(text)), &size);
   return size;
 }
 

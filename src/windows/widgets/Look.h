@@ -33,6 +33,24 @@ class Look {
 
 using SharedLook = std::shared_ptr<const Look>;
 
+/// The screen with a font, to measure texts.
+class MeasuringDevice {
+ public:
+  explicit MeasuringDevice(HFONT font) : m_device(GetDC(nullptr)), m_old(SelectObject(m_device, font)) {}
+  MeasuringDevice(const MeasuringDevice&) = delete;
+  MeasuringDevice& operator=(const MeasuringDevice&) = delete;
+  ~MeasuringDevice() {
+    SelectObject(m_device, m_old);
+    ReleaseDC(nullptr, m_device);
+  }
+
+  HDC Get() const { return m_device; }
+
+ private:
+  HDC m_device;
+  HGDIOBJ m_old;
+};
+
 /// The pixels that a text of one line takes in a font.
 SIZE TextSize(HFONT font, const wchar_t* text);
 

@@ -16,12 +16,6 @@ constexpr int kArrowsWidth = 20;     ///< at 96 dots per inch
 constexpr int kRoomAboveNumber = 4;  ///< at 96 dots per inch, with the frame
 constexpr int kRoomOfCaret = 2;      ///< pixels that the system leaves above and below a line, together
 
-std::wstring TextOf(HWND window) {
-  std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(window)), L'\0');
-  text.resize(static_cast<std::size_t>(GetWindowTextW(window, text.data(), static_cast<int>(text.size()) + 1)));
-  return text;
-}
-
 }  // namespace
 
 NumberFieldPresenter::NumberFieldPresenter(controls::TextBox& text, controls::UpDown& arrows, HWND parent,
@@ -54,7 +48,7 @@ void NumberFieldPresenter::Place(const RECT& place) {
 
 void NumberFieldPresenter::ShowControl() {
   const std::wstring shown = ShownText(m_text.Text());
-  if (TextOf(Handle()) != shown) SetWindowTextW(Handle(), shown.c_str());
+  if (WideTextOf(Handle()) != shown) SetWindowTextW(Handle(), shown.c_str());
 }
 
 void NumberFieldPresenter::ShowSelection() {
@@ -64,7 +58,7 @@ void NumberFieldPresenter::ShowSelection() {
 
 std::optional<LRESULT> NumberFieldPresenter::OnCommand(UINT code) {
   if (code != EN_CHANGE || !m_isReady) return std::nullopt;
-  if (auto text = files::FromWide(TextOf(Handle()))) m_text.SetText(*std::move(text));
+  if (auto text = files::FromWide(WideTextOf(Handle()))) m_text.SetText(*std::move(text));
   return 0;
 }
 

@@ -12,16 +12,9 @@ PanePresenter::PanePresenter(controls::PictureBox& control, HWND parent, const S
               .parent = parent}),
       m_control(control),
       m_placement(Handle(), look) {
-  m_changed = control.Changed.ConnectScoped([this] { Show(); });
+  m_changed = control.Changed.ConnectScoped([this] { ShowState(Handle(), m_control); });
   m_isReady = true;
-  Show();
-}
-
-void PanePresenter::Show() {
-  SetPropW(Handle(), kHelpIdProperty, reinterpret_cast<HANDLE>(static_cast<INT_PTR>(m_control.WhatsThisHelpID())));
-  EnableWindow(Handle(), m_control.Enabled() ? TRUE : FALSE);
-  const bool shown = (GetWindowLongPtrW(Handle(), GWL_STYLE) & WS_VISIBLE) != 0;
-  if (shown != m_control.Visible()) ShowWindow(Handle(), m_control.Visible() ? SW_SHOWNA : SW_HIDE);
+  ShowState(Handle(), control);
 }
 
 LRESULT PanePresenter::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {

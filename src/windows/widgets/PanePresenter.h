@@ -21,8 +21,6 @@ class PanePresenter : public Window {
   LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
  private:
-  void Show();
-
   controls::PictureBox& m_control;
   bool m_isReady = false;
   Placement m_placement;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "windows/widgets/Pictures.h"
 
+#include <utility>
+
 #include "windows/widgets/Window.h"
 
 namespace dayvane::widgets {
@@ -27,6 +29,15 @@ Icon PictureIcon(int picture, int pixels) {
   if (loadScaledDown != nullptr && SUCCEEDED(loadScaledDown(ThisModule(), name, pixels, pixels, &icon)))
     return Icon(icon);
   return Icon(static_cast<HICON>(LoadImageW(ThisModule(), name, IMAGE_ICON, pixels, pixels, LR_DEFAULTCOLOR)));
+}
+
+void WindowIcons::Show(HWND window, int picture, UINT dpi) {
+  Icon large = PictureIcon(picture, GetSystemMetricsForDpi(SM_CXICON, dpi));
+  Icon small = PictureIcon(picture, GetSystemMetricsForDpi(SM_CXSMICON, dpi));
+  SendMessageW(window, WM_SETICON, ICON_BIG, reinterpret_cast<LPARAM>(large.get()));
+  SendMessageW(window, WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(small.get()));
+  m_large = std::move(large);  // last: the window uses the old ones until it has the new ones
+  m_small = std::move(small);
 }
 
 }  // namespace dayvane::widgets

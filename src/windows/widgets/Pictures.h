@@ -9,4 +9,15 @@ namespace dayvane::widgets {
 /// for the next larger size that there is one for, and made smaller.
 Icon PictureIcon(int picture, int pixels);
 
+/// The icons of a window, which does not own them: in its caption and task list, and where it stands for the program.
+class WindowIcons {
+ public:
+  /// Gives a window one of the program's pictures, in the sizes for its dots per inch.
+  void Show(HWND window, int picture, UINT dpi);
+
+ private:
+  Icon m_large;
+  Icon m_small;
+};
+
 }  // namespace dayvane::widgets

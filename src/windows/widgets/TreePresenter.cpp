@@ -12,8 +12,6 @@ using controls::TreeNode;
 
 namespace {
 
-constexpr int kNodeImage = 16;  ///< at 96 dots per inch
-
 HTREEITEM NextItem(HWND tree, UINT which, HTREEITEM item = nullptr) {
   return reinterpret_cast<HTREEITEM>(SendMessageW(tree, TVM_GETNEXTITEM, which, reinterpret_cast<LPARAM>(item)));
 }

@@ -30,6 +30,8 @@ class TreePresenter : public ChildWindow {
   LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
  private:
+  static constexpr int kNodeImage = 16;  ///< at 96 dots per inch
+
   // What the window shows.
   void ShowImages();
   void BeginChange();

@@ -85,7 +85,6 @@ LRESULT TreePresenter::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
 
 void TreePresenter::GiveImage(TVITEMW& item) {
   const auto* node = m_changing ? nullptr : reinterpret_cast<const TreeNode*>(item.lParam);
-  constexpr int kNodeImage = 16;  // at 96 dots per inch
   const int image = m_icons.IndexOf(node == nullptr ? nullptr : m_control.Images(), node == nullptr ? 0 : node->image,
                                     CurrentLook()->Pixels(kNodeImage));
   if ((item.mask & TVIF_IMAGE) != 0) item.iImage = image;

@@ -49,6 +49,12 @@ void SetText(HWND window, const std::string& text) {
   SetWindowTextW(window, ShownText(text).c_str());
 }
 
+std::wstring WideTextOf(HWND window) {
+  std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(window)) + 1, L'\0');
+  text.resize(static_cast<std::size_t>(GetWindowTextW(window, text.data(), static_cast<int>(text.size()))));
+  return text;
+}
+
 Window::Window(const Kind& kind) {
   RegisterKind(kind, &Window::Procedure);
   CreateWindowExW(kind.extendedStyle, kind.className, L"", kind.style, CW_USEDEFAULT, CW_USEDEFAULT, 0, 0, kind.parent,

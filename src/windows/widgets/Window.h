@@ -47,7 +47,8 @@ HINSTANCE ThisModule();
 /// A text for the screen; one that is not well formed UTF-8 is shown with what is.
 std::wstring ShownText(const std::string& text);
 
-/// The text of a window.
+/// The text of a window, as SetText gives it or its user.
 void SetText(HWND window, const std::string& text);
+std::wstring WideTextOf(HWND window);
 
 }  // namespace dayvane::widgets

@@ -60,8 +60,12 @@ def write_registry(keys):
 
 
 def install_programs():
+    """Gives the user programs of their own, whose shortcuts lie in each day's folder. They do nothing, because nobody
+    starts them."""
     keys = {}
+    (DRIVE / "Programs").mkdir()
     for program, types in CLASSES.items():
+        (DRIVE / f"Programs/{program}.exe").touch()
         for extension, description in types.items():
             name = f"{program}{extension}"
             keys[CLASSES_KEY + extension] = {"": name}
@@ -103,6 +107,7 @@ class WindowsDayvane(Record):
         found = subprocess.run(
             ["xdotool", "search", "--onlyvisible", "--name", f"^{title}"],
             stdout=subprocess.PIPE,
+            stderr=subprocess.DEVNULL,  # of windows that go meanwhile
             text=True,
             check=False,
         ).stdout.split()

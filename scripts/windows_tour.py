@@ -24,7 +24,7 @@ PAINT_SECONDS = 20
 DRIVE = pathlib.Path(os.environ["WINEPREFIX"]) / "drive_c"
 USER = "users/ana"  # below the drive
 SETTINGS_KEY = "HKEY_CURRENT_USER\\Software\\Korvath\\Dayvane\\"
-CLASSES_KEY = "HKEY_CURRENT_USER\\Software\\Classes\\"
+CLASSES_KEY = "HKEY_LOCAL_MACHINE\\Software\\Classes\\"  # Wine shows those of one user to no program
 
 # The user's programs: the types of documents that each opens, by their extensions.
 CLASSES = {

@@ -58,8 +58,13 @@ std::string NodeText(RemoteMemory& memory, HTREEITEM item) {
 
 std::string TextOf(HWND window) {
   std::array<wchar_t, 2048> text{};
-  // The system carries this one's text between processes.
-  Ask(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()));
+  try {
+    // The system carries this one's text between processes.
+    Ask(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()));
+  } catch (const std::runtime_error&) {
+    if (IsWindow(window) != 0) throw;
+    return "";  // such as the splash window, which went while it was looked at
+  }
   return files::FromWide(text.data()).value_or("(not UTF-16)");
 }
 

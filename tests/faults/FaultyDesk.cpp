@@ -182,8 +182,7 @@ class Session::Registry : public platform::Registry {
 };
 
 Session::Session(FaultyDesk& desk)
-    : m_desk(desk),
-      m_recent([&desk] { return std::chrono::nanoseconds(desk.m_desktop.clock.now.time_since_epoch()).count(); },
+    : m_recent([&desk] { return std::chrono::nanoseconds(desk.m_desktop.clock.now.time_since_epoch()).count(); },
                {desk.m_desktop.folder / kList, desk.m_desktop.NativeRecent(),
                 desk.m_desktop.NativeFolder() + "/Recent.state"},
                links::WriteShellLink, [](const std::string&) {}),

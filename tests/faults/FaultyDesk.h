@@ -60,7 +60,6 @@ class Session {
   class Shell;
   class Registry;
 
-  FaultyDesk& m_desk;
   recent::RecentFolder m_recent;
   std::unique_ptr<platform::Shell> m_shell;
   LinuxRegistry m_settings;
